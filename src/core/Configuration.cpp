@@ -1,0 +1,159 @@
+#include "core/Configuration.h"
+
+#include <algorithm>
+#include <array>
+
+#include "core/NumberText.h"
+#include "core/NumericFault.h"
+#include "core/modGeneral.h"
+
+namespace quilm {
+
+namespace {
+
+using Read = f32 (*)(const DesignRecord&);
+using Write = void (*)(DesignRecord&, f32);
+
+struct Setting {
+  const char* label;
+  f32 byDefault;
+  Read read;
+  Write write;
+};
+
+template <f32 DesignRecord::*field>
+constexpr Setting Float(const char* label, f32 byDefault) {
+  return {label, byDefault, [](const DesignRecord& r) { return r.*field; },
+          [](DesignRecord& r, f32 x) { r.*field = x; }};
+}
+
+template <i16 DesignRecord::*field>
+constexpr Setting Count(const char* label, f32 byDefault) {
+  return {label, byDefault, [](const DesignRecord& r) { return static_cast<f32>(r.*field); },
+          [](DesignRecord& r, f32 x) { r.*field = ToI16(static_cast<f64>(x)); }};
+}
+
+template <ValueAndCopy DesignRecord::*field>
+constexpr Setting First(const char* label, f32 byDefault) {
+  return {label, byDefault, [](const DesignRecord& r) { return (r.*field)[1]; },
+          [](DesignRecord& r, f32 x) { (r.*field)[1] = x; }};
+}
+
+constexpr int lineUnits = 2;
+constexpr int lineRsource = 4;
+constexpr int lineNrYints = 7;
+constexpr int lineSmithAspect = 16;
+constexpr int lineLineWidth = 17;
+
+// In the order of the file's lines.
+const std::array<Setting, settingCount> settings = {{
+    First<&DesignRecord::Qcap>("Capacitor Q values:", 2000),
+    Count<&DesignRecord::Units>("EnglishMetric:", 1),
+    First<&DesignRecord::Qind>("Inductor Q values:", 200),
+    First<&DesignRecord::Rsource>("Input termination:", 50),
+    Count<&DesignRecord::SweepMode>("Linear or log:", 2),
+    Count<&DesignRecord::NrXints>("Number of plot X steps:", 10),
+    Float<&DesignRecord::NrYints>("Number of plot Y steps:", 6),
+    Float<&DesignRecord::NrIntervals>("Number of test freq steps:", 1000),
+    Float<&DesignRecord::DelayTop>("Plot delay top:", 0.0001F),
+    Float<&DesignRecord::ImpedanceTop>("Plot impedance top:", 1200),
+    Float<&DesignRecord::LossBottom>("Plot loss bottom:", -60),
+    Float<&DesignRecord::Rstandard>("Rstandard:", 50),
+    Float<&DesignRecord::Fstart>("Starting test freq:", 1000),
+    Float<&DesignRecord::Fstop>("Stopping test freq:", 1e7F),
+    Float<&DesignRecord::VSWRTop>("Plot VSWR top:", 2.2F),
+    Float<&DesignRecord::SmithAspect>("Smith aspect ratio:", 0.75F),
+    Count<&DesignRecord::PlotLineWidth>("Plot data line width:", 1),
+}};
+
+const Setting& SettingOf(int line) { return settings[static_cast<std::size_t>(line - 1)]; }
+
+std::string Trimmed(const std::string& line) {
+  const char* blanks = " \t\r";
+  const std::size_t first = line.find_first_not_of(blanks);
+  return first == std::string::npos ? "" : line.substr(first, line.find_last_not_of(blanks) - first + 1);
+}
+
+bool IsComment(const std::string& line) {
+  return line.empty() || std::string("!*'/\\").find(line[0]) != std::string::npos;
+}
+
+f32 ValueIn(const std::string& line) {
+  const std::size_t colon = line.find(':');
+  if (colon == std::string::npos) return 0;
+  std::string entry = line.substr(colon + 1);
+  f32 value = 0;
+  ParseEntry(entry, value);
+  return value;
+}
+
+void ReadSettings(std::istream& in, Configuration& configuration) {
+  int line = 0;
+  std::string text;
+  while (line < settingCount && std::getline(in, text)) {
+    const std::string setting = Trimmed(text);
+    if (!IsComment(setting)) configuration.ConfigValue[++line] = ValueIn(setting);
+  }
+}
+
+void TakeSettings(DesignRecord& record, const Configuration& configuration) {
+  for (int line = 1; line <= settingCount; ++line) {
+    // The termination of a design is the design's own.
+    if (line != lineRsource) SettingOf(line).write(record, configuration.ConfigValue[line]);
+  }
+  record.SmithAspect = std::max(record.SmithAspect, 0.5F);
+  record.PlotLineWidth = std::max<i16>(record.PlotLineWidth, 1);
+}
+
+// What is written for a line, by the rules that keep an empty field from overwriting a preference.
+f32 WrittenValue(int line, f32 value, Configuration& configuration) {
+  f32& configured = configuration.ConfigValue[line];
+  switch (line) {
+    case lineUnits:
+      return value;
+    case lineNrYints:
+      if (value == 0 && !(configured > 3)) configured = 6;
+      return value == 0 ? configured : value;
+    case lineSmithAspect:
+      return value <= 0 ? 0.75F : value;
+    case lineLineWidth:
+      return std::clamp(value, 1.0F, 6.0F);
+    default:
+      return value == 0 ? configured : value;
+  }
+}
+
+}  // namespace
+
+void ApplyDefaults(DesignRecord& record, Configuration& configuration) {
+  for (int line = 1; line <= settingCount; ++line) {
+    const Setting& setting = SettingOf(line);
+    configuration.ConfigValue[line] = setting.byDefault;
+    setting.write(record, setting.byDefault);
+  }
+}
+
+bool ReadConfiguration(std::istream& in, DesignRecord& record, Configuration& configuration) {
+  ApplyDefaults(record, configuration);
+  ReadSettings(in, configuration);
+  try {
+    TakeSettings(record, configuration);
+    return true;
+  } catch (const NumericFault&) {
+    ApplyDefaults(record, configuration);
+    return false;
+  }
+}
+
+std::string FormatConfiguration(DesignRecord& record, Configuration& configuration, const std::string& now) {
+  std::string text = "* Quilm Configuration File\r\n\r\n* " + now + "\r\n\r\n";
+  for (int line = 1; line <= settingCount; ++line) {
+    const Setting& setting = SettingOf(line);
+    const f32 value = WrittenValue(line, setting.read(record), configuration);
+    setting.write(record, value);
+    text += setting.label + NumText(value) + "\r\n";
+  }
+  return text;
+}
+
+}  // namespace quilm

@@ -1,0 +1,35 @@
+// The user's preferred starting values, kept from one run of the program to the next.
+#pragma once
+
+#include <istream>
+#include <string>
+
+#include "core/BoundedArray.h"
+#include "core/DesignRecord.h"
+#include "core/Types.h"
+
+namespace quilm {
+
+inline constexpr int settingCount = 17;
+
+// The settings as they were read at start, by their line in the file. They stand by for fields that are empty when the
+// file is written.
+struct Configuration {
+  BoundedArray<f32, 1, settingCount> ConfigValue;
+};
+
+// Sets every setting of the record, and ConfigValue, to its default.
+void ApplyDefaults(DesignRecord& record, Configuration& configuration);
+
+// Applies the defaults, then takes up to 17 settings in order. A line that is empty or begins with "!", "*", "'", "/"
+// or
+// "\" is skipped; a setting is the entry after the first ":" of its line. Settings that a short file lacks keep their
+// defaults, and so do all when a value does not fit its field (returns false). The source termination is not taken from
+// the file: only ConfigValue receives it.
+bool ReadConfiguration(std::istream& in, DesignRecord& record, Configuration& configuration);
+
+// The text of the file, lines ended by CR LF. A field that is 0 takes the value read at start, so that an empty field
+// never overwrites a preference; the record takes that value too. `now` stands in the head of the file.
+std::string FormatConfiguration(DesignRecord& record, Configuration& configuration, const std::string& now);
+
+}  // namespace quilm

@@ -1,0 +1,222 @@
+#include "core/modGeneral.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <span>
+#include <string_view>
+
+#include "core/NumberText.h"
+
+namespace quilm {
+
+namespace {
+
+// ---- entry ----------------------------------------------------------------------------------------------------------
+
+constexpr std::size_t longestEntry = 12;
+constexpr std::size_t longestNumber = 16;
+constexpr f32 largestEntry = 1e10F;
+
+struct Multiplier {
+  std::string_view letters;
+  char spelling;
+  f32 scale;
+};
+
+constexpr Multiplier multipliers[] = {
+    {"Pp", 'p', 1e-12F},  {"Nn", 'n', 1e-9F}, {"Uu", 'u', 1e-6F}, {"m", 'm', 0.001F},
+    {"Kk", 'k', 1000.0F}, {"M", 'M', 1e6F},   {"Gg", 'G', 1e9F},
+};
+
+const Multiplier* FindMultiplier(char c) {
+  for (const Multiplier& multiplier : multipliers) {
+    if (multiplier.letters.find(c) != std::string_view::npos) return &multiplier;
+  }
+  return nullptr;
+}
+
+// Takes an entry character by character and keeps what makes a number.
+class EntryScanner {
+ public:
+  void Take(char c) {
+    if (c == ',') c = '.';
+    if (c >= '0' && c <= '9') {
+      if (kept_.size() < longestNumber && !suffixSeen_) kept_ += c;
+    } else if (c == '.') {
+      TakePoint();
+    } else if (c == '+' || c == '-') {
+      if (kept_.empty() || kept_.back() == 'E') kept_ += c;
+    } else if (!kept_.empty() && !suffixSeen_) {
+      TakeLetter(c);
+    }
+  }
+
+  const std::string& Kept() const { return kept_; }
+  f32 Scale() const { return scale_; }
+
+ private:
+  void TakePoint() {
+    if (suffixSeen_ || dotSeen_) return;
+    dotSeen_ = true;
+    kept_ += '.';
+  }
+
+  void TakeLetter(char c) {
+    if (expSeen_) return;
+    if (c == 'E' || c == 'e') {
+      expSeen_ = true;
+      dotSeen_ = true;  // no point can follow the exponent letter
+      kept_ += 'E';
+    } else if (const Multiplier* multiplier = FindMultiplier(c)) {
+      suffixSeen_ = true;
+      kept_ += multiplier->spelling;
+      scale_ = multiplier->scale;
+    }
+  }
+
+  std::string kept_;
+  bool suffixSeen_ = false;
+  bool dotSeen_ = false;
+  bool expSeen_ = false;
+  f32 scale_ = 1;
+};
+
+void TrimAndCut(std::string& text) {
+  const std::size_t first = text.find_first_not_of(' ');
+  text = first == std::string::npos ? "" : text.substr(first, text.find_last_not_of(' ') - first + 1);
+  if (text.size() > longestEntry) text.resize(longestEntry);
+}
+
+// The number that a text begins with; infinite where it leaves the range of 64 bits, 0 where there is none.
+f64 LeadingNumber(std::string_view text) {
+  if (text.starts_with('+')) text.remove_prefix(1);
+  f64 value = 0;
+  const auto [end, fault] = std::from_chars(text.data(), text.data() + text.size(), value);
+  if (fault != std::errc::result_out_of_range) return value;
+  const std::string_view number(text.data(), static_cast<std::size_t>(end - text.data()));
+  if (number.find("E-") != std::string_view::npos) return 0;
+  return text.front() == '-' ? -HUGE_VAL : HUGE_VAL;
+}
+
+// ---- display --------------------------------------------------------------------------------------------------------
+
+constexpr int byMask = -1;
+
+// From `threshold` up a value is divided by `divisor` and followed by `unit`. The number of decimals is the row's own,
+// or chosen by the scaled value. Thresholds compare in 32 bits.
+struct Row {
+  f32 threshold;
+  f64 divisor;
+  const char* unit;
+  int decimals = byMask;
+};
+
+// Decimals of a scaled value above 1000, 100, 10, 1, and of the rest.
+struct Mask {
+  int decimals[5];
+};
+
+int DecimalsOf(f32 scaled, const Mask& mask) {
+  const f32 limits[] = {1000, 100, 10, 1};
+  const auto* at = std::find_if(std::begin(limits), std::end(limits), [scaled](f32 limit) { return scaled > limit; });
+  return mask.decimals[at - std::begin(limits)];
+}
+
+// The last row serves everything below the others.
+const Row& RowOf(f32 magnitude, std::span<const Row> rows) {
+  const auto at =
+      std::find_if(rows.begin(), rows.end() - 1, [magnitude](const Row& row) { return magnitude >= row.threshold; });
+  return *at;
+}
+
+std::string ScaledText(f32 value, const Row& row, const Mask& mask, bool signedMask) {
+  const f32 scaled = static_cast<f32>(static_cast<f64>(value) / row.divisor);
+  const int decimals =
+      row.decimals != byMask ? row.decimals : DecimalsOf(signedMask ? scaled : std::fabs(scaled), mask);
+  return ShortText(RoundedTo(scaled, decimals), LeadingZero::Keep) + row.unit;
+}
+
+constexpr Row frequencyRows[] = {
+    {1e9F, 1e9, "G "}, {1e6F, 1e6, "M "}, {1000, 1000, "k "}, {1, 1, "  "}, {0, 0.001, "m "}};
+constexpr Mask frequencyMask = {{3, 3, 4, 5, 6}};
+
+constexpr Row inductanceRows[] = {{1e9F, 1e9, "GH"},     {1e6F, 1e6, "MH"},   {1000, 1000, "kH"}, {1, 1, "H"},
+                                  {0.001F, 0.001, "mH"}, {1e-6F, 1e-6, "uH"}, {0, 1e-9, "nH"}};
+constexpr Mask partMask = {{2, 3, 4, 5, 6}};
+
+// The thresholds sit a hundredfold away from the divisors so that capacitors from 0.01 uF up read in uF and all below
+// in pF. The divisor of the first row is meant too.
+constexpr Row capacitanceRows[] = {{1e7F, 1e11, "GF"},   {10000, 1e6, "MF"},  {10, 1000, "kF"}, {1, 1, "F"},
+                                   {0.01F, 0.001, "mF"}, {1e-8F, 1e-6, "uF"}, {0, 1e-12, "pF"}};
+constexpr f32 smallestCapacitance = 1e-15F;
+
+constexpr Row resistanceRows[] = {{1e9F, 1e9, "G", 3}, {1e6F, 1e6, "M", 3}, {1000, 1000, "k", 3}, {100, 1, " ", 2},
+                                  {10, 1, " ", 3},     {1, 1, " ", 4},      {0, 1, " ", 5}};
+constexpr f32 smallestResistance = 0.001F;
+
+constexpr Row timeRows[] = {{1e9F, 1e9, "G"},     {1e6F, 1e6, "M"},   {1000, 1000, "k"},  {1, 1, "  "},
+                            {0.001F, 0.001, "m"}, {1e-6F, 1e-6, "u"}, {1e-9F, 1e-9, "n"}, {0, 1e-12, "p"}};
+constexpr Mask timeMask = {{0, 1, 2, 3, 4}};
+
+constexpr Row valueRows[] = {{1e9F, 1e9, "G", 3}, {1e6F, 1e6, "M", 3}, {1000, 1000, "k", 3}, {100, 1, " ", 2},
+                             {10, 1, " ", 3},     {1, 1, " ", 4},      {0, 1, " ", 5}};
+constexpr f32 smallestValue = 1e-5F;
+
+std::string ByMagnitude(f32 value, std::span<const Row> rows, const Mask& mask) {
+  return ScaledText(value, RowOf(std::fabs(value), rows), mask, false);
+}
+
+}  // namespace
+
+void ParseEntry(std::string& Text, f32& Result) {
+  TrimAndCut(Text);
+  EntryScanner scanner;
+  for (const char c : Text) scanner.Take(c);
+  const f32 number = static_cast<f32>(LeadingNumber(scanner.Kept()));
+  Result = std::clamp(number * scanner.Scale(), -largestEntry, largestEntry);
+}
+
+std::string FormatFrequency(f32 Value) {
+  if (Value == 0) return "0.0 ";
+  // The sign counts here: a negative value falls to the last row.
+  return ScaledText(Value, RowOf(Value, frequencyRows), frequencyMask, true);
+}
+
+std::string FormatInductance(f32 Value) { return Value == 0 ? "" : ByMagnitude(Value, inductanceRows, partMask); }
+
+std::string FormatCapacitance(f32 Value) {
+  if (Value == 0) return "";
+  if (std::fabs(Value) < smallestCapacitance) return "0  ";
+  return ByMagnitude(Value, capacitanceRows, partMask);
+}
+
+std::string FormatResistance(f32 Value) {
+  if (!(Value > smallestResistance)) return "0.0   ";
+  return ByMagnitude(Value, resistanceRows, {});
+}
+
+std::string FormatTime(f32 Value) { return Value == 0 ? "0  " : ByMagnitude(Value, timeRows, timeMask); }
+
+std::string FormatValue(f32 Value) {
+  if (!(std::fabs(Value) > smallestValue)) return " 0.0000  ";
+  return ByMagnitude(Value, valueRows, {});
+}
+
+std::string PadCell(f32 Value) {
+  constexpr std::size_t cellWidth = 14;
+  std::string text = ShortText(Value, LeadingZero::Drop);
+  if (text.size() < cellWidth) text.append(cellWidth - text.size(), ' ');
+  return text;
+}
+
+f64 CosH(f32 x) { return 0.5 * (std::exp(static_cast<f64>(x)) + std::exp(-static_cast<f64>(x))); }
+
+f64 ArcCosh(f32 x) {
+  const f64 wide = static_cast<f64>(x);
+  return std::log(wide + std::sqrt(wide * wide - 1));
+}
+
+void SwapValues(f32& a, f32& b) { std::swap(a, b); }
+
+}  // namespace quilm
