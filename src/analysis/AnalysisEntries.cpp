@@ -1,0 +1,104 @@
+#include "analysis/AnalysisEntries.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "core/NumericFault.h"
+#include "core/modGeneral.h"
+
+namespace quilm {
+
+namespace {
+
+// Lines of the configuration.
+enum Setting {
+  settingQcap = 1,
+  settingQind = 3,
+  settingXints = 6,
+  settingYints = 7,
+  settingIntervals = 8,
+  settingDelayTop = 9,
+  settingImpedanceTop = 10,
+  settingLossBottom = 11,
+  settingFstart = 13,
+  settingFstop = 14,
+};
+
+constexpr f32 highestDelay = 6;
+constexpr f32 highestImpedance = 600000;
+
+f32 AboveZero(f32 configured, f32 otherwise) { return configured > 0 ? configured : otherwise; }
+
+f32 DelayOfDesign(const DesignRecord& record, f32 configured, f32 otherwise) {
+  if (record.Width > 0 && record.Order > 0) return record.Order * 0.3F / record.Width;
+  return AboveZero(configured, otherwise);
+}
+
+f32 ReferenceOf(const DesignRecord& record) {
+  if (record.Rsource[1] > 0.01F) return record.Rsource[1];
+  if (record.Rload[1] > 0.01F) return record.Rload[1];
+  return 50;
+}
+
+}  // namespace
+
+void FillMissingEntries(DesignRecord& record, const Configuration& configuration) {
+  const auto& configured = configuration.ConfigValue;
+  if (record.Fstart <= 0) record.Fstart = AboveZero(configured[settingFstart], 100);
+  if (record.Fstop <= 0) record.Fstop = AboveZero(configured[settingFstop], 100000000);
+  if (record.NrIntervals <= 0) record.NrIntervals = AboveZero(configured[settingIntervals], 1000);
+  record.SweepMode = std::clamp<i16>(record.SweepMode, 1, 2);
+  if (record.NrXints < 1) record.NrXints = ToI16(static_cast<f64>(AboveZero(configured[settingXints], 10)));
+  if (record.NrYints < 1) record.NrYints = AboveZero(configured[settingYints], 6);
+  if (record.LossBottom >= 0)
+    record.LossBottom = configured[settingLossBottom] < 0 ? configured[settingLossBottom] : -60;
+  if (record.DelayTop == 0) record.DelayTop = DelayOfDesign(record, configured[settingDelayTop], 0.001F);
+  if (record.ImpedanceTop <= 0) record.ImpedanceTop = AboveZero(configured[settingImpedanceTop], 120);
+  if (record.Qind[1] <= 0) record.Qind[1] = AboveZero(configured[settingQind], 200);
+  if (record.Qcap[1] <= 0) record.Qcap[1] = AboveZero(configured[settingQcap], 2000);
+  if (record.Rstandard <= 0) record.Rstandard = ReferenceOf(record);
+}
+
+void HoldAnalysisEntries(DesignRecord& record, const Configuration& configuration) {
+  record.NrYints = std::clamp(std::nearbyint(record.NrYints), 4.0F, 30.0F);
+  record.NrXints = std::clamp<i16>(record.NrXints, 1, 30);
+  record.NrIntervals = std::clamp(record.NrIntervals, 4.0F, 2049.0F);
+  record.LossBottom = std::clamp(-std::fabs(record.LossBottom), -120.0F, -0.6F);
+  if (record.DelayTop <= 0) {
+    record.DelayTop = DelayOfDesign(record, configuration.ConfigValue[settingDelayTop], 0.0012F);
+  }
+  record.DelayTop = std::min(record.DelayTop, highestDelay);
+  record.VSWRTop = std::clamp(record.VSWRTop, 1.05F, 7.0F);
+  record.Qind[1] = std::clamp(record.Qind[1], 2.0F, 1e7F);
+  record.Qcap[1] = std::clamp(record.Qcap[1], 2.0F, 1e7F);
+  if (record.Rsource[1] > 0.01F) {
+    record.ImpedanceTop = std::min(record.ImpedanceTop, highestImpedance);
+    if (record.ImpedanceTop < record.Rsource[1]) record.ImpedanceTop = 2 * record.Rsource[1];
+  }
+}
+
+std::string SpanText(const DesignRecord& record) {
+  return "Span: " + FormatFrequency(record.Fstop - record.Fstart) + "Hz";
+}
+
+std::string FrequencyPerIntervalText(const DesignRecord& record) {
+  return FormatFrequency((record.Fstop - record.Fstart) / record.NrXints) + "Hz per interval";
+}
+
+std::string LossPerIntervalText(const DesignRecord& record) {
+  return "per interval: " + FormatValue(std::fabs(record.LossBottom / record.NrYints)) + " dB";
+}
+
+std::string DelayPerIntervalText(const DesignRecord& record) {
+  return "per interval: " + FormatTime(std::fabs(record.DelayTop / record.NrYints)) + "secs";
+}
+
+std::string ImpedancePerIntervalText(const DesignRecord& record) {
+  return "per interval: " + FormatResistance(std::fabs(record.ImpedanceTop / record.NrYints)) + " ohms";
+}
+
+std::string VSWRPerIntervalText(const DesignRecord& record) {
+  return "per interval: " + FormatValue((record.VSWRTop - 1) / record.NrYints);
+}
+
+}  // namespace quilm

@@ -1,0 +1,28 @@
+// What the Analysis page sets: the ranges and defaults of the sweep and of the scales of the graphs.
+#pragma once
+
+#include <string>
+
+#include "core/Configuration.h"
+#include "core/DesignRecord.h"
+
+namespace quilm {
+
+// Fills in what is missing when the page loads: the configured value if there is one, else a figure that suits most
+// designs. A delay scale follows from the order and the bandwidth where both are known.
+void FillMissingEntries(DesignRecord& record, const Configuration& configuration);
+
+// Forces the scales, Q values and counts into their ranges before a plot or a table; the design's own entries and the
+// sweep limits are CheckEntries' affair. Order of the rules and the default of the delay scale differ from the page's
+// on purpose.
+void HoldAnalysisEntries(DesignRecord& record, const Configuration& configuration);
+
+// What one interval of a scale is worth, as the labels under the boxes say it.
+std::string SpanText(const DesignRecord& record);
+std::string FrequencyPerIntervalText(const DesignRecord& record);
+std::string LossPerIntervalText(const DesignRecord& record);
+std::string DelayPerIntervalText(const DesignRecord& record);
+std::string ImpedancePerIntervalText(const DesignRecord& record);
+std::string VSWRPerIntervalText(const DesignRecord& record);
+
+}  // namespace quilm

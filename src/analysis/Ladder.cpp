@@ -1,0 +1,248 @@
+#include "analysis/Ladder.h"
+
+#include <cmath>
+
+#include "core/NumericFault.h"
+
+namespace quilm {
+
+namespace {
+
+constexpr f64 noCapacitor = 1e11;  // ohms, the reactance of a capacitor of exactly 0
+constexpr f64 leakage = 1 / 1e11;  // siemens, across every tank
+constexpr f32 quarterWave = 90;
+constexpr f32 beyondQuarterWave = 90.0001F;
+
+struct Compiler {
+  const DesignRecord& record;
+  f64 lossPerHenry;  // 2 Pi Fq / Qind
+  f64 q;             // |Qcap|
+  bool fails = false;
+
+  void Inductor(CompiledStage& out, const Stage& stage);
+  void SeriesCapacitor(CompiledStage& out, const Stage& stage);
+  void ParallelCapacitor(CompiledStage& out, const Stage& stage);
+  void SeriesPair(CompiledStage& out, const Stage& stage);
+  void ShuntCapacitor(CompiledStage& out, const Stage& stage);
+  void ShuntInductor(CompiledStage& out, const Stage& stage);
+  void ShuntSeriesPair(CompiledStage& out, const Stage& stage, f64 resistance);
+  void Tank(CompiledStage& out, const Stage& stage, Form form);
+  void LineOf(CompiledStage& out, const Stage& stage, Form form, bool open);
+  void TransformerOf(CompiledStage& out, const Stage& stage);
+  void Coil(CompiledStage& out, const Stage& stage);
+  bool Take(CompiledStage& out, const Stage& stage);
+};
+
+void Compiler::Inductor(CompiledStage& out, const Stage& stage) {
+  if (record.Qind[1] == 0) fails = true;
+  out.xl = stage.Lval.value;
+  out.r = lossPerHenry * out.xl;
+}
+
+// Adds a capacitor in series form.
+void Compiler::SeriesCapacitor(CompiledStage& out, const Stage& stage) {
+  const f64 real = q / (q * q + 1);
+  const f64 imaginary = q * q / (q * q + 1);
+  const f64 C = stage.Cval.value;
+  if (C == 0) {
+    out.r += real * noCapacitor;
+    out.x += imaginary * noCapacitor;
+    return;
+  }
+  out.failsAtZero = true;
+  out.rc = real / std::fabs(C);
+  out.xc = -imaginary / C;
+}
+
+// A capacitor as conductance and susceptance.
+void Compiler::ShuntCapacitor(CompiledStage& out, const Stage& stage) {
+  out.form = Form::ShuntArm;
+  const f64 C = stage.Cval.value;
+  if (q == 0) fails = true;
+  if (C == 0) {
+    out.g = 1 / (q * noCapacitor);
+    out.b = -1 / noCapacitor;
+    return;
+  }
+  out.failsAtZero = true;
+  out.gc = std::fabs(C) / q;
+  out.bc = C;
+}
+
+// The capacitor of a tank; without one its loss resistance is 1e11 ohms too.
+void Compiler::ParallelCapacitor(CompiledStage& out, const Stage& stage) {
+  const f64 C = stage.Cval.value;
+  if (C == 0) {
+    out.g += 1 / noCapacitor;
+    out.capacitiveOffset = 1 / noCapacitor;
+    return;
+  }
+  if (q == 0) fails = true;
+  out.gc = std::fabs(C) / q;
+  out.capacitive = -C;
+}
+
+void Compiler::SeriesPair(CompiledStage& out, const Stage& stage) {
+  Inductor(out, stage);
+  SeriesCapacitor(out, stage);
+}
+
+void Compiler::ShuntInductor(CompiledStage& out, const Stage& stage) {
+  out.form = Form::ShuntSeries;
+  Inductor(out, stage);
+  out.r = std::fabs(out.r);
+  out.failsAtZero = true;
+  if (out.r == 0 || out.xl == 0) fails = true;
+}
+
+void Compiler::ShuntSeriesPair(CompiledStage& out, const Stage& stage, f64 resistance) {
+  out.form = Form::ShuntSeries;
+  out.guardsZeroX = true;
+  SeriesPair(out, stage);
+  out.r += resistance;
+}
+
+void Compiler::Tank(CompiledStage& out, const Stage& stage, Form form) {
+  out.form = form;
+  if (record.Qind[1] == 0) fails = true;
+  out.L = stage.Lval.value;
+  out.Rs = lossPerHenry * out.L;
+  out.g = leakage;
+  out.failsAtZero = true;
+  if (out.Rs == 0) fails = true;
+  ParallelCapacitor(out, stage);
+}
+
+void Compiler::LineOf(CompiledStage& out, const Stage& stage, Form form, bool open) {
+  const LineValue& line = stage.TLval;
+  const f64 degrees = line.degrees == quarterWave ? beyondQuarterWave : line.degrees;
+  out.form = form;
+  out.open = open;
+  out.z = line.impedance;
+  out.t = degrees / (static_cast<f64>(line.freq) * 360);
+  const bool dividesByImpedance = form == Form::Line || (form == Form::ShuntStub && open);
+  if (line.freq == 0 || (dividesByImpedance && line.impedance == 0)) fails = true;
+}
+
+// The reciprocal rests in 32 bits, and its overflow is a failure.
+bool ReciprocalIn32Bits(f32 value, f64& reciprocal) {
+  if (value == 0) return false;
+  const f32 rounded = static_cast<f32>(1 / static_cast<f64>(value));
+  reciprocal = rounded;
+  return std::isfinite(rounded);
+}
+
+void Compiler::TransformerOf(CompiledStage& out, const Stage& stage) {
+  out.form = Form::Transformer;
+  out.n = stage.XfmrVal.value;
+  if (!ReciprocalIn32Bits(stage.XfmrVal.value, out.reciprocal)) fails = true;
+}
+
+void Compiler::Coil(CompiledStage& out, const Stage& stage) {
+  const f64 L1 = stage.CoupledVal.primary;
+  const f64 L2 = stage.CoupledVal.secondary;
+  out.form = Form::Coupled;
+  out.failsAtZero = true;
+  out.M = static_cast<f64>(stage.CoupledVal.k) * std::sqrt(L1 * L2);
+  if (L1 * L2 < 0 || out.M == 0) fails = true;
+  out.l1M = L1 / out.M;
+  out.l2M = L2 / out.M;
+  out.leakage = (L1 * L2 - out.M * out.M) / out.M;
+}
+
+// False for a stage that passes the signal unchanged.
+bool Compiler::Take(CompiledStage& out, const Stage& stage) {
+  switch (stage.ElementType) {
+    case SeriesL:
+      Inductor(out, stage);
+      out.r = std::fabs(out.r);
+      return true;
+    case ShuntL:
+      ShuntInductor(out, stage);
+      return true;
+    case SeriesC:
+      SeriesCapacitor(out, stage);
+      return true;
+    case ShuntC:
+      ShuntCapacitor(out, stage);
+      return true;
+    case SeriesSLC:
+      SeriesPair(out, stage);
+      return true;
+    case ShuntSLC:
+      ShuntSeriesPair(out, stage, 0);
+      return true;
+    case SeriesPLC:
+      Tank(out, stage, Form::SeriesTank);
+      return true;
+    case ShuntPLC:
+      Tank(out, stage, Form::ShuntTank);
+      return true;
+    case SeriesR:
+      out.r = stage.Rval.value;
+      return true;
+    case ShuntR:
+      out.form = Form::ShuntArm;
+      if (!ReciprocalIn32Bits(stage.Rval.value, out.g)) fails = true;
+      return true;
+    case TransLine:
+      LineOf(out, stage, Form::Line, false);
+      return true;
+    case SeriesShortStub:
+      LineOf(out, stage, Form::SeriesStub, false);
+      return true;
+    case SeriesOpenStub:
+      LineOf(out, stage, Form::SeriesStub, true);
+      return true;
+    case ShuntShortStub:
+      LineOf(out, stage, Form::ShuntStub, false);
+      return true;
+    case ShuntOpenStub:
+      LineOf(out, stage, Form::ShuntStub, true);
+      return true;
+    case Transformer:
+      TransformerOf(out, stage);
+      return true;
+    case CoupledInductors:
+      Coil(out, stage);
+      return true;
+    case ShuntRLC:
+      ShuntSeriesPair(out, stage, stage.Rval.value);
+      return true;
+    case SeriesRLC:
+      Tank(out, stage, Form::SeriesTank);
+      if (stage.Rval.value == 0) fails = true;
+      out.g += 1 / static_cast<f64>(stage.Rval.value);
+      return true;
+    default:
+      return false;
+  }
+}
+
+}  // namespace
+
+f32 QualityFrequency(const DesignRecord& record) {
+  if (record.Fcenter > 0) return record.Fcenter;
+  if (record.Width > 0) return record.Width;
+  NumericFaultScope scope;
+  return scope.Store(std::sqrt(static_cast<f64>(record.Fstop) * static_cast<f64>(record.Fstart)));
+}
+
+Ladder Compile(const DesignRecord& record, f32 Fq) {
+  Compiler compiler{record, 2 * Pi * static_cast<f64>(Fq) / static_cast<f64>(record.Qind[1]),
+                    std::fabs(static_cast<f64>(record.Qcap[1]))};
+  Ladder ladder;
+  ladder.Rsource = record.Rsource[1];
+  ladder.Rload = record.Rload[1];
+  ladder.Rstandard = record.Rstandard;
+  for (int s = record.Stages; s >= 1; --s) {
+    CompiledStage compiled;
+    if (!compiler.Take(compiled, record.stage[s])) continue;
+    ladder.failsAtZero = ladder.failsAtZero || compiled.failsAtZero;
+    ladder.stages.push_back(compiled);
+  }
+  ladder.failsEverywhere = compiler.fails || ladder.Rload == 0 || ladder.Rsource == 0;
+  return ladder;
+}
+
+}  // namespace quilm

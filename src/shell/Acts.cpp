@@ -1,0 +1,106 @@
+#include "shell/Acts.h"
+
+#include <exception>
+
+#include "shell/Page.h"
+#include "shell/Session.h"
+
+namespace quilm {
+
+namespace {
+
+void Require(const Control& control) {
+  if (!control.Shown()) throw ActRefused(control.name + " is hidden");
+  if (!control.Active()) throw ActRefused(control.name + " is disabled");
+}
+
+// Counts the handlers that run one inside another (modal pages, Yield): unloaded pages may only be destroyed when none
+// of theirs can be among them.
+class Depth {
+ public:
+  explicit Depth(Session& session) : session_(session) { ++session_.handlerDepth; }
+  ~Depth() {
+    if (--session_.handlerDepth == 0) session_.pages.Sweep();
+  }
+  Depth(const Depth&) = delete;
+  Depth& operator=(const Depth&) = delete;
+
+ private:
+  Session& session_;
+};
+
+}  // namespace
+
+void RunHandler(Session& session, const std::function<void()>& handler) {
+  if (!handler || session.ended) return;
+  const Depth depth(session);
+  try {
+    handler();
+  } catch (const ProgramEnd&) {
+    session.ended = true;
+  } catch (const ActRefused&) {
+    throw;  // a script inside a modal page asked for the impossible: the script's fault, not the handler's
+  } catch (const std::exception& fault) {
+    session.platform.MessageBox(std::string("This action could not be finished:\r\n") + fault.what(), Buttons::Ok,
+                                Icon::Critical, "Error checker");
+  }
+  // Within another handler the end of the program goes on unwinding.
+  if (session.ended && session.handlerDepth > 1) throw ProgramEnd{};
+}
+
+void Click(Session& session, Control& control) {
+  Require(control);
+  if (auto* option = dynamic_cast<OptionButton*>(&control)) {
+    option->Set();
+    RunHandler(session, option->onClick);
+    return;
+  }
+  auto* button = dynamic_cast<Button*>(&control);
+  if (button == nullptr) throw ActRefused(control.name + " is no button");
+  // The handler may unload its page; the function it runs from must outlive it.
+  const std::function<void()> handler = button->onClick;
+  RunHandler(session, handler);
+}
+
+void Type(Session& session, TextBox& box, std::string text) {
+  Require(box);
+  if (box.readOnly) throw ActRefused(box.name + " cannot be typed in");
+  if (text.size() > static_cast<std::size_t>(box.maxLength)) text.resize(static_cast<std::size_t>(box.maxLength));
+  box.text = std::move(text);
+  RunHandler(session, box.onChange);
+}
+
+void Leave(Session& session, TextBox& box) { RunHandler(session, box.onLeave); }
+
+void Step(Session& session, Spin& spin, int direction) {
+  Require(spin);
+  RunHandler(session, direction > 0 ? spin.onUp : spin.onDown);
+}
+
+void Choose(Session& session, ListBox& list, int line) {
+  Require(list);
+  if (line < 1 || line > static_cast<int>(list.items.size())) {
+    throw ActRefused(list.name + " has no line " + std::to_string(line));
+  }
+  list.selected = line;
+  RunHandler(session, list.onClick);
+}
+
+void Tick(Session& session, Timer& timer) {
+  if (timer.Active()) RunHandler(session, timer.onTick);
+}
+
+void PressCloseBox(Session& session, Page& page) {
+  RunHandler(session, [&page] { page.CloseBox(); });
+}
+
+void Mouse(Session& session, PictureBox& box, MouseAct act, f32 x, f32 y, MouseButton button) {
+  Require(box);
+  const auto& handler = act == MouseAct::Down   ? box.onMouseDown
+                        : act == MouseAct::Move ? box.onMouseMove
+                                                : box.onMouseUp;
+  if (!handler) return;
+  RunHandler(session, [&] { handler(x, y, button); });
+}
+
+}  // namespace quilm

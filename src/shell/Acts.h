@@ -1,0 +1,37 @@
+// What a user can do to a page. The window, the script and the tests all come through here, so that they run the same
+// handlers under the same rules.
+#pragma once
+
+#include <string>
+
+#include "core/Fault.h"
+#include "shell/Control.h"
+
+namespace quilm {
+
+class Session;
+
+// The user could not have done that: the control is hidden or disabled, or takes no such act. what() says which.
+class ActRefused : public Fault {
+ public:
+  using Fault::Fault;
+};
+
+// Each runs the control's handler and returns when it is done. A fault that leaves a handler is told to the user in a
+// message box and ends that handler alone; ProgramEnd marks the session as ended. Acts on a control that the user
+// could not use throw ActRefused.
+void Click(Session& session, Control& control);               // a button or an option
+void Type(Session& session, TextBox& box, std::string text);  // one change that leaves `text` in the box
+void Leave(Session& session, TextBox& box);                   // the focus goes elsewhere
+void Step(Session& session, Spin& spin, int direction);       // +1 up, -1 down
+void Choose(Session& session, ListBox& list, int line);       // line from 1
+void Tick(Session& session, Timer& timer);
+void PressCloseBox(Session& session, Page& page);
+
+enum class MouseAct { Down, Move, Up };
+void Mouse(Session& session, PictureBox& box, MouseAct act, f32 x, f32 y, MouseButton button);
+
+// Runs anything as a handler runs: for the start of the program and for what is no control.
+void RunHandler(Session& session, const std::function<void()>& handler);
+
+}  // namespace quilm

@@ -1,0 +1,55 @@
+#include "shell/Canvas.h"
+
+#include <array>
+
+namespace quilm {
+
+void Canvas::Line(f32 x1, f32 y1, f32 x2, f32 y2, Color color) {
+  const std::array<Point, 2> ends{Point{x1, y1}, Point{x2, y2}};
+  Polyline(ends, color);
+}
+
+void Canvas::Polyline(std::span<const Point> points, Color color) {
+  if (points.size() < 2) return;
+  DrawPolyline(points, color);
+  CurrentX = points.back().x;
+  CurrentY = points.back().y;
+}
+
+void Canvas::Rectangle(f32 x1, f32 y1, f32 x2, f32 y2, Color color, bool filled) {
+  DrawRectangle(Point{x1, y1}, Point{x2, y2}, color, filled);
+}
+
+void Canvas::Circle(f32 x, f32 y, f32 r, Color color, f32 start, f32 stop, f32 aspect) {
+  DrawCircle(Point{x, y}, r, color, start, stop, aspect);
+}
+
+void Canvas::PSet(f32 x, f32 y, Color color) { DrawPoint(Point{x, y}, color); }
+
+void Canvas::Print(std::string_view text) {
+  DrawText(Point{CurrentX, CurrentY}, text);
+  CurrentY += TextHeight(text);
+}
+
+f32 Canvas::TextWidth(std::string_view text) const {
+  return static_cast<f32>(Metrics().WidthInPoints(text, CurrentFont()) * twipsPerPoint);
+}
+
+f32 Canvas::TextHeight(std::string_view text) const {
+  return static_cast<f32>(Metrics().HeightInPoints(text, CurrentFont()) * twipsPerPoint);
+}
+
+void Canvas::Clear() {
+  DrawClear();
+  CurrentX = 0;
+  CurrentY = 0;
+}
+
+void Canvas::SetScale(const Scale& scale) {
+  ScaleLeft = scale.left;
+  ScaleTop = scale.top;
+  ScaleWidth = scale.width;
+  ScaleHeight = scale.height;
+}
+
+}  // namespace quilm

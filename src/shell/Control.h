@@ -1,0 +1,155 @@
+// The controls of a page: plain values with one handler each. Setting a value from code never fires a handler; only a
+// user's act does (see Acts.h). The window shows whatever the values are after a handler has run.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "shell/Picture.h"
+
+namespace quilm {
+
+class Page;
+class Frame;
+
+enum class ControlKind { Button, Option, Text, Label, Frame, List, Spin, Timer, Picture };
+
+// The word for a kind in the script's page listing: "button", "option", ...
+std::string_view KindName(ControlKind kind);
+
+class Control {
+ public:
+  Control(Page& page, ControlKind kind, std::string name);
+  virtual ~Control() = default;
+  Control(const Control&) = delete;
+  Control& operator=(const Control&) = delete;
+
+  const ControlKind kind;
+  const std::string name;
+  std::string caption;  // of buttons, options, labels and frames
+  std::string toolTip;
+  std::string accessibleName;  // for screen readers, where caption and tool tip say too little
+  bool visible = true;
+  bool enabled = true;
+  Color foreColor = colorBlack;  // black stands for the palette's own text colour
+  Frame* container = nullptr;    // a hidden or disabled frame hides or disables what it holds
+
+  // Whether the user sees it, and whether the user can act on it.
+  bool Shown() const;
+  bool Usable() const { return Shown() && Active(); }
+  bool Active() const;
+
+  // The name that assistive tools speak: accessibleName, else the caption, else the tool tip, else the name.
+  std::string SpokenName() const;
+};
+
+// How a button looks, by what it is for.
+enum class ButtonRole {
+  Plain,      // dialogs and everything without a role of its own
+  Segment,    // one of the six pages in the navigation row
+  Action,     // an action of the navigation row: icon beside or above its caption
+  Tool,       // one of an even grid of tools, with a small drawn sign
+  Thumbnail,  // a picture alone: a ladder, a kind of plot
+};
+
+class Button : public Control {
+ public:
+  Button(Page& page, std::string name, std::string caption, std::string toolTip = {});
+  std::function<void()> onClick;
+  Picture picture;  // drawn on the button when not empty
+  ButtonRole role = ButtonRole::Plain;
+  bool pressed = false;  // stands pressed: the present page, the plot on display
+};
+
+// Options of one group exclude one another.
+class OptionButton;
+class OptionGroup {
+ public:
+  // The option that is set, or nullptr.
+  OptionButton* Chosen() const;
+  void Clear();
+
+ private:
+  friend class OptionButton;
+  std::vector<OptionButton*> members_;
+};
+
+class OptionButton : public Control {
+ public:
+  OptionButton(Page& page, OptionGroup& group, std::string name, std::string caption, std::string toolTip = {});
+  std::function<void()> onClick;  // runs after the option was set
+  bool Value() const { return value_; }
+  void Set();  // sets this option and clears the others of its group
+  void Unset() { value_ = false; }
+
+ private:
+  OptionGroup& group_;
+  bool value_ = false;
+};
+
+class TextBox : public Control {
+ public:
+  TextBox(Page& page, std::string name, std::string accessible, std::string toolTip = {});
+  std::string text;
+  std::function<void()> onChange;  // every keystroke
+  std::function<void()> onLeave;   // when the focus goes elsewhere: the echo of what was understood
+  bool readOnly = false;
+  bool stepsDigits = true;  // arrow keys and wheel step the digit at the cursor; false for words
+  i32 maxLength = 32767;
+
+  // Replaces the text with a value that a limit put there; the window shows it briefly in the colour of a note.
+  void Repair(std::string newText);
+  i32 Repairs() const { return repairs_; }
+
+ private:
+  i32 repairs_ = 0;
+};
+
+class Label : public Control {
+ public:
+  Label(Page& page, std::string name, std::string caption);
+  bool emphasised = false;
+};
+
+class Frame : public Control {
+ public:
+  Frame(Page& page, std::string name, std::string caption);
+  void Hold(std::initializer_list<Control*> controls);
+};
+
+class ListBox : public Control {
+ public:
+  ListBox(Page& page, std::string name, std::string accessible);
+  std::vector<std::string> items;
+  i32 selected = 0;  // 1-based, 0 for none
+  std::function<void()> onClick;
+};
+
+class Spin : public Control {
+ public:
+  Spin(Page& page, std::string name, std::string accessible, std::string toolTip = {});
+  std::function<void()> onUp;
+  std::function<void()> onDown;
+};
+
+class Timer : public Control {
+ public:
+  Timer(Page& page, std::string name, i32 milliseconds);
+  i32 interval;  // milliseconds; runs while enabled
+  std::function<void()> onTick;
+};
+
+enum class MouseButton { Left, Right };
+
+class PictureBox : public Control {
+ public:
+  PictureBox(Page& page, std::string name, std::string accessible);
+  Picture picture;
+  Picture mark;  // drawn over the picture and never part of it: the readout under the mouse
+  std::function<void(f32 x, f32 y, MouseButton)> onMouseDown;
+  std::function<void(f32 x, f32 y, MouseButton)> onMouseMove;
+  std::function<void(f32 x, f32 y, MouseButton)> onMouseUp;
+};
+
+}  // namespace quilm

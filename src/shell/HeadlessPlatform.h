@@ -1,0 +1,107 @@
+// A machine without a window: it answers what the pages ask from queues and records everything that was asked of it.
+// The script and the page tests run on it.
+#pragma once
+
+#include <deque>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "shell/Picture.h"
+#include "shell/Platform.h"
+
+namespace quilm {
+
+struct MessageShown {
+  std::string text;
+  std::string title;
+  Buttons buttons = Buttons::Ok;
+  Icon icon = Icon::None;
+  Answer answer = Answer::Ok;
+};
+
+struct FileAsked {
+  bool save = false;
+  std::string title;
+  std::string filter;
+  std::string defaultName;
+  std::optional<std::string> answer;
+};
+
+// The printer of a machine without one: keeps the sheets of the document.
+class SheetPrinter : public Picture {
+ public:
+  void NewPage() override;
+  void EndDoc() override;
+  // The finished document, valid after EndDoc.
+  const std::vector<Picture>& Sheets() const { return sheets_; }
+  bool Ended() const { return ended_; }
+  std::function<void()> onEnd;
+
+ private:
+  std::vector<Picture> sheets_;
+  bool ended_ = false;
+};
+
+class HeadlessPlatform : public Platform {
+ public:
+  explicit HeadlessPlatform(std::string programFolder) : folder_(std::move(programFolder)) {}
+
+  // Answers waiting for the next questions. A message box without one answers Ok; a Yes/No box without one is a Fault,
+  // and so is a file dialog. PrintDialog without one is cancelled.
+  std::deque<Answer> answers;
+  std::deque<std::optional<std::string>> files;
+  std::deque<bool> printers;
+
+  // What to do while the next modal pages are open, one function a page. A page that is still open afterwards gets its
+  // close box pressed.
+  std::deque<std::function<void(Page&)>> modalActs;
+
+  // Runs in every Yield.
+  std::function<void()> onYield;
+
+  // Called after each event was recorded, for whoever prints them.
+  std::function<void(const MessageShown&)> onMessage;
+  std::function<void(const FileAsked&)> onFile;
+  std::function<void(const char* event, const Page&)> onPage;  // "show", "modal", "unload"
+  std::function<void()> onBeep;
+  std::function<void(const std::string&)> onShellOpen;
+  std::function<void(const SheetPrinter&)> onPrinted;
+
+  std::optional<DateTime> clock;  // the machine's own when not set
+
+  // What happened.
+  std::vector<MessageShown> messages;
+  std::vector<FileAsked> fileDialogs;
+  std::vector<std::string> opened;      // by ShellOpen
+  std::vector<std::string> pageEvents;  // "show frmDesign", ...
+  int beeps = 0;
+  f64 paused = 0;  // seconds asked for in all
+  const SheetPrinter& Printer() const { return printer_; }
+
+  Answer MessageBox(const std::string& text, Buttons buttons, Icon icon, const std::string& title) override;
+  std::optional<std::string> OpenDialog(const std::string& title, const std::string& filter) override;
+  std::optional<std::string> SaveDialog(const std::string& title, const std::string& filter,
+                                        const std::string& defaultName) override;
+  Canvas* PrintDialog() override;
+  void Beep() override;
+  void ShellOpen(const std::string& path) override;
+  bool ShowSystemInformation() override;
+  void Yield() override;
+  void Pause(f64 seconds) override { paused += seconds; }
+  std::string ProgramFolder() override { return folder_; }
+  std::string HelpFolder() override { return folder_ + "/help"; }
+  DateTime Now() override;
+  void PageShown(Page& page) override;
+  void PageUnloaded(Page& page) override;
+  void RunModal(Page& page) override;
+
+ private:
+  std::optional<std::string> AskFile(FileAsked asked);
+  void Note(const char* event, const Page& page);
+
+  std::string folder_;
+  SheetPrinter printer_;
+};
+
+}  // namespace quilm

@@ -1,0 +1,15 @@
+#include "shell/Layout.h"
+
+namespace quilm {
+
+std::vector<Control*> ControlsOf(const Layout& layout) {
+  std::vector<Control*> controls;
+  if (layout.control != nullptr) controls.push_back(layout.control);
+  for (const Layout& item : layout.items) {
+    const std::vector<Control*> inner = ControlsOf(item);
+    controls.insert(controls.end(), inner.begin(), inner.end());
+  }
+  return controls;
+}
+
+}  // namespace quilm

@@ -1,0 +1,25 @@
+#include "shell/Page.h"
+
+#include <utility>
+
+#include "shell/Session.h"
+
+namespace quilm {
+
+Page::Page(Session& session, PageId id, std::string pageTitle)
+    : title(std::move(pageTitle)), session_(session), id_(id) {}
+
+void Page::CloseBox() { session_.pages.UnloadPage(id_); }
+
+Control* Page::Find(std::string_view name) const {
+  for (Control* control : controls_) {
+    if (control->name == name) return control;
+  }
+  return nullptr;
+}
+
+bool Page::IsOpen() const { return session_.pages.Find(id_) == this; }
+
+Control* Page::TakeFocusWish() { return std::exchange(focusWish_, nullptr); }
+
+}  // namespace quilm

@@ -1,0 +1,64 @@
+// A page of the program: named controls with handlers, a load step, a close step and a layout.
+//
+// A page that is left is unloaded and destroyed; its load step runs afresh on every visit. Whatever a page must
+// remember lives in the session.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "shell/Control.h"
+#include "shell/Layout.h"
+#include "shell/PageId.h"
+
+namespace quilm {
+
+class Session;
+
+class Page {
+ public:
+  Page(Session& session, PageId id, std::string title);
+  virtual ~Page() = default;
+  Page(const Page&) = delete;
+  Page& operator=(const Page&) = delete;
+
+  PageId Id() const { return id_; }
+  std::string_view Name() const { return FormName(id_); }
+
+  // Rebuilds the controls from the session. Runs on every visit, before the page is seen.
+  virtual void Load() {}
+
+  // The window's own close box. Unless a page says otherwise it just closes the page.
+  virtual void CloseBox();
+
+  virtual Layout MakeLayout() = 0;
+
+  // In order of declaration.
+  const std::vector<Control*>& Controls() const { return controls_; }
+  Control* Find(std::string_view name) const;
+
+  // Moves the keyboard focus; a box that loses it fires its onLeave first, as when the user leaves it.
+  void SetFocus(Control& control) { focusWish_ = &control; }
+  // The control that code wants focused, once: asking takes the wish away.
+  Control* TakeFocusWish();
+
+  // False once the page was unloaded.
+  bool IsOpen() const;
+
+  std::string title;
+  Button* acceptButton = nullptr;  // pressed by Enter
+  Button* cancelButton = nullptr;  // pressed by Escape
+
+ protected:
+  Session& session_;
+
+ private:
+  friend class Control;
+  void Register(Control& control) { controls_.push_back(&control); }
+
+  PageId id_;
+  std::vector<Control*> controls_;
+  Control* focusWish_ = nullptr;
+};
+
+}  // namespace quilm

@@ -1,0 +1,61 @@
+#include "shell/PageId.h"
+
+namespace quilm {
+
+std::string_view FormName(PageId id) {
+  switch (id) {
+    case PageId::Opening:
+      return "frmOpening";
+    case PageId::Design:
+      return "frmDesign";
+    case PageId::Schematic:
+      return "frmSchematic";
+    case PageId::Edit:
+      return "frmEditCircuit";
+    case PageId::Analyze:
+      return "frmAnalyze";
+    case PageId::Plotted:
+      return "frmPlotted";
+    case PageId::Tabulated:
+      return "frmTabulated";
+    case PageId::ManualEntry:
+      return "frmManualEntry";
+    case PageId::WriteFiles:
+      return "frmWriteFiles";
+    case PageId::Exit:
+      return "frmExit";
+    case PageId::ChangeTitle:
+      return "frmChangeTitle";
+    case PageId::AddInfo:
+      return "frmAddInfo";
+    case PageId::About:
+      return "frmAbout";
+    case PageId::EnterWidth:
+      return "frmEnterWidth";
+    case PageId::EnterCenterFreq:
+      return "frmEnterCenterFreq";
+    case PageId::EnterInput:
+      return "frmEnterInput";
+    case PageId::EnterFstopband:
+      return "frmEnterFstopband";
+    case PageId::EnterAstop:
+      return "frmEnterAstop";
+    case PageId::EnterTopology:
+      return "frmEnterTopology";
+    case PageId::Mderived:
+      return "frmMderived";
+    case PageId::SeeNormalized:
+      return "frmSeeNormalized";
+    case PageId::Help:
+      return "frmHelp";
+    case PageId::HelpFamily:
+      return "frmHelpFamily";
+    case PageId::EntryAssistance:
+      return "frmEntryAssistance";
+    case PageId::Blank:
+      return "frmBlank";
+  }
+  return "";
+}
+
+}  // namespace quilm

@@ -1,0 +1,39 @@
+// The pages of the program by name. Pages never include one another; they go by these.
+#pragma once
+
+#include <string_view>
+
+namespace quilm {
+
+enum class PageId {
+  Opening,
+  Design,
+  Schematic,
+  Edit,
+  Analyze,
+  Plotted,
+  Tabulated,
+  ManualEntry,
+  WriteFiles,
+  Exit,
+  ChangeTitle,
+  AddInfo,
+  About,
+  EnterWidth,
+  EnterCenterFreq,
+  EnterInput,
+  EnterFstopband,
+  EnterAstop,
+  EnterTopology,
+  Mderived,
+  SeeNormalized,
+  Help,
+  HelpFamily,
+  EntryAssistance,
+  Blank,
+};
+
+// The form name of a page, "frmDesign" for Design.
+std::string_view FormName(PageId id);
+
+}  // namespace quilm

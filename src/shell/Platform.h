@@ -1,0 +1,69 @@
+// What the pages ask of the machine they run on. The window implements it with a toolkit, the script and the tests
+// without one (HeadlessPlatform).
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "core/Types.h"
+
+namespace quilm {
+
+class Canvas;
+class Page;
+
+enum class Buttons { Ok, YesNo };
+enum class Icon { None, Information, Question, Exclamation, Critical };
+enum class Answer { Ok, Yes, No };
+
+struct DateTime {
+  int year = 0;
+  int month = 0;
+  int day = 0;
+  int hour = 0;
+  int minute = 0;
+  int second = 0;
+};
+
+class Platform {
+ public:
+  virtual ~Platform() = default;
+
+  // Shows the text (lines joined by CR LF) and waits for the answer. An empty title shows the program's name.
+  virtual Answer MessageBox(const std::string& text, Buttons buttons, Icon icon, const std::string& title) = 0;
+
+  // Ask for a file; filters have the form "Quilm files (*.QLM)|*.QLM". Nothing when the user cancels. The first asks
+  // for an existing file, the second asks before overwriting one.
+  virtual std::optional<std::string> OpenDialog(const std::string& title, const std::string& filter) = 0;
+  virtual std::optional<std::string> SaveDialog(const std::string& title, const std::string& filter,
+                                                const std::string& defaultName) = 0;
+
+  // Offers a printer. The canvas is valid until its EndDoc; nullptr when the user cancels.
+  virtual Canvas* PrintDialog() = 0;
+
+  virtual void Beep() = 0;
+  virtual void ShellOpen(const std::string& path) = 0;
+
+  // Starts the operating system's own system information tool; false when there is none.
+  virtual bool ShowSystemInformation() = 0;
+
+  // Lets pending events run: the one way in which a long routine sees a press of its Stop button.
+  virtual void Yield() = 0;
+
+  // Waits while the page stays visible, as the notes of the exit page do.
+  virtual void Pause(f64 seconds) = 0;
+
+  // The folder that holds the configuration and session files, without a separator at its end, and the one with the
+  // installed help pages.
+  virtual std::string ProgramFolder() = 0;
+  virtual std::string HelpFolder() = 0;
+
+  virtual DateTime Now() = 0;
+
+  // Called by the page desk. A page is shown after its load step; RunModal returns when the page has closed.
+  virtual void PageShown(Page& page) = 0;
+  virtual void PageUnloaded(Page& page) = 0;
+  virtual void RunModal(Page& page) = 0;
+};
+
+}  // namespace quilm

@@ -1,0 +1,40 @@
+// One run of the program: the current design, its responses, the settings that outlive a page, and the platform. There
+// are no globals; whoever needs a session makes one, tests as many as they like.
+#pragma once
+
+#include <random>
+#include <string>
+
+#include "core/Configuration.h"
+#include "core/DesignRecord.h"
+#include "core/Responses.h"
+#include "shell/PageDesk.h"
+#include "shell/Platform.h"
+
+namespace quilm {
+
+// The program ends at once: unwinds whatever runs, back to the dispatcher of events.
+struct ProgramEnd {};
+
+class Session {
+ public:
+  Session(Platform& runsOn, PageDirectory directory) : platform(runsOn), pages(*this, std::move(directory)) {}
+
+  DesignRecord record;
+  Responses responses;
+  Configuration configuration;  // the settings as they were read at start
+
+  // The family option that stands on the Design page, which the prototype routines read; kept here so that it is
+  // known when the page is not loaded.
+  i16 familyOption = familyNone;
+
+  std::mt19937 random;   // all random numbers of the program come from here
+  std::string note;      // what the last action did, for the status line
+  int handlerDepth = 0;  // handlers that run just now, one inside the other (see Acts.h)
+  bool ended = false;    // set when the program has ended
+
+  Platform& platform;
+  PageDesk pages;
+};
+
+}  // namespace quilm

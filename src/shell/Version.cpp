@@ -1,0 +1,7 @@
+#include "shell/Version.h"
+
+namespace quilm {
+
+std::string ProgramVersion() { return "Version " QUILM_VERSION; }
+
+}  // namespace quilm

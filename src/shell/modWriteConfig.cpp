@@ -1,0 +1,52 @@
+#include "shell/modWriteConfig.h"
+
+#include <cstdio>
+#include <fstream>
+
+#include "core/Configuration.h"
+#include "shell/Session.h"
+
+namespace quilm {
+
+namespace {
+
+std::string DateAndTime(const DateTime& now) {
+  char text[64];
+  std::snprintf(text, sizeof text, "%04d-%02d-%02d %02d:%02d:%02d", now.year, now.month, now.day, now.hour, now.minute,
+                now.second);
+  return text;
+}
+
+bool WriteText(const std::string& path, const std::string& text) {
+  std::ofstream file(path, std::ios::binary | std::ios::trunc);
+  file << text;
+  file.flush();
+  return file.good();
+}
+
+}  // namespace
+
+std::string InProgramFolder(Session& session, const std::string& name) {
+  return session.platform.ProgramFolder() + "/" + name;
+}
+
+void ReadConfig(Session& session) {
+  std::ifstream file(InProgramFolder(session, configurationFile), std::ios::binary);
+  if (file) {
+    ReadConfiguration(file, session.record, session.configuration);
+  } else {
+    ApplyDefaults(session.record, session.configuration);
+  }
+}
+
+void WriteConfig(Session& session) {
+  const std::string text =
+      FormatConfiguration(session.record, session.configuration, DateAndTime(session.platform.Now()));
+  session.record.DesignFileName = InProgramFolder(session, configurationFile);
+  if (WriteText(session.record.DesignFileName, text)) return;
+  session.platform.MessageBox(
+      "The configuration file (QuilmConfiguration.CFG) was not written.\r\nThis is not a serious problem.", Buttons::Ok,
+      Icon::Exclamation, "");
+}
+
+}  // namespace quilm

@@ -1,0 +1,27 @@
+// Keeps the user's preferences in QuilmConfiguration.CFG in the program's folder.
+#pragma once
+
+#include <string>
+
+namespace quilm {
+
+class Session;
+
+inline constexpr const char* configurationFile = "QuilmConfiguration.CFG";
+inline constexpr const char* lastSessionFile = "LASTSESSION.QLM";
+
+// The path of a file in the program's folder.
+std::string InProgramFolder(Session& session, const std::string& name);
+
+// Sets the defaults of a new session, then takes the settings of the configuration file if there is one. A file that
+// is missing or cannot be read leaves the defaults, without a message.
+void ReadConfig(Session& session);
+
+// Writes the present settings. A setting that is 0 keeps what was read at start (see FormatConfiguration); the record
+// takes that value too. Tells the user when the file cannot be written, and goes on.
+//
+// Leaves the configuration's name in DesignFileName, which holds the name of whatever file is opened. Harmless, since
+// the configuration is written before the design is, and kept.
+void WriteConfig(Session& session);
+
+}  // namespace quilm
