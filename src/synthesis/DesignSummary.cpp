@@ -1,0 +1,100 @@
+#include "synthesis/DesignSummary.h"
+
+#include <array>
+#include <vector>
+
+#include "core/modGeneral.h"
+
+namespace quilm {
+
+namespace {
+
+constexpr std::array<const char*, 12> captions = {
+    "Capacitor-input lowpass",         "Inductor-input lowpass", "Nodal capacitor-coupled bandpass",
+    "Nodal inductor-coupled bandpass", "Shunt-input bandpass",   "Series-input bandpass",
+    "Mesh capacitor-coupled bandpass", "Cauer-only bandpass",    "Capacitor-input highpass",
+    "Inductor-input highpass",         "Series-input bandstop",  "Shunt-input bandstop",
+};
+
+std::string Trimmed(const std::string& text) {
+  const auto first = text.find_first_not_of(' ');
+  if (first == std::string::npos) return {};
+  return text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
+std::string Hertz(f32 value) { return Trimmed(FormatFrequency(value)) + "Hz"; }
+
+std::string Ohms(f32 value) { return Trimmed(FormatResistance(value)); }
+
+std::string OrderText(const DesignRecord& record) {
+  if (record.Family == familyManual || record.Order < 1) return {};
+  return "order " + std::to_string(static_cast<int>(record.Order));
+}
+
+std::string Band(const DesignRecord& record) {
+  if (record.Width <= 0) return {};
+  if (record.Fcenter <= 0) return Hertz(record.Width);
+  return Hertz(record.Width) + " wide at " + Hertz(record.Fcenter);
+}
+
+// The load is known once there is a network.
+std::string Terminations(const DesignRecord& record) {
+  if (record.Rsource[1] <= 0) return {};
+  if (record.Stages == 0) return Ohms(record.Rsource[1]) + " ohms";
+  return Ohms(record.Rsource[1]) + " to " + Ohms(record.Rload[1]) + " ohms";
+}
+
+std::string FileName(const std::string& path) { return path.substr(path.find_last_of("/\\") + 1); }
+
+}  // namespace
+
+std::string FamilyName(i16 family) {
+  switch (family) {
+    case familyButterworth:
+      return "Butterworth";
+    case familyChebyshev:
+      return "Chebyshev";
+    case familyCauer:
+      return "Cauer";
+    case familyBessel:
+      return "Bessel";
+    case familyGaussian:
+      return "Gaussian";
+    case familyConstantK:
+      return "Constant-K";
+    case familyMderived:
+      return "M-derived";
+    case familyGaussian12:
+      return "Gaussian to 12";
+    case familyManual:
+      return "Manual entry";
+    default:
+      return {};
+  }
+}
+
+std::string TopologyCaption(const std::string& letter) {
+  if (letter.size() != 1 || letter[0] < 'A' || letter[0] > 'L') return {};
+  return captions[static_cast<std::size_t>(letter[0] - 'A')];
+}
+
+std::string DesignSummary(const DesignRecord& record) {
+  const std::vector<std::string> parts = {
+      FamilyName(record.Family),
+      OrderText(record),
+      TopologyCaption(record.Topology),
+      Band(record),
+      Terminations(record),
+      record.NetworkEdited == 1 ? "edited by hand" : "",
+      FileName(record.DesignFileName),
+  };
+  std::string summary;
+  for (const std::string& part : parts) {
+    if (part.empty()) continue;
+    if (!summary.empty()) summary += "  |  ";
+    summary += part;
+  }
+  return summary;
+}
+
+}  // namespace quilm

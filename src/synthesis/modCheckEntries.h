@@ -1,0 +1,45 @@
+// The check before an analysis: limits of order, stages, sweep and scales, and entries that must not be missing.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "core/DesignRecord.h"
+#include "shell/PageId.h"
+
+namespace quilm {
+
+class Session;
+
+// A message of the check. With a control to put the focus on, the check has failed; without, it repaired the entry and
+// went on.
+struct EntryFinding {
+  std::string title;
+  std::string text;
+  std::string focus;  // a control of the Design page
+  bool operator==(const EntryFinding&) const = default;
+};
+
+// A repaired entry as its box shows it. An option button is set, a label takes the text as its caption.
+struct EntryBox {
+  PageId page;
+  std::string control;
+  std::string text;
+  bool operator==(const EntryBox&) const = default;
+};
+
+struct EntryReport {
+  std::vector<EntryFinding> findings;  // in order of the rules; only the last can be a failure
+  std::vector<EntryBox> boxes;
+  bool Passed() const { return findings.empty() || findings.back().focus.empty(); }
+};
+
+// Applies the rules one after the other up to the first failure. Repairs what is out of range, with a message only
+// where the rule has one; a repair clears ResponsesValid. Nothing is a fault.
+EntryReport ExamineEntries(DesignRecord& record);
+
+// Runs ExamineEntries, shows the repaired entries in the boxes of the pages that are open, and the messages. After a
+// failed check returns to the Design page with the focus on the entry in question. True if all checks passed.
+bool CheckEntries(Session& session);
+
+}  // namespace quilm

@@ -1,0 +1,26 @@
+// Denormalisation: from the prototype to the real parts of a topology.
+#pragma once
+
+#include "core/DesignRecord.h"
+
+namespace quilm {
+
+class Session;
+
+// Fills the stage list from Gj, Hj, Rratio, Order, Rsource[1], Width, Fcenter, Family and Topology, whatever it held
+// before, and sets Stages and Rload[1]; Fcenter becomes 0 for a lowpass or highpass. Only the values of Lval and Cval
+// are written, and those of the other parts cleared; tolerances stay.
+//
+// Throws a Fault when an entry is missing or leads out of the range of numbers, e.g. a centre frequency of 0 in a
+// bandpass, order 1 in "D" and "G", or no prototype at all. The places of the stage list then hold what was stored up
+// to there, and Stages is 0: no network exists. Only finite values are stored.
+//
+// A letter without a routine leaves the record alone: "H" is built from a Cauer prototype only, "M" by hand.
+void MakeNetwork(DesignRecord& record);
+
+// Recomputes the network. When it stands (NetworkStands) nothing happens, and the result is true. On a fault, or
+// without a bandwidth, shows a message, brings up the Design page (with the focus on the bandwidth if that is what is
+// missing) and returns false: the caller goes no further.
+bool ComputeReals(Session& session);
+
+}  // namespace quilm
