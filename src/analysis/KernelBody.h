@@ -188,37 +188,37 @@ struct Walk {
 
   [[gnu::always_inline]] inline void Pass(const CompiledStage& s) {
     switch (s.form) {
-      case Form::SeriesArm: {
+      case StageForm::SeriesArm: {
         V r, x;
         ArmOf(s, r, x);
         Series(r, x);
         break;
       }
-      case Form::ShuntArm:
+      case StageForm::ShuntArm:
         Shunt(s.g + s.gc * wAbs, s.b + s.bc * w);
         break;
-      case Form::ShuntSeries:
+      case StageForm::ShuntSeries:
         ShuntSeriesPair(s);
         break;
-      case Form::SeriesTank:
+      case StageForm::SeriesTank:
         SeriesTank(s);
         break;
-      case Form::ShuntTank:
+      case StageForm::ShuntTank:
         ShuntTank(s);
         break;
-      case Form::Line:
+      case StageForm::Line:
         LineStage(s);
         break;
-      case Form::SeriesStub:
+      case StageForm::SeriesStub:
         SeriesStub(s);
         break;
-      case Form::ShuntStub:
+      case StageForm::ShuntStub:
         ShuntStub(s);
         break;
-      case Form::Transformer:
+      case StageForm::Transformer:
         TransformerStage(s);
         break;
-      case Form::Coupled:
+      case StageForm::Coupled:
         CoupledStage(s);
         break;
     }

@@ -26,8 +26,8 @@ struct Compiler {
   void ShuntCapacitor(CompiledStage& out, const Stage& stage);
   void ShuntInductor(CompiledStage& out, const Stage& stage);
   void ShuntSeriesPair(CompiledStage& out, const Stage& stage, f64 resistance);
-  void Tank(CompiledStage& out, const Stage& stage, Form form);
-  void LineOf(CompiledStage& out, const Stage& stage, Form form, bool open);
+  void Tank(CompiledStage& out, const Stage& stage, StageForm form);
+  void LineOf(CompiledStage& out, const Stage& stage, StageForm form, bool open);
   void TransformerOf(CompiledStage& out, const Stage& stage);
   void Coil(CompiledStage& out, const Stage& stage);
   bool Take(CompiledStage& out, const Stage& stage);
@@ -56,7 +56,7 @@ void Compiler::SeriesCapacitor(CompiledStage& out, const Stage& stage) {
 
 // A capacitor as conductance and susceptance.
 void Compiler::ShuntCapacitor(CompiledStage& out, const Stage& stage) {
-  out.form = Form::ShuntArm;
+  out.form = StageForm::ShuntArm;
   const f64 C = stage.Cval.value;
   if (q == 0) fails = true;
   if (C == 0) {
@@ -88,7 +88,7 @@ void Compiler::SeriesPair(CompiledStage& out, const Stage& stage) {
 }
 
 void Compiler::ShuntInductor(CompiledStage& out, const Stage& stage) {
-  out.form = Form::ShuntSeries;
+  out.form = StageForm::ShuntSeries;
   Inductor(out, stage);
   out.r = std::fabs(out.r);
   out.failsAtZero = true;
@@ -96,13 +96,13 @@ void Compiler::ShuntInductor(CompiledStage& out, const Stage& stage) {
 }
 
 void Compiler::ShuntSeriesPair(CompiledStage& out, const Stage& stage, f64 resistance) {
-  out.form = Form::ShuntSeries;
+  out.form = StageForm::ShuntSeries;
   out.guardsZeroX = true;
   SeriesPair(out, stage);
   out.r += resistance;
 }
 
-void Compiler::Tank(CompiledStage& out, const Stage& stage, Form form) {
+void Compiler::Tank(CompiledStage& out, const Stage& stage, StageForm form) {
   out.form = form;
   if (record.Qind[1] == 0) fails = true;
   out.L = stage.Lval.value;
@@ -113,14 +113,14 @@ void Compiler::Tank(CompiledStage& out, const Stage& stage, Form form) {
   ParallelCapacitor(out, stage);
 }
 
-void Compiler::LineOf(CompiledStage& out, const Stage& stage, Form form, bool open) {
+void Compiler::LineOf(CompiledStage& out, const Stage& stage, StageForm form, bool open) {
   const LineValue& line = stage.TLval;
   const f64 degrees = line.degrees == quarterWave ? beyondQuarterWave : line.degrees;
   out.form = form;
   out.open = open;
   out.z = line.impedance;
   out.t = degrees / (static_cast<f64>(line.freq) * 360);
-  const bool dividesByImpedance = form == Form::Line || (form == Form::ShuntStub && open);
+  const bool dividesByImpedance = form == StageForm::Line || (form == StageForm::ShuntStub && open);
   if (line.freq == 0 || (dividesByImpedance && line.impedance == 0)) fails = true;
 }
 
@@ -133,7 +133,7 @@ bool ReciprocalIn32Bits(f32 value, f64& reciprocal) {
 }
 
 void Compiler::TransformerOf(CompiledStage& out, const Stage& stage) {
-  out.form = Form::Transformer;
+  out.form = StageForm::Transformer;
   out.n = stage.XfmrVal.value;
   if (!ReciprocalIn32Bits(stage.XfmrVal.value, out.reciprocal)) fails = true;
 }
@@ -141,7 +141,7 @@ void Compiler::TransformerOf(CompiledStage& out, const Stage& stage) {
 void Compiler::Coil(CompiledStage& out, const Stage& stage) {
   const f64 L1 = stage.CoupledVal.primary;
   const f64 L2 = stage.CoupledVal.secondary;
-  out.form = Form::Coupled;
+  out.form = StageForm::Coupled;
   out.failsAtZero = true;
   out.M = static_cast<f64>(stage.CoupledVal.k) * std::sqrt(L1 * L2);
   if (L1 * L2 < 0 || out.M == 0) fails = true;
@@ -173,32 +173,32 @@ bool Compiler::Take(CompiledStage& out, const Stage& stage) {
       ShuntSeriesPair(out, stage, 0);
       return true;
     case SeriesPLC:
-      Tank(out, stage, Form::SeriesTank);
+      Tank(out, stage, StageForm::SeriesTank);
       return true;
     case ShuntPLC:
-      Tank(out, stage, Form::ShuntTank);
+      Tank(out, stage, StageForm::ShuntTank);
       return true;
     case SeriesR:
       out.r = stage.Rval.value;
       return true;
     case ShuntR:
-      out.form = Form::ShuntArm;
+      out.form = StageForm::ShuntArm;
       if (!ReciprocalIn32Bits(stage.Rval.value, out.g)) fails = true;
       return true;
     case TransLine:
-      LineOf(out, stage, Form::Line, false);
+      LineOf(out, stage, StageForm::Line, false);
       return true;
     case SeriesShortStub:
-      LineOf(out, stage, Form::SeriesStub, false);
+      LineOf(out, stage, StageForm::SeriesStub, false);
       return true;
     case SeriesOpenStub:
-      LineOf(out, stage, Form::SeriesStub, true);
+      LineOf(out, stage, StageForm::SeriesStub, true);
       return true;
     case ShuntShortStub:
-      LineOf(out, stage, Form::ShuntStub, false);
+      LineOf(out, stage, StageForm::ShuntStub, false);
       return true;
     case ShuntOpenStub:
-      LineOf(out, stage, Form::ShuntStub, true);
+      LineOf(out, stage, StageForm::ShuntStub, true);
       return true;
     case Transformer:
       TransformerOf(out, stage);
@@ -210,7 +210,7 @@ bool Compiler::Take(CompiledStage& out, const Stage& stage) {
       ShuntSeriesPair(out, stage, stage.Rval.value);
       return true;
     case SeriesRLC:
-      Tank(out, stage, Form::SeriesTank);
+      Tank(out, stage, StageForm::SeriesTank);
       if (stage.Rval.value == 0) fails = true;
       out.g += 1 / static_cast<f64>(stage.Rval.value);
       return true;

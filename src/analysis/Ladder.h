@@ -15,7 +15,7 @@
 namespace quilm {
 
 // The 19 element types come down to these forms.
-enum class Form : i16 {
+enum class StageForm : i16 {
   SeriesArm,    // Z = r + rc |1/w| + j (x + xl w + xc / w) in the line
   ShuntArm,     // Y = g + gc |w| + j (b + bc w) to common
   ShuntSeries,  // the reciprocal of such a Z to common
@@ -30,7 +30,7 @@ enum class Form : i16 {
 
 // One stage. Which figures carry meaning follows from the form.
 struct CompiledStage {
-  Form form = Form::SeriesArm;
+  StageForm form = StageForm::SeriesArm;
   bool failsAtZero = false;   // at w = 0
   bool guardsZeroX = false;   // ShuntSeries: a reactance of exactly 0 becomes 1e-10
   bool open = false;          // stubs: without a short at the end

@@ -1,0 +1,69 @@
+// Buttons in their five roles, and option buttons.
+#pragma once
+
+#include <QRadioButton>
+#include <QToolButton>
+
+#include "app/ControlView.h"
+
+namespace quilm {
+
+// One page of the navigation row: a flat field, the present page's standing pressed.
+class SegmentButton : public QToolButton {
+  Q_OBJECT
+
+ public:
+  explicit SegmentButton(QWidget* parent) : QToolButton(parent) {}
+  QSize sizeHint() const override;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  bool FollowsAnother() const;
+};
+
+// A picture alone; the one on display is framed in the palette's own colour.
+class ThumbnailButton : public QToolButton {
+  Q_OBJECT
+
+ public:
+  explicit ThumbnailButton(QWidget* parent) : QToolButton(parent) {}
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+};
+
+class ButtonView : public ControlView {
+ public:
+  ButtonView(Button& button, ActSink& sink, QWidget* parent);
+  void SetMnemonic(QChar letter) override { mnemonic_ = letter; }
+  void SetDefault(bool isDefault) override;
+
+ protected:
+  void ShowValues() override;
+
+ private:
+  void ShowPicture();
+
+  Button& button_;
+  QAbstractButton* widget_;
+  QChar mnemonic_;
+  Picture shown_;
+};
+
+class OptionView : public ControlView {
+ public:
+  OptionView(OptionButton& option, ActSink& sink, QWidget* parent);
+  void SetMnemonic(QChar letter) override { mnemonic_ = letter; }
+
+ protected:
+  void ShowValues() override;
+
+ private:
+  OptionButton& option_;
+  QRadioButton* widget_;
+  QChar mnemonic_;
+};
+
+}  // namespace quilm

@@ -1,0 +1,25 @@
+#include "app/Desktop.h"
+
+#include <utility>
+
+namespace quilm {
+
+Desktop::Desktop(PageDirectory directory, const QString& folder)
+    : platform(folder), session(platform, std::move(directory)), window(session, platform.SettingsPath()) {
+  PageStage& stage = platform.Stage();
+  stage.Attach(session, window);
+  stage.onEnded = [this] {
+    window.KeepPlace();
+    if (onEnded) onEnded();
+  };
+  window.onCloseBox = [&stage] { stage.PressCloseBox(); };
+}
+
+Desktop::~Desktop() { platform.Stage().Close(); }
+
+void Desktop::Start(const std::function<void(Session&)>& start) {
+  window.show();
+  platform.Stage().Perform([&](Session& started) { RunHandler(started, [&] { start(started); }); });
+}
+
+}  // namespace quilm

@@ -1,0 +1,157 @@
+#include "app/EntryView.h"
+
+#include <QKeyEvent>
+#include <QSignalBlocker>
+#include <QStyle>
+#include <QStyleOptionFrame>
+#include <QTimer>
+#include <QWheelEvent>
+#include <algorithm>
+
+#include "app/QtText.h"
+#include "shell/EntryStep.h"
+#include "shell/Session.h"
+
+namespace quilm {
+
+namespace {
+
+constexpr int entryCharacters = 12;
+constexpr int wordCharacters = 48;
+constexpr int repairMilliseconds = 2000;
+
+int WidthFor(const QLineEdit& box, int characters) {
+  constexpr int margins = 12;  // frame and the room that the widget keeps beside the text
+  return box.fontMetrics().horizontalAdvance(QLatin1Char('0')) * characters + margins;
+}
+
+}  // namespace
+
+EntryBox::EntryBox(QWidget* parent) : QLineEdit(parent) {
+  connect(this, &QLineEdit::textEdited, this, &EntryBox::Typed);
+}
+
+void EntryBox::Typed(const QString& text) {
+  touched_ = true;
+  if (onType) onType(text);
+}
+
+void EntryBox::ShowText(const QString& shown) {
+  if (text() == shown) return;
+  const QSignalBlocker quiet(this);
+  const int cursor = cursorPosition();
+  setText(shown);
+  setCursorPosition(std::min(cursor, static_cast<int>(shown.size())));
+}
+
+void EntryBox::ShowRepair() {
+  const QColor base = palette().color(QPalette::Base);
+  constexpr int darkBelow = 128;
+  QPalette warm = palette();
+  warm.setColor(QPalette::Base, base.lightness() < darkBelow ? QColor(0x5c, 0x45, 0x16) : QColor(0xff, 0xe2, 0xa8));
+  setPalette(warm);
+  QTimer::singleShot(repairMilliseconds, this, [this] { setPalette(QPalette()); });
+}
+
+void EntryBox::LeaveIfTouched() {
+  if (!touched_) return;
+  touched_ = false;
+  before_ = text();
+  if (onLeave) onLeave();
+}
+
+bool EntryBox::StepAtCursor(int direction) {
+  if (!stepsDigits || isReadOnly()) return false;
+  const auto step = StepDigit(text().toStdString(), cursorPosition(), direction);
+  if (!step) return true;
+  setText(QString::fromStdString(step->text));
+  setCursorPosition(step->cursor);
+  Typed(text());
+  setCursorPosition(std::min(step->cursor, static_cast<int>(text().size())));
+  return true;
+}
+
+bool EntryBox::Restore() {
+  if (text() == before_ || isReadOnly()) return false;
+  const QString back = before_;
+  setText(back);
+  Typed(back);
+  return true;
+}
+
+// Keys that the box takes for itself must not be taken for a shortcut of the window first.
+bool EntryBox::event(QEvent* event) {
+  if (event->type() == QEvent::ShortcutOverride) {
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    if (key == Qt::Key_Escape && text() != before_) {
+      event->accept();
+      return true;
+    }
+  }
+  return QLineEdit::event(event);
+}
+
+void EntryBox::keyPressEvent(QKeyEvent* event) {
+  const int key = event->key();
+  const bool taken = (key == Qt::Key_Up && StepAtCursor(+1)) || (key == Qt::Key_Down && StepAtCursor(-1)) ||
+                     (key == Qt::Key_Escape && Restore());
+  if (taken) {
+    event->accept();
+  } else if (key == Qt::Key_Escape) {
+    event->ignore();
+  } else {
+    QLineEdit::keyPressEvent(event);
+  }
+}
+
+void EntryBox::wheelEvent(QWheelEvent* event) {
+  if (!hasFocus() || !stepsDigits || isReadOnly()) {
+    event->ignore();
+    return;
+  }
+  constexpr int notch = QWheelEvent::DefaultDeltasPerStep;
+  wheelTurned_ += event->angleDelta().y();
+  for (; wheelTurned_ >= notch; wheelTurned_ -= notch) StepAtCursor(+1);
+  for (; wheelTurned_ <= -notch; wheelTurned_ += notch) StepAtCursor(-1);
+  event->accept();
+}
+
+void EntryBox::focusInEvent(QFocusEvent* event) {
+  // Coming back to the window is not entering the box anew.
+  const bool returned = event->reason() == Qt::ActiveWindowFocusReason || event->reason() == Qt::PopupFocusReason;
+  if (!returned || !touched_) before_ = text();
+  QLineEdit::focusInEvent(event);
+}
+
+void EntryBox::focusOutEvent(QFocusEvent* event) {
+  QLineEdit::focusOutEvent(event);
+  if (event->reason() == Qt::ActiveWindowFocusReason || event->reason() == Qt::PopupFocusReason) return;
+  touched_ = false;
+  deselect();
+  if (onLeave) onLeave();
+}
+
+EntryView::EntryView(TextBox& box, ActSink& sink, QWidget* parent)
+    : ControlView(box), box_(box), widget_(new EntryBox(parent)) {
+  const bool words = !box.stepsDigits;
+  widget_->setMaxLength(box.maxLength);
+  widget_->stepsDigits = box.stepsDigits;
+  widget_->setFixedWidth(WidthFor(*widget_, words ? wordCharacters : entryCharacters));
+  widget_->onType = [this, &sink](const QString& text) {
+    sink.Perform([this, typed = text.toStdString()](Session& session) { Type(session, box_, typed); });
+  };
+  widget_->onLeave = [this, &sink] {
+    if (sink.IsOnTop()) sink.Perform([this](Session& session) { Leave(session, box_); });
+  };
+  SetWidget(widget_);
+}
+
+void EntryView::ShowValues() {
+  widget_->ShowText(ToQt(box_.text));
+  if (widget_->isReadOnly() != box_.readOnly) widget_->setReadOnly(box_.readOnly);
+  if (box_.Repairs() == repairsShown_) return;
+  repairsShown_ = box_.Repairs();
+  widget_->ShowRepair();
+}
+
+}  // namespace quilm

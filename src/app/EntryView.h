@@ -1,0 +1,59 @@
+// Text boxes: every keystroke is a change, leaving the box echoes what was understood.
+#pragma once
+
+#include <QLineEdit>
+#include <QPalette>
+#include <functional>
+
+#include "app/ControlView.h"
+
+namespace quilm {
+
+class EntryBox : public QLineEdit {
+  Q_OBJECT
+
+ public:
+  explicit EntryBox(QWidget* parent);
+
+  std::function<void(const QString&)> onType;  // the text after a keystroke
+  std::function<void()> onLeave;
+  bool stepsDigits = true;
+
+  // Shows another text, the cursor where it was.
+  void ShowText(const QString& text);
+  // Shows briefly that a limit has replaced the text.
+  void ShowRepair();
+  // Leaves the box in the program's eyes while it keeps the focus; nothing when nothing was typed since.
+  void LeaveIfTouched();
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+  void wheelEvent(QWheelEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
+  bool event(QEvent* event) override;
+
+ private:
+  void Typed(const QString& text);
+  bool StepAtCursor(int direction);
+  bool Restore();
+
+  QString before_;  // when the box was entered
+  bool touched_ = false;
+  int wheelTurned_ = 0;  // eighths of a degree not yet stepped
+};
+
+class EntryView : public ControlView {
+ public:
+  EntryView(TextBox& box, ActSink& sink, QWidget* parent);
+
+ protected:
+  void ShowValues() override;
+
+ private:
+  TextBox& box_;
+  EntryBox* widget_;
+  i32 repairsShown_ = 0;
+};
+
+}  // namespace quilm

@@ -1,0 +1,143 @@
+#include "app/MainWindow.h"
+
+#include <QCloseEvent>
+#include <QGuiApplication>
+#include <QPainter>
+#include <QScreen>
+#include <QScrollArea>
+#include <QSettings>
+#include <QVBoxLayout>
+#include <utility>
+
+#include "app/PageView.h"
+#include "app/QtText.h"
+#include "shell/Session.h"
+
+namespace quilm {
+
+namespace {
+
+constexpr QSize usualSize(1280, 860);
+constexpr QSize smallestSize(800, 560);  // below the size that pages are made for they scroll
+constexpr int margin = 8;
+
+}  // namespace
+
+StatusText::StatusText(Qt::Alignment alignment, QWidget* parent) : QWidget(parent), alignment_(alignment) {
+  setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+}
+
+void StatusText::Show(const QString& text) {
+  if (text_ == text) return;
+  text_ = text;
+  setToolTip(text);
+  setAccessibleName(text);
+  update();
+}
+
+QSize StatusText::sizeHint() const {
+  constexpr int aboveAndBelow = 8;
+  return QSize(0, fontMetrics().height() + aboveAndBelow);
+}
+
+void StatusText::paintEvent(QPaintEvent* /*event*/) {
+  QPainter painter(this);
+  painter.setPen(palette().color(QPalette::WindowText));
+  painter.drawText(rect(), static_cast<int>(alignment_ | Qt::AlignVCenter),
+                   fontMetrics().elidedText(text_, Qt::ElideRight, width()));
+}
+
+MainWindow::MainWindow(Session& session, QString settingsPath)
+    : session_(session),
+      settingsPath_(std::move(settingsPath)),
+      pages_(new QStackedWidget),
+      left_(new StatusText(Qt::AlignLeft)),
+      right_(new StatusText(Qt::AlignRight)) {
+  setWindowTitle(QStringLiteral("Quilm"));
+  setMinimumSize(smallestSize);
+  auto* whole = new QWidget;
+  auto* column = new QVBoxLayout(whole);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->setSpacing(0);
+  column->addWidget(pages_, 1);
+  auto* rule = new QFrame;
+  rule->setFrameStyle(static_cast<int>(QFrame::HLine) | static_cast<int>(QFrame::Sunken));
+  column->addWidget(rule);
+  auto* status = new QHBoxLayout;
+  status->setContentsMargins(margin, 0, margin, 0);
+  status->setSpacing(2 * margin);
+  constexpr int leftShare = 3;
+  constexpr int rightShare = 2;
+  status->addWidget(left_, leftShare);
+  status->addWidget(right_, rightShare);
+  column->addLayout(status);
+  setCentralWidget(whole);
+  RestorePlace();
+}
+
+MainWindow::~MainWindow() = default;
+
+void MainWindow::RestorePlace() {
+  const QSettings settings(settingsPath_, QSettings::IniFormat);
+  if (restoreGeometry(settings.value(QStringLiteral("window/geometry")).toByteArray())) return;
+  QSize size = usualSize;
+  if (const QScreen* primary = QGuiApplication::primaryScreen()) size = size.boundedTo(primary->availableSize());
+  resize(size);
+}
+
+void MainWindow::KeepPlace() const {
+  QSettings settings(settingsPath_, QSettings::IniFormat);
+  settings.setValue(QStringLiteral("window/geometry"), saveGeometry());
+}
+
+// Each page stands in an area that scrolls when the window is smaller than the page can be, so that no page can ever
+// change the window's size.
+void MainWindow::AddPage(PageView& view) {
+  auto* holder = new QScrollArea;
+  holder->setFrameShape(QFrame::NoFrame);
+  holder->setWidgetResizable(true);
+  holder->setFocusPolicy(Qt::NoFocus);
+  holder->setWidget(&view);
+  pages_->addWidget(holder);
+}
+
+QWidget* MainWindow::HolderOf(const PageView& view) const {
+  for (int i = 0; i < pages_->count(); ++i) {
+    if (static_cast<QScrollArea*>(pages_->widget(i))->widget() == &view) return pages_->widget(i);
+  }
+  return nullptr;
+}
+
+void MainWindow::ShowPage(PageView& view, const QString& title) {
+  QWidget* holder = HolderOf(view);
+  if (holder == nullptr) return;
+  const bool named = !title.isEmpty() && title != QLatin1String("Quilm");
+  setWindowTitle(named ? title + QStringLiteral(" - Quilm") : QStringLiteral("Quilm"));
+  if (pages_->currentWidget() == holder) return;
+  pages_->setCurrentWidget(holder);
+  view.FocusFirst();
+}
+
+void MainWindow::RemovePage(PageView& view) {
+  QWidget* holder = HolderOf(view);
+  if (holder == nullptr) return;
+  pages_->removeWidget(holder);
+  holder->hide();
+  holder->deleteLater();
+}
+
+void MainWindow::SyncStatus() {
+  left_->Show(summary ? ToQt(summary()) : QString());
+  right_->Show(ToQt(session_.note));
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+  if (session_.ended || !onCloseBox) {
+    event->accept();
+    return;
+  }
+  event->ignore();
+  onCloseBox();
+}
+
+}  // namespace quilm

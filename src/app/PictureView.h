@@ -1,0 +1,60 @@
+// Shows a picture box: its picture on white paper, in its own proportions, as large as the room allows.
+#pragma once
+
+#include <QImage>
+#include <QWidget>
+#include <functional>
+
+#include "app/QtCanvas.h"
+#include "shell/Acts.h"
+
+namespace quilm {
+
+class PictureView : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit PictureView(QWidget* parent = nullptr);
+
+  // Takes over what the box shows; cheap when nothing has changed.
+  void Show(const Picture& picture, const Picture& mark);
+
+  // Called with the position in user scale. The pages get no event outside the paper.
+  std::function<void(MouseAct, f32 x, f32 y, MouseButton)> onMouse;
+
+  // Puts the picture on the clipboard, on white paper.
+  void Copy() const;
+
+  // Writes it to a file: PNG, SVG or PDF by the extension. False when that cannot be done.
+  bool SaveAs(const QString& path) const;
+
+  // The paper within the widget.
+  QRectF Paper() const;
+  Point ToUser(QPointF place) const;
+
+  QSize sizeHint() const override;
+  QSize minimumSizeHint() const override;
+
+ signals:
+  void SaveRequested();
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
+
+ private:
+  QImage Render(QSize size, f64 density) const;
+  void RefreshSheet();
+  bool Pass(MouseAct act, QMouseEvent* event);
+  void ReleaseForMenu(QPointF place);
+
+  Picture picture_;
+  Picture mark_;
+  bool rightDown_ = false;  // the page was told
+  QImage sheet_;            // the picture without its mark, in device pixels
+};
+
+}  // namespace quilm

@@ -1,0 +1,174 @@
+#include "app/PlainViews.h"
+
+#include <QScrollBar>
+#include <QSignalBlocker>
+#include <QVBoxLayout>
+
+#include "app/QtText.h"
+#include "shell/Session.h"
+
+namespace quilm {
+
+namespace {
+
+constexpr int wrapBeyond = 90;  // characters in a line of a label
+constexpr int wrappedWidth = 520;
+constexpr int listLines = 10;
+
+bool HasLongLine(const QString& text) {
+  for (const QString& line : text.split(QLatin1Char('\n'))) {
+    if (line.size() > wrapBeyond) return true;
+  }
+  return false;
+}
+
+}  // namespace
+
+LabelView::LabelView(Label& label, QWidget* parent) : ControlView(label), label_(label), widget_(new QLabel(parent)) {
+  widget_->setTextFormat(Qt::PlainText);
+  widget_->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+  if (label.emphasised) {
+    QFont font = widget_->font();
+    constexpr f64 larger = 1.25;
+    font.setPointSizeF(font.pointSizeF() * larger);
+    font.setBold(true);
+    widget_->setFont(font);
+  }
+  SetWidget(widget_);
+}
+
+void LabelView::ShowValues() {
+  const QString text = ToQt(label_.caption);
+  if (widget_->text() != text) {
+    widget_->setText(text);
+    const bool wraps = HasLongLine(text);
+    if (wraps) widget_->setMinimumWidth(wrappedWidth);
+    widget_->setWordWrap(wraps);
+  }
+  if (label_.foreColor == colorShown_) return;
+  colorShown_ = label_.foreColor;
+  QPalette colors;
+  colors.setColor(QPalette::WindowText,
+                  ReadableOn(colors.color(QPalette::Window), colors.color(QPalette::WindowText), label_.foreColor));
+  widget_->setPalette(colors);
+}
+
+QLabel* MakeHeading(const std::string& title, bool nested, QWidget* parent) {
+  auto* heading = new QLabel(ToQt(title), parent);
+  heading->setTextFormat(Qt::PlainText);
+  if (nested) {
+    heading->setForegroundRole(QPalette::PlaceholderText);
+  } else {
+    QFont font = heading->font();
+    font.setWeight(QFont::DemiBold);
+    heading->setFont(font);
+  }
+  heading->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+  return heading;
+}
+
+FrameView::FrameView(Frame& frame, QWidget* parent) : ControlView(frame), frame_(frame), widget_(new QWidget(parent)) {
+  SetWidget(widget_);
+}
+
+// The heading, if the layout gave the frame one, is the first label in it.
+void FrameView::ShowValues() {
+  auto* heading = widget_->findChild<QLabel*>(QStringLiteral("heading"), Qt::FindDirectChildrenOnly);
+  if (heading == nullptr) return;
+  const QString caption = ToQt(frame_.caption);
+  if (heading->text() != caption) heading->setText(caption);
+  if (heading->isHidden() != caption.isEmpty()) heading->setVisible(!caption.isEmpty());
+}
+
+ListView::ListView(ListBox& list, ActSink& sink, QWidget* parent)
+    : ControlView(list), list_(list), widget_(new QListWidget(parent)) {
+  widget_->setUniformItemSizes(true);
+  widget_->setMinimumHeight(widget_->fontMetrics().lineSpacing() * listLines);
+  SetWidget(widget_);
+  QObject::connect(widget_, &QListWidget::itemClicked, widget_, [this, &sink](QListWidgetItem* item) {
+    sink.Press([this, line = widget_->row(item) + 1](Session& session) { Choose(session, list_, line); });
+  });
+  QObject::connect(widget_, &QListWidget::currentRowChanged, widget_, [this, &sink](int row) {
+    // A click is told by itemClicked; here the arrow keys have moved the line.
+    if (row < 0 || !widget_->hasFocus()) return;
+    if (QGuiApplication::mouseButtons() != Qt::NoButton) return;
+    sink.Press([this, line = row + 1](Session& session) { Choose(session, list_, line); });
+  });
+}
+
+void ListView::ShowValues() {
+  const QSignalBlocker quiet(widget_);
+  if (shown_ != list_.items) {
+    shown_ = list_.items;
+    const int scrolled = widget_->verticalScrollBar()->value();
+    widget_->clear();
+    for (const std::string& item : shown_) widget_->addItem(ToQt(item));
+    widget_->verticalScrollBar()->setValue(scrolled);
+  }
+  if (widget_->currentRow() != list_.selected - 1) widget_->setCurrentRow(list_.selected - 1);
+}
+
+SpinView::SpinView(Spin& spin, ActSink& sink, QWidget* parent) : ControlView(spin), spin_(spin) {
+  auto* both = new QWidget(parent);
+  auto* column = new QVBoxLayout(both);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->setSpacing(0);
+  both->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+  SetWidget(both);
+  AddArrow(Qt::UpArrow, "up", +1, sink);
+  AddArrow(Qt::DownArrow, "down", -1, sink);
+}
+
+void SpinView::AddArrow(Qt::ArrowType arrow, const char* spoken, int direction, ActSink& sink) {
+  constexpr int width = 20;
+  constexpr int height = 12;
+  auto* button = new QToolButton(Widget());
+  button->setArrowType(arrow);
+  button->setFixedSize(width, height);
+  button->setAutoRepeat(true);
+  button->setFocusPolicy(Qt::StrongFocus);
+  button->setAccessibleName(ToQt(spin_.SpokenName() + ", " + spoken));
+  Widget()->layout()->addWidget(button);
+  QObject::connect(button, &QAbstractButton::clicked, button, [this, direction, &sink] {
+    sink.Press([this, direction](Session& session) { Step(session, spin_, direction); });
+  });
+}
+
+TimerView::TimerView(Timer& timer, ActSink& sink, QWidget* parent)
+    : ControlView(timer), timer_(timer), clock_(new QTimer(parent)) {
+  QObject::connect(clock_, &QTimer::timeout, clock_,
+                   [this, &sink] { sink.Perform([this](Session& session) { Tick(session, timer_); }); });
+}
+
+TimerView::~TimerView() { clock_->stop(); }
+
+void TimerView::ShowValues() {
+  if (!timer_.Active()) {
+    clock_->stop();
+  } else if (!clock_->isActive() || clock_->interval() != timer_.interval) {
+    clock_->start(timer_.interval);
+  }
+}
+
+PictureBoxView::PictureBoxView(PictureBox& box, ActSink& sink, QWidget* parent)
+    : ControlView(box), box_(box), view_(new PictureView(parent)) {
+  view_->onMouse = [this, &sink](MouseAct act, f32 x, f32 y, MouseButton button) {
+    const auto& handler = act == MouseAct::Down   ? box_.onMouseDown
+                          : act == MouseAct::Move ? box_.onMouseMove
+                                                  : box_.onMouseUp;
+    if (!handler) return;
+    sink.Perform([=, this](Session& session) { Mouse(session, box_, act, x, y, button); });
+  };
+  QObject::connect(view_, &PictureView::SaveRequested, view_, [this, &sink] {
+    sink.Perform([view = view_](Session& session) {
+      RunHandler(session, [&] {
+        const auto path = session.platform.SaveDialog(
+            "Save picture", "PNG picture (*.PNG)|*.PNG|SVG drawing (*.SVG)|*.SVG|PDF document (*.PDF)|*.PDF", "");
+        if (path && !view->SaveAs(QString::fromStdString(*path))) throw Fault("The picture could not be written.");
+      });
+    });
+  });
+  SetWidget(view_);
+}
+
+}  // namespace quilm

@@ -1,0 +1,38 @@
+#include "app/PrinterCanvas.h"
+
+#include <utility>
+
+namespace quilm {
+
+namespace {
+
+constexpr f64 pixelsPerInch = 96;  // what a pen width counts on paper
+
+Surface SheetOf(const QPrinter& printer) {
+  return {.target = QRectF(QPointF(0, 0), printer.pageRect(QPrinter::DevicePixel).size()),
+          .pixel = printer.resolution() / pixelsPerInch,
+          .density = 1,
+          .smallestText = 0,
+          .paper = true};
+}
+
+}  // namespace
+
+detail::PrintJob::PrintJob(std::unique_ptr<QPrinter> device)
+    : printer(std::move(device)), painter(), ready(painter.begin(printer.get())) {}
+
+PrinterCanvas::PrinterCanvas(std::unique_ptr<QPrinter> device)
+    : PrintJob(std::move(device)), QtCanvas(painter, SheetOf(*printer)) {
+  const QSizeF points = printer->pageRect(QPrinter::Point).size();
+  SetScale({0, 0, static_cast<f32>(points.width() * twipsPerPoint), static_cast<f32>(points.height() * twipsPerPoint)});
+}
+
+void PrinterCanvas::NewPage() {
+  printer->newPage();
+  CurrentX = 0;
+  CurrentY = 0;
+}
+
+void PrinterCanvas::EndDoc() { painter.end(); }
+
+}  // namespace quilm

@@ -1,0 +1,258 @@
+#include "app/QtCanvas.h"
+
+#include <QFontMetricsF>
+#include <QPainterPath>
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+
+#include "app/QtText.h"
+
+namespace quilm {
+
+namespace {
+
+// Far outside any surface, and well within what the painter's rasteriser can count.
+constexpr f64 farAway = 16000;
+
+// Cuts a segment to the square of `farAway` around the origin. False when nothing of it lies inside.
+// Liang and Barsky, A New Concept and Method for Line Clipping, ACM Transactions on Graphics 3 (1984).
+bool CutSegment(QPointF& from, QPointF& to) {
+  const QPointF delta = to - from;
+  f64 enter = 0;
+  f64 leave = 1;
+  const auto cut = [&](f64 slope, f64 room) {
+    if (slope == 0) return room >= 0;
+    const f64 at = room / slope;
+    if (slope < 0) {
+      enter = std::max(enter, at);
+    } else {
+      leave = std::min(leave, at);
+    }
+    return enter <= leave;
+  };
+  const bool inside = cut(-delta.x(), from.x() + farAway) && cut(delta.x(), farAway - from.x()) &&
+                      cut(-delta.y(), from.y() + farAway) && cut(delta.y(), farAway - from.y());
+  if (!inside) return false;
+  const QPointF start = from;
+  if (leave < 1) to = start + delta * leave;
+  if (enter > 0) from = start + delta * enter;
+  return true;
+}
+
+bool IsFinite(QPointF point) { return std::isfinite(point.x()) && std::isfinite(point.y()); }
+
+constexpr f64 linePitch = 1.15;  // of an em, as the font metrics have it
+constexpr f64 baseline = 0.92;   // of an em below the top of the line
+
+}  // namespace
+
+QFont PainterFont(const Font& font, f64 emHeight, const QPaintDevice& device) {
+  const bool fixed = font.name.find("Courier") != std::string::npos || font.name.find("Mono") != std::string::npos;
+  QFont result;
+  if (fixed) {
+    result.setFamilies({"Courier New", "Liberation Mono", "DejaVu Sans Mono"});
+    result.setStyleHint(QFont::TypeWriter);
+  } else {
+    result.setFamilies({"Arial", "Liberation Sans", "Nimbus Sans", "DejaVu Sans"});
+    result.setStyleHint(QFont::SansSerif);
+  }
+  constexpr f64 pointsPerInch = 72;
+  result.setPointSizeF(std::max(emHeight * pointsPerInch / device.logicalDpiY(), 0.1));
+  result.setBold(font.bold);
+  result.setHintingPreference(QFont::PreferVerticalHinting);
+  return result;
+}
+
+QtCanvas::QtCanvas(QPainter& painter, const Surface& surface) : painter_(painter), surface_(surface) {
+  painter_.setClipRect(surface_.target);
+}
+
+QColor QtCanvas::Ink(Color color) const { return ToQt(color); }
+
+QPointF QtCanvas::Map(Point point) const {
+  return {surface_.target.left() + (static_cast<f64>(point.x) - static_cast<f64>(ScaleLeft)) * UnitsPerX(),
+          surface_.target.top() + (static_cast<f64>(point.y) - static_cast<f64>(ScaleTop)) * UnitsPerY()};
+}
+
+QPen QtCanvas::MakePen(const QColor& ink) const {
+  const f64 width = PenWidth();
+  QPen pen(ink, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
+  if (DrawStyle == LineStyle::Solid) return pen;
+  // The toolkit counts dashes in pen widths; they keep their length under wider pens.
+  constexpr f64 dashLength = 6;
+  constexpr f64 dotLength = 1.5;
+  constexpr f64 gapLength = 3;
+  const f64 mark = (DrawStyle == LineStyle::Dash ? dashLength : dotLength) * surface_.pixel / width;
+  pen.setDashPattern({mark, gapLength * surface_.pixel / width});
+  pen.setCapStyle(Qt::FlatCap);
+  return pen;
+}
+
+// The nearest place where a line of the present width covers whole device pixels.
+f64 QtCanvas::OntoPixel(f64 coordinate) const {
+  const f64 devicePixels = coordinate * surface_.density;
+  const auto width = std::max<long>(std::lround(PenWidth() * surface_.density), 1);
+  const f64 whole = width % 2 == 1 ? std::floor(devicePixels) + 0.5 : std::round(devicePixels);
+  return whole / surface_.density;
+}
+
+QPointF QtCanvas::OntoPixels(QPointF point) const { return {OntoPixel(point.x()), OntoPixel(point.y())}; }
+
+// Sets the painter up for one operation. False when nothing is to be drawn.
+bool QtCanvas::Prepare(const QColor& ink, bool smooth) {
+  if (ink.alpha() == 0) return false;
+  const bool exclusiveOr = DrawMode == PenMode::ExclusiveOr;
+  // A mark that a second drawing takes away again is a thing of the screen; paper cannot take it away.
+  if (exclusiveOr && surface_.paper) return false;
+  painter_.setCompositionMode(exclusiveOr ? QPainter::RasterOp_SourceXorDestination
+                                          : QPainter::CompositionMode_SourceOver);
+  painter_.setRenderHint(QPainter::Antialiasing, smooth && !exclusiveOr);
+  painter_.setPen(MakePen(ink));
+  painter_.setBrush(Qt::NoBrush);
+  return true;
+}
+
+void QtCanvas::DrawPolyline(std::span<const Point> points, Color color) {
+  const QColor ink = Ink(color);
+  const bool upright = points.size() == 2 && (points[0].x == points[1].x || points[0].y == points[1].y);
+  if (!upright) {
+    if (Prepare(ink, true)) StrokeTrace(points, ink);
+    return;
+  }
+  QPointF from = Map(points[0]);
+  QPointF to = Map(points[1]);
+  if (!IsFinite(from) || !IsFinite(to) || !CutSegment(from, to) || !Prepare(ink, false)) return;
+  QPen pen = painter_.pen();
+  if (DrawStyle == LineStyle::Solid) pen.setCapStyle(Qt::SquareCap);
+  painter_.setPen(pen);
+  painter_.drawLine(OntoPixels(from), OntoPixels(to));
+}
+
+// One stroke from point to point. It is broken where the trace leaves what the painter can count, or where a point has
+// no place.
+void QtCanvas::StrokeTrace(std::span<const Point> points, const QColor& ink) {
+  painter_.setPen(MakePen(ink));
+  QPolygonF run;
+  const auto flush = [&] {
+    if (run.size() > 1) painter_.drawPolyline(run);
+    run.clear();
+  };
+  for (std::size_t i = 1; i < points.size(); ++i) {
+    QPointF from = Map(points[i - 1]);
+    QPointF to = Map(points[i]);
+    const QPointF end = to;
+    if (!IsFinite(from) || !IsFinite(to) || !CutSegment(from, to)) {
+      flush();
+      continue;
+    }
+    if (run.isEmpty() || run.last() != from) {
+      flush();
+      run << from;
+    }
+    run << to;
+    if (to != end) flush();
+  }
+  flush();
+}
+
+void QtCanvas::DrawRectangle(Point from, Point to, Color color, bool filled) {
+  QPointF a = Map(from);
+  QPointF b = Map(to);
+  const QColor ink = Ink(color);
+  if (!IsFinite(a) || !IsFinite(b) || !Prepare(ink, false)) return;
+  const auto near = [](QPointF p) {
+    return QPointF(std::clamp(p.x(), -farAway, farAway), std::clamp(p.y(), -farAway, farAway));
+  };
+  a = OntoPixels(near(a));
+  b = OntoPixels(near(b));
+  const QRectF box = QRectF(a, b).normalized();
+  if (!filled) {
+    QPen pen = painter_.pen();
+    pen.setJoinStyle(Qt::MiterJoin);
+    painter_.setPen(pen);
+    painter_.drawRect(box);
+    return;
+  }
+  const f64 half = 0.5 * PenWidth();
+  painter_.fillRect(box.adjusted(-half, -half, half, half), ink);
+}
+
+void QtCanvas::DrawCircle(Point center, f32 r, Color color, f32 start, f32 stop, f32 aspect) {
+  const QPointF middle = Map(center);
+  const f64 halfWidth = static_cast<f64>(r) * std::fabs(UnitsPerX());
+  const f64 halfHeight = static_cast<f64>(r) * static_cast<f64>(aspect) * std::fabs(UnitsPerY());
+  if (!IsFinite(middle) || !IsFinite({halfWidth, halfHeight}) || !Prepare(Ink(color), true)) return;
+  if (start == stop) {
+    painter_.drawEllipse(middle, halfWidth, halfHeight);
+    return;
+  }
+  constexpr f64 degreesPerRadian = 180 / std::numbers::pi;
+  f64 sweep = (static_cast<f64>(stop) - static_cast<f64>(start)) * degreesPerRadian;
+  if (sweep < 0) sweep += 360;
+  const QRectF box(middle.x() - halfWidth, middle.y() - halfHeight, 2 * halfWidth, 2 * halfHeight);
+  const f64 startDegrees = static_cast<f64>(start) * degreesPerRadian;
+  QPainterPath path;
+  path.arcMoveTo(box, startDegrees);
+  path.arcTo(box, startDegrees, sweep);
+  painter_.drawPath(path);
+}
+
+// A single pixel is square, a wider point round.
+void QtCanvas::DrawPoint(Point at, Color color) {
+  const QPointF place = Map(at);
+  const QColor ink = Ink(color);
+  if (!IsFinite(place) || !Prepare(ink, true)) return;
+  const f64 half = 0.5 * PenWidth();
+  if (DrawWidth <= 1) {
+    painter_.fillRect(QRectF(OntoPixels(place) - QPointF(half, half), QSizeF(2 * half, 2 * half)), ink);
+    return;
+  }
+  painter_.setPen(Qt::NoPen);
+  painter_.setBrush(ink);
+  painter_.drawEllipse(place, half, half);
+}
+
+void QtCanvas::DrawText(Point at, std::string_view text) {
+  const QColor ink = Ink(ForeColor);
+  const QPointF place = Map(at);
+  if (ink.alpha() == 0 || !IsFinite(place)) return;
+  painter_.setCompositionMode(QPainter::CompositionMode_SourceOver);
+  painter_.setPen(ink);
+
+  const f64 given = static_cast<f64>(FontSize) * twipsPerPoint * std::fabs(UnitsPerY());
+  const f64 em = std::max(given, surface_.smallestText);
+  // A text that is drawn larger than it was laid out grows around its middle.
+  const f64 wider = static_cast<f64>(TextWidth(text)) * std::fabs(UnitsPerX()) * (em / given - 1);
+  const f64 higher = static_cast<f64>(TextHeight(text)) * std::fabs(UnitsPerY()) * (em / given - 1);
+  QPointF line = place - QPointF(wider / 2, higher / 2);
+  for (const QString& part : ToQt(std::string(text)).split(QLatin1Char('\n'))) {
+    DrawTextLine(part, line, em);
+    line.ry() += em * linePitch;
+  }
+}
+
+// The metrics decide how wide a line is; where the machine's font is another one, it is drawn as wide as that.
+void QtCanvas::DrawTextLine(const QString& line, QPointF topLeft, f64 emHeight) {
+  const QFont font = PainterFont(CurrentFont(), emHeight, *painter_.device());
+  painter_.setFont(font);
+  const f64 drawn = QFontMetricsF(font, painter_.device()).horizontalAdvance(line);
+  if (drawn <= 0) return;
+  const f64 due = Metrics().WidthInPoints(line.toStdString(), CurrentFont()) / static_cast<f64>(FontSize) * emHeight;
+  constexpr f64 closeEnough = 0.02;
+  const f64 stretch = std::fabs(due / drawn - 1) < closeEnough ? 1 : due / drawn;
+  painter_.save();
+  painter_.translate(topLeft.x(), topLeft.y() + baseline * emHeight);
+  if (stretch != 1) painter_.scale(stretch, 1);
+  painter_.drawText(QPointF(0, 0), line);
+  painter_.restore();
+}
+
+void QtCanvas::DrawClear() {
+  const QColor paper = Ink(BackColor);
+  if (surface_.paper || paper.alpha() == 0) return;
+  painter_.setCompositionMode(QPainter::CompositionMode_SourceOver);
+  painter_.fillRect(surface_.target, paper);
+}
+
+}  // namespace quilm

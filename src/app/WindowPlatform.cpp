@@ -1,0 +1,154 @@
+#include "app/WindowPlatform.h"
+
+#include <QApplication>
+#include <QDateTime>
+#include <QDesktopServices>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMessageBox>
+#include <QPrintDialog>
+#include <QProcess>
+#include <QSettings>
+#include <QStandardPaths>
+#include <QUrl>
+#include <cmath>
+
+#include "app/FileFilters.h"
+#include "app/PrinterCanvas.h"
+#include "app/QtText.h"
+
+namespace quilm {
+
+namespace {
+
+const QString lastFolderKey = QStringLiteral("files/folder");
+
+QMessageBox::Icon BoxIcon(Icon icon) {
+  switch (icon) {
+    case Icon::None:
+      return QMessageBox::NoIcon;
+    case Icon::Information:
+      return QMessageBox::Information;
+    case Icon::Question:
+      return QMessageBox::Question;
+    case Icon::Exclamation:
+      return QMessageBox::Warning;
+    case Icon::Critical:
+      return QMessageBox::Critical;
+  }
+  return QMessageBox::NoIcon;
+}
+
+QString TitleOf(const std::string& title) { return title.empty() ? QStringLiteral("Quilm") : ToQt(title); }
+
+}  // namespace
+
+QString UserDataFolder() {
+  // By the variable, not by QStandardPaths: that adds the names of organisation and program in its own way.
+  const QString given = qEnvironmentVariable("XDG_DATA_HOME");
+  const QString base = given.isEmpty() ? QDir::homePath() + QStringLiteral("/.local/share") : given;
+  return QDir::cleanPath(base) + QStringLiteral("/quilm");
+}
+
+WindowPlatform::WindowPlatform(const QString& folder) : folder_(folder.isEmpty() ? UserDataFolder() : folder) {
+  QDir().mkpath(folder_);
+}
+
+WindowPlatform::~WindowPlatform() = default;
+
+Answer WindowPlatform::MessageBox(const std::string& text, Buttons buttons, Icon icon, const std::string& title) {
+  QMessageBox box(stage_.FrontWindow());
+  box.setIcon(BoxIcon(icon));
+  box.setWindowTitle(TitleOf(title));
+  box.setTextFormat(Qt::PlainText);
+  box.setText(ToQt(text));
+  box.setStandardButtons(buttons == Buttons::YesNo ? QMessageBox::Yes | QMessageBox::No
+                                                   : QMessageBox::StandardButtons(QMessageBox::Ok));
+  const int answer = stage_.RunDialog(box);
+  if (buttons == Buttons::Ok) return Answer::Ok;
+  return answer == QMessageBox::Yes ? Answer::Yes : Answer::No;
+}
+
+std::optional<std::string> WindowPlatform::AskFile(QFileDialog& dialog) {
+  if (stage_.RunDialog(dialog) != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
+  const QString path = dialog.selectedFiles().constFirst();
+  QSettings(SettingsPath(), QSettings::IniFormat).setValue(lastFolderKey, QFileInfo(path).absolutePath());
+  return path.toStdString();
+}
+
+std::optional<std::string> WindowPlatform::OpenDialog(const std::string& title, const std::string& filter) {
+  QFileDialog dialog(stage_.FrontWindow(), TitleOf(title),
+                     QSettings(SettingsPath(), QSettings::IniFormat).value(lastFolderKey).toString());
+  dialog.setFileMode(QFileDialog::ExistingFile);
+  dialog.setNameFilters(NameFilters(ToQt(filter)));
+  return AskFile(dialog);
+}
+
+std::optional<std::string> WindowPlatform::SaveDialog(const std::string& title, const std::string& filter,
+                                                      const std::string& defaultName) {
+  QFileDialog dialog(stage_.FrontWindow(), TitleOf(title),
+                     QSettings(SettingsPath(), QSettings::IniFormat).value(lastFolderKey).toString());
+  dialog.setAcceptMode(QFileDialog::AcceptSave);
+  dialog.setFileMode(QFileDialog::AnyFile);
+  dialog.setNameFilters(NameFilters(ToQt(filter)));
+  dialog.setDefaultSuffix(SuffixOf(dialog.selectedNameFilter()));
+  QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog,
+                   [&dialog](const QString& chosen) { dialog.setDefaultSuffix(SuffixOf(chosen)); });
+  if (!defaultName.empty()) dialog.selectFile(ToQt(defaultName));
+  return AskFile(dialog);
+}
+
+Canvas* WindowPlatform::PrintDialog() {
+  auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
+  QPrintDialog dialog(printer.get(), stage_.FrontWindow());
+  if (stage_.RunDialog(dialog) != QDialog::Accepted) return nullptr;
+  auto canvas = std::make_unique<PrinterCanvas>(std::move(printer));
+  if (!canvas->IsReady()) return nullptr;
+  printer_ = std::move(canvas);
+  return printer_.get();
+}
+
+void WindowPlatform::Beep() { QApplication::beep(); }
+
+void WindowPlatform::ShellOpen(const std::string& path) {
+  const QString document = ToQt(path);
+  const bool file = QFileInfo::exists(document);
+  QDesktopServices::openUrl(file ? QUrl::fromLocalFile(QFileInfo(document).absoluteFilePath())
+                                 : QUrl::fromUserInput(document));
+}
+
+bool WindowPlatform::ShowSystemInformation() {
+  for (const char* tool : {"hardinfo2", "hardinfo", "kinfocenter", "gnome-system-monitor", "mate-system-monitor"}) {
+    const QString program = QStandardPaths::findExecutable(QString::fromLatin1(tool));
+    if (!program.isEmpty() && QProcess::startDetached(program, {})) return true;
+  }
+  return false;
+}
+
+void WindowPlatform::Pause(f64 seconds) {
+  constexpr f64 millisecondsPerSecond = 1000;
+  stage_.Wait(static_cast<int>(std::lround(seconds * millisecondsPerSecond)));
+}
+
+// Installed data first; a program that runs from its build folder finds the help beside its sources.
+std::string WindowPlatform::HelpFolder() {
+  const QString installed = QStringLiteral(QUILM_DATA_DIR "/help");
+  if (QFileInfo(installed).isDir()) return installed.toStdString();
+  QDir folder(QCoreApplication::applicationDirPath());
+  for (const char* place :
+       {"help", "../share/quilm/help", "../help", "../../help", "../../../help", "../../../../help"}) {
+    const QString candidate = QDir::cleanPath(folder.filePath(QString::fromLatin1(place)));
+    if (QFileInfo(candidate).isDir()) return candidate.toStdString();
+  }
+  return installed.toStdString();
+}
+
+DateTime WindowPlatform::Now() {
+  const QDateTime now = QDateTime::currentDateTime();
+  const QDate day = now.date();
+  const QTime time = now.time();
+  return {day.year(), day.month(), day.day(), time.hour(), time.minute(), time.second()};
+}
+
+}  // namespace quilm

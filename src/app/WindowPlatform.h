@@ -1,0 +1,54 @@
+// The platform of the window: answers what the pages ask with the toolkit's dialogs, printer and desktop.
+#pragma once
+
+#include <QPrinter>
+#include <QString>
+#include <memory>
+
+#include "app/PageStage.h"
+#include "shell/Platform.h"
+
+class QFileDialog;
+
+namespace quilm {
+
+class WindowPlatform : public Platform {
+ public:
+  // Keeps its files in `folder`, which is made when missing; an empty one stands for the user's data folder.
+  explicit WindowPlatform(const QString& folder = {});
+  ~WindowPlatform() override;
+
+  PageStage& Stage() { return stage_; }
+
+  Answer MessageBox(const std::string& text, Buttons buttons, Icon icon, const std::string& title) override;
+  std::optional<std::string> OpenDialog(const std::string& title, const std::string& filter) override;
+  std::optional<std::string> SaveDialog(const std::string& title, const std::string& filter,
+                                        const std::string& defaultName) override;
+  Canvas* PrintDialog() override;
+  void Beep() override;
+  void ShellOpen(const std::string& path) override;
+  bool ShowSystemInformation() override;
+  void Yield() override { stage_.RunEvents(); }
+  void Pause(f64 seconds) override;
+  std::string ProgramFolder() override { return folder_.toStdString(); }
+  std::string HelpFolder() override;
+  DateTime Now() override;
+  void PageShown(Page& page) override { stage_.Show(page); }
+  void PageUnloaded(Page& page) override { stage_.Unload(page); }
+  void RunModal(Page& page) override { stage_.RunModal(page); }
+
+  // The file that keeps the window's place.
+  QString SettingsPath() const { return folder_ + QStringLiteral("/window.ini"); }
+
+ private:
+  std::optional<std::string> AskFile(QFileDialog& dialog);
+
+  QString folder_;
+  PageStage stage_;
+  std::unique_ptr<Canvas> printer_;
+};
+
+// The user's data folder for this program.
+QString UserDataFolder();
+
+}  // namespace quilm

@@ -1,0 +1,11 @@
+// The ways out of the program.
+#pragma once
+
+namespace quilm {
+
+class Session;
+
+// The close box of a main page is no cancel: keeps the preferences, then ends the program at once.
+[[noreturn]] void LeaveByCloseBox(Session& session);
+
+}  // namespace quilm

@@ -1,0 +1,53 @@
+// The row of buttons that the six main pages share: the pages themselves as one group, and the actions.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+#include "shell/Page.h"
+
+namespace quilm {
+
+class NavigationRow {
+ public:
+  // What a page does before it is left for `target`: false keeps it, after the user was told why.
+  using Gate = std::function<bool(PageId target)>;
+
+  // `here` is the page that the row stands on: its own button is cmdHere, pressed and disabled.
+  NavigationRow(Page& page, Session& session, Gate gate);
+
+  // Refreshes what can be used. Buttons of pages that the program does not have, and actions without a handler, are
+  // disabled.
+  void Load();
+
+  Layout MakeLayout();
+
+  // The actions that depend on the page; empty ones leave their button disabled.
+  std::function<void()> onPrint;
+  std::function<void()> onSave;
+  std::function<void()> onGet;
+  std::string helpFile;  // "design.htm"
+
+ private:
+  struct Segment {
+    PageId target;
+    std::unique_ptr<Button> button;
+  };
+
+  void AddSegment(PageId target, const char* name, const char* caption, const char* toolTip);
+  Button& AddAction(const char* name, const char* caption, const char* toolTip, std::function<void()> act);
+  void GoTo(PageId target);
+
+  Page& page_;
+  Session& session_;
+  Gate gate_;
+  std::vector<Segment> segments_;
+  std::vector<std::unique_ptr<Button>> actions_;
+  Button* cmdPrint_ = nullptr;
+  Button* cmdSave_ = nullptr;
+  Button* cmdGet_ = nullptr;
+  Button* cmdSpice_ = nullptr;
+};
+
+}  // namespace quilm

@@ -1,0 +1,35 @@
+#include "pages/PageDirectory.h"
+
+#include "display/frmBlank.h"
+#include "display/frmPlotted.h"
+#include "pages/frmAbout.h"
+#include "pages/frmAddInfo.h"
+#include "pages/frmChangeTitle.h"
+#include "pages/frmExit.h"
+#include "pages/frmHelp.h"
+#include "pages/frmOpening.h"
+#include "synthesis/EntryForms.h"
+#include "synthesis/frmDesign.h"
+
+namespace quilm {
+
+namespace {
+
+template <class P>
+std::unique_ptr<Page> Make(Session& session) {
+  return std::make_unique<P>(session);
+}
+
+}  // namespace
+
+PageDirectory AllPages() {
+  return {
+      {PageId::Opening, Make<frmOpening>}, {PageId::Design, Make<frmDesign>},
+      {PageId::Plotted, Make<frmPlotted>}, {PageId::Blank, Make<frmBlank>},
+      {PageId::Exit, Make<frmExit>},       {PageId::ChangeTitle, Make<frmChangeTitle>},
+      {PageId::AddInfo, Make<frmAddInfo>}, {PageId::About, Make<frmAbout>},
+      {PageId::Help, Make<frmHelp>},
+  };
+}
+
+}  // namespace quilm

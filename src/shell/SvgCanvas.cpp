@@ -1,0 +1,241 @@
+#include "shell/SvgCanvas.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <numbers>
+
+#include "shell/Picture.h"
+
+namespace quilm {
+
+namespace {
+
+constexpr f64 twipsPerPixel = 15;  // 1440 to the inch over 96 to the inch
+constexpr f64 ascent = 0.92;       // baseline below the top of a line, in ems
+constexpr f64 linePitch = 1.15;    // of an em, as the font metrics have it
+
+// Short and the same in every locale. Seven digits hold what a 32-bit coordinate holds.
+std::string Number(f64 value) {
+  constexpr int digits = 7;
+  std::array<char, 32> text{};
+  const auto end = std::to_chars(text.data(), text.data() + text.size(), value, std::chars_format::general, digits).ptr;
+  return {text.data(), end};
+}
+
+std::string Attribute(std::string_view name, f64 value) {
+  return " " + std::string(name) + "=\"" + Number(value) + '"';
+}
+
+std::string Attribute(std::string_view name, std::string_view value) {
+  return " " + std::string(name) + "=\"" + std::string(value) + '"';
+}
+
+// The blue-green-red word as SVG writes colours.
+std::string ColorText(Color color) {
+  constexpr std::string_view digits = "0123456789abcdef";
+  std::string text = "#";
+  for (const unsigned shift : {4U, 0U, 12U, 8U, 20U, 16U}) text += digits[color >> shift & 0xF];
+  return text;
+}
+
+bool IsFinite(Point p) { return std::isfinite(p.x) && std::isfinite(p.y); }
+
+std::string FontFamily(const std::string& name) {
+  const bool fixed = name.find("Courier") != std::string::npos || name.find("Mono") != std::string::npos;
+  const std::string substitutes =
+      fixed ? "'Courier New', 'Liberation Mono', monospace" : "Arial, 'Liberation Sans', Helvetica, sans-serif";
+  return "'" + XmlEscaped(name) + "', " + substitutes;
+}
+
+// How many bytes the UTF-8 sequence at the front of `text` has, 0 when it is none (RFC 3629, section 4).
+std::size_t SequenceLength(std::string_view text) {
+  const auto byte = [text](std::size_t i) { return i < text.size() ? static_cast<unsigned char>(text[i]) : 0U; };
+  const unsigned lead = byte(0);
+  if (lead < 0x80) return 1;
+  const std::size_t length = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : 2;
+  if (lead < 0xC2 || lead > 0xF4) return 0;
+  for (std::size_t i = 1; i < length; ++i) {
+    if ((byte(i) & 0xC0) != 0x80) return 0;
+  }
+  const bool overlong = (lead == 0xE0 && byte(1) < 0xA0) || (lead == 0xF0 && byte(1) < 0x90);
+  const bool surrogate = lead == 0xED && byte(1) >= 0xA0;
+  const bool beyond = lead == 0xF4 && byte(1) >= 0x90;
+  return overlong || surrogate || beyond ? 0 : length;
+}
+
+std::string EscapedCharacter(char character) {
+  switch (character) {
+    case '&':
+      return "&amp;";
+    case '<':
+      return "&lt;";
+    case '>':
+      return "&gt;";
+    case '"':
+      return "&quot;";
+    case '\'':
+      return "&#39;";
+    default:
+      return static_cast<unsigned char>(character) < 0x20 ? std::string() : std::string(1, character);
+  }
+}
+
+}  // namespace
+
+std::string XmlEscaped(std::string_view text) {
+  constexpr std::string_view replacement = "\xEF\xBF\xBD";
+  std::string escaped;
+  while (!text.empty()) {
+    const std::size_t length = SequenceLength(text);
+    const std::string_view sequence = text.substr(0, std::max<std::size_t>(length, 1));
+    // U+FFFE and U+FFFF are well-formed UTF-8 and yet no characters of XML.
+    if (length == 0 || sequence == "\xEF\xBF\xBE" || sequence == "\xEF\xBF\xBF") {
+      escaped += replacement;
+    } else {
+      escaped += length == 1 ? EscapedCharacter(sequence.front()) : std::string(sequence);
+    }
+    text.remove_prefix(sequence.size());
+  }
+  return escaped;
+}
+
+std::string SvgCanvas::Text() const {
+  const f64 width = static_cast<f64>(ScaleWidth);
+  const f64 height = static_cast<f64>(ScaleHeight);
+  const std::string place = Attribute("width", width) + Attribute("height", height);
+  const std::string corner = Number(static_cast<f64>(ScaleLeft)) + ' ' + Number(static_cast<f64>(ScaleTop));
+  std::string text = R"(<?xml version="1.0" encoding="UTF-8"?>)"
+                     "\n"
+                     R"(<svg xmlns="http://www.w3.org/2000/svg" version="1.1")";
+  text += Attribute("width", width / twipsPerPixel) + Attribute("height", height / twipsPerPixel);
+  text += Attribute("viewBox", corner + ' ' + Number(width) + ' ' + Number(height)) + ">\n";
+  text += "<rect" + Attribute("x", static_cast<f64>(ScaleLeft)) + Attribute("y", static_cast<f64>(ScaleTop)) + place +
+          Attribute("fill", ColorText(BackColor)) + "/>\n";
+  return text + body_ + "</svg>\n";
+}
+
+std::string SvgCanvas::ModeAttribute() const {
+  // Difference is the blending that a second drawing in the same place takes back, as exclusive or does.
+  return DrawMode == PenMode::ExclusiveOr ? Attribute("style", "mix-blend-mode:difference") : std::string();
+}
+
+std::string SvgCanvas::Stroke(Color color) const {
+  std::string text = Attribute("stroke", ColorText(color)) + Attribute("stroke-width", std::max<f64>(DrawWidth, 1)) +
+                     Attribute("vector-effect", "non-scaling-stroke");
+  if (DrawStyle == LineStyle::Dash) text += Attribute("stroke-dasharray", "6 3");
+  if (DrawStyle == LineStyle::Dot) text += Attribute("stroke-dasharray", "1.5 3");
+  if (DrawStyle == LineStyle::Solid) {
+    text += Attribute("stroke-linecap", "round") + Attribute("stroke-linejoin", "round");
+  }
+  return text + ModeAttribute();
+}
+
+// The trace in runs of points that have a place.
+void SvgCanvas::DrawPolyline(std::span<const Point> points, Color color) {
+  auto from = points.begin();
+  while (from != points.end()) {
+    from = std::find_if(from, points.end(), IsFinite);
+    const auto to = std::find_if_not(from, points.end(), IsFinite);
+    StrokeRun({from, to}, color);
+    from = to;
+  }
+}
+
+void SvgCanvas::StrokeRun(std::span<const Point> points, Color color) {
+  if (points.size() < 2) return;
+  if (points.size() == 2) {
+    body_ += "<line" + Attribute("x1", static_cast<f64>(points[0].x)) + Attribute("y1", static_cast<f64>(points[0].y)) +
+             Attribute("x2", static_cast<f64>(points[1].x)) + Attribute("y2", static_cast<f64>(points[1].y)) +
+             Stroke(color) + "/>\n";
+    return;
+  }
+  std::string places;
+  for (const Point p : points) {
+    if (!places.empty()) places += ' ';
+    places += Number(static_cast<f64>(p.x)) + ',' + Number(static_cast<f64>(p.y));
+  }
+  body_ += "<polyline" + Attribute("points", places) + Attribute("fill", "none") + Stroke(color) + "/>\n";
+}
+
+void SvgCanvas::DrawRectangle(Point from, Point to, Color color, bool filled) {
+  if (!IsFinite(from) || !IsFinite(to)) return;
+  const f64 left = static_cast<f64>(std::min(from.x, to.x));
+  const f64 top = static_cast<f64>(std::min(from.y, to.y));
+  body_ += "<rect" + Attribute("x", left) + Attribute("y", top) +
+           Attribute("width", static_cast<f64>(std::max(from.x, to.x)) - left) +
+           Attribute("height", static_cast<f64>(std::max(from.y, to.y)) - top) +
+           Attribute("fill", filled ? ColorText(color) : "none") + Stroke(color) + "/>\n";
+}
+
+void SvgCanvas::DrawCircle(Point center, f32 r, Color color, f32 start, f32 stop, f32 aspect) {
+  const f64 halfWidth = std::fabs(static_cast<f64>(r));
+  const f64 halfHeight = halfWidth * std::fabs(static_cast<f64>(aspect));
+  if (!IsFinite(center) || !std::isfinite(halfWidth) || !std::isfinite(halfHeight)) return;
+  const f64 x = static_cast<f64>(center.x);
+  const f64 y = static_cast<f64>(center.y);
+  constexpr f64 turn = 2 * std::numbers::pi;
+  f64 sweep = static_cast<f64>(stop) - static_cast<f64>(start);
+  if (sweep < 0) sweep += turn;
+  constexpr f64 closed = 1e-5;  // an arc that ends where it begins would vanish
+  if (start == stop || sweep > turn - closed) {
+    body_ += "<ellipse" + Attribute("cx", x) + Attribute("cy", y) + Attribute("rx", halfWidth) +
+             Attribute("ry", halfHeight) + Attribute("fill", "none") + Stroke(color) + "/>\n";
+    return;
+  }
+  const auto at = [&](f64 angle) {
+    return Number(x + halfWidth * std::cos(angle)) + ' ' + Number(y - halfHeight * std::sin(angle));
+  };
+  const f64 from = static_cast<f64>(start);
+  const std::string radii = Number(halfWidth) + ' ' + Number(halfHeight);
+  // The second flag 0 is anticlockwise where y points down.
+  body_ += "<path" +
+           Attribute("d", "M " + at(from) + " A " + radii + " 0 " + (sweep > turn / 2 ? "1" : "0") + " 0 " +
+                              at(from + sweep)) +
+           Attribute("fill", "none") + Stroke(color) + "/>\n";
+}
+
+// A line of no length, whose caps are the point: square for a single pixel, round for a wider one.
+void SvgCanvas::DrawPoint(Point at, Color color) {
+  if (!IsFinite(at)) return;
+  body_ += "<path" +
+           Attribute("d", "M " + Number(static_cast<f64>(at.x)) + ' ' + Number(static_cast<f64>(at.y)) + " h0") +
+           Attribute("stroke", ColorText(color)) + Attribute("stroke-width", std::max<f64>(DrawWidth, 1)) +
+           Attribute("stroke-linecap", DrawWidth <= 1 ? "square" : "round") +
+           Attribute("vector-effect", "non-scaling-stroke") + ModeAttribute() + "/>\n";
+}
+
+void SvgCanvas::DrawText(Point at, std::string_view text) {
+  const f64 em = static_cast<f64>(FontSize) * twipsPerPoint;
+  if (!IsFinite(at) || !std::isfinite(em)) return;
+  f64 top = static_cast<f64>(at.y);
+  while (true) {
+    const std::size_t end = text.find('\n');
+    DrawTextLine(static_cast<f64>(at.x), top + ascent * em, text.substr(0, end));
+    if (end == std::string_view::npos) return;
+    text.remove_prefix(end + 1);
+    top += linePitch * em;
+  }
+}
+
+void SvgCanvas::DrawTextLine(f64 x, f64 baseline, std::string_view line) {
+  const f64 width = static_cast<f64>(TextWidth(line));
+  if (line.find_first_not_of(" \r") == std::string_view::npos) return;
+  body_ += "<text" + Attribute("x", x) + Attribute("y", baseline) + Attribute("font-family", FontFamily(FontName)) +
+           Attribute("font-size", static_cast<f64>(FontSize) * twipsPerPoint);
+  if (FontBold) body_ += Attribute("font-weight", "bold");
+  body_ += Attribute("fill", ColorText(ForeColor)) + Attribute("textLength", width) +
+           Attribute("lengthAdjust", "spacingAndGlyphs") + Attribute("xml:space", "preserve") + '>' + XmlEscaped(line) +
+           "</text>\n";
+}
+
+void SvgCanvas::DrawClear() { body_.clear(); }
+
+std::string SvgText(const Picture& picture) {
+  SvgCanvas canvas;
+  picture.Replay(canvas);
+  return canvas.Text();
+}
+
+}  // namespace quilm

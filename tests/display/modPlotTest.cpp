@@ -1,0 +1,261 @@
+#include "display/modPlot.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <memory>
+#include <set>
+
+#include "core/Fault.h"
+#include "display/PlotGrid.h"
+#include "display/PlotKinds.h"
+#include "shell/Picture.h"
+
+namespace quilm {
+namespace {
+
+class Plot : public testing::Test {
+ protected:
+  Plot() {
+    record.SweepMode = 1;
+    record.Fstart = 0;
+    record.Fstop = 4e6F;
+    record.NrIntervals = 4;
+    record.NrXints = 4;
+    record.NrYints = 6;
+    record.LossBottom = -60;
+    record.DelayTop = 6e-6F;
+    record.VSWRTop = 7;
+    record.ImpedanceTop = 120;
+    for (int i = 0; i <= 4; ++i) {
+      responses->RespFreq[i] = static_cast<f32>(i) * 1e6F;
+      responses->RespTrans[i] = static_cast<f32>(-20 * i);
+      responses->RespReturn[i] = -15;
+      responses->RespAngle[i] = 90;
+      responses->RespDelay[i] = 3e-6F;
+      responses->RespVSWR[i] = 4;
+      responses->RespZin[i] = 60;
+      responses->RespZinAngle[i] = 45;
+    }
+  }
+
+  Picture Drawn(i16 code) {
+    Picture picture;
+    DrawPlot(record, *responses, code, TraceColors{}, picture);
+    return picture;
+  }
+
+  static std::vector<TextOp> Texts(const Picture& picture) {
+    std::vector<TextOp> texts;
+    for (const PictureOp& operation : picture.Operations()) {
+      if (const auto* text = std::get_if<TextOp>(&operation)) texts.push_back(*text);
+    }
+    return texts;
+  }
+
+  static std::vector<PolylineOp> Traces(const Picture& picture) {
+    std::vector<PolylineOp> traces;
+    for (const PictureOp& operation : picture.Operations()) {
+      const auto* line = std::get_if<PolylineOp>(&operation);
+      if (line != nullptr && line->pen.color != gridColor) traces.push_back(*line);
+    }
+    return traces;
+  }
+
+  // The texts of a scale from top to bottom.
+  static std::vector<std::string> ScaleTexts(const Picture& picture, bool left) {
+    std::vector<std::string> found;
+    for (const TextOp& text : Texts(picture)) {
+      const bool inRows = text.at.y >= 900 && text.at.y <= 6900;
+      if (inRows && (left ? text.at.x < 1850 : text.at.x > 11000)) found.push_back(text.text);
+    }
+    return found;
+  }
+
+  DesignRecord record;
+  std::unique_ptr<Responses> responses = std::make_unique<Responses>();
+};
+
+using TextList = std::vector<std::string>;
+
+TEST_F(Plot, TheTransmissionTraceRidesAlongTheBottom) {
+  const auto traces = Traces(Drawn(1));
+  ASSERT_EQ(traces.size(), 1U);
+  const std::vector<Point> expected = {{2000, 1000}, {2000, 1000}, {4250, 3000},
+                                       {6500, 5000}, {8750, 7000}, {11000, 7000}};
+  EXPECT_EQ(traces[0].points, expected);
+  EXPECT_EQ(traces[0].pen.color, colorBlue);
+}
+
+struct Expected {
+  i16 code;
+  TextList left;
+  TextList right;
+  TextList titles;
+};
+
+TEST_F(Plot, ScalesAndTitlesOfEveryPlot) {
+  const TextList loss = {"0", "-10", "-20", "-30", "-40", "-50", "-60"};
+  const TextList ohms = {"120", "100", "80", "60", "40", "20", "0"};
+  const TextList ratio = {"7", "6", "5", "4", "3", "2", "1"};
+  const Expected rows[] = {
+      {1, loss, {}, {"Transmission, dB"}},
+      {2, loss, loss, {"Transmission, dB", "Return, dB"}},
+      {3, loss, {"180", "120", "60", "0", "-60", "-120", "-180"}, {"Transmission, dB", "Angle of Transmission"}},
+      {4, loss, {"6u", "5u", "4u", "3u", "2u", "1u", "0"}, {"Transmission, dB", "Envelope Delay"}},
+      {5, ratio, {}, {"VSWR"}},
+      {6, ohms, {}, {"Input Impedance"}},
+      {7, ohms, {"90", "60", "30", "0", "-30", "-60", "-90"}, {"Input Impedance", "Angle of Input Impedance"}},
+      {9, ohms, loss, {"Input Impedance", "Transmission, dB"}},
+      {10, ohms, {"120", "80", "40", "0", "-40", "-80", "-120"}, {"Input (real)", "Input (imaginary)"}},
+      {13, ratio, loss, {"VSWR", "Transmission, dB"}},
+  };
+  for (const Expected& row : rows) {
+    const Picture picture = Drawn(row.code);
+    EXPECT_EQ(ScaleTexts(picture, true), row.left) << row.code;
+    EXPECT_EQ(ScaleTexts(picture, false), row.right) << row.code;
+    TextList titles;
+    for (const TextOp& text : Texts(picture)) {
+      if (text.at.y < 900) titles.push_back(text.text);
+    }
+    EXPECT_EQ(titles, row.titles) << row.code;
+  }
+}
+
+TEST_F(Plot, TracesOfEveryPlotInTheirColours) {
+  struct Row {
+    i16 code;
+    f32 blue;  // y at the second point
+    f32 red;
+  };
+  // -20 dB of 60: 3000; -15 dB: 2500; 90 of +-180 degrees: 2500; half the delay, impedance and VSWR scales: 4000;
+  // 45 of +-90 degrees: 2500; 60 ohms at 45 degrees: 42.43 of 120 is 4878.7, of +-120 is 2939.3.
+  const Row rows[] = {{2, 3000, 2500}, {3, 2500, 3000},  {4, 4000, 3000},         {7, 4000, 2500},
+                      {9, 4000, 3000}, {13, 4000, 3000}, {10, 4878.68F, 2939.34F}};
+  for (const Row& row : rows) {
+    for (const PolylineOp& trace : Traces(Drawn(row.code))) {
+      const f32 expected = trace.pen.color == colorBlue ? row.blue : row.red;
+      EXPECT_NEAR(trace.points[2].y, expected, 0.1) << row.code;
+    }
+    EXPECT_EQ(Traces(Drawn(row.code)).size(), 2U);
+  }
+}
+
+TEST_F(Plot, MagnifyAddsATraceTenTimesAsHighBeneath) {
+  record.MagnifyMode = 1;
+  responses->RespTrans[1] = -1.5F;
+  const Picture picture = Drawn(1);
+  const auto traces = Traces(picture);
+  ASSERT_EQ(traces.size(), 2U);
+  EXPECT_EQ(traces[0].pen.color, colorRed);
+  EXPECT_EQ(traces[0].points[2].y, 2500);  // -15 of 60 dB
+  EXPECT_EQ(traces[1].points[2].y, 1150);
+  EXPECT_EQ(ScaleTexts(picture, false), (TextList{"0", "-1", "-2", "-3", "-4", "-5", "-6"}));
+}
+
+TEST_F(Plot, MagnifyLeavesTheOtherPlotsAlone) {
+  const Picture before = Drawn(2);
+  record.MagnifyMode = 1;
+  EXPECT_EQ(Drawn(2), before);
+}
+
+TEST_F(Plot, TheHorizontalGridStartsAtTheTop) {
+  record.NrYints = 7;
+  std::set<f32> rows;
+  const Picture picture = Drawn(1);
+  for (const PictureOp& operation : picture.Operations()) {
+    const auto* line = std::get_if<PolylineOp>(&operation);
+    if (line == nullptr || line->pen.color != gridColor) continue;
+    if (line->points[0].y == line->points[1].y) rows.insert(line->points[0].y);
+  }
+  EXPECT_EQ(rows.size(), 8U);
+  EXPECT_EQ(*rows.begin(), 1000);
+  EXPECT_EQ(*rows.rbegin(), 6992);
+}
+
+TEST_F(Plot, FootersInvite) {
+  const auto texts = Texts(Drawn(1));
+  const auto has = [&texts](const char* text, f32 x, f32 y) {
+    return std::any_of(texts.begin(), texts.end(),
+                       [&](const TextOp& op) { return op.text == text && op.at.x == x && op.at.y == y; });
+  };
+  EXPECT_TRUE(has("Mousedown for data", 1301, 7280));
+  EXPECT_TRUE(has("Start", 1400, 7660));
+}
+
+TEST_F(Plot, LeftLabelsEndAtOneLine) {
+  const Picture picture = Drawn(1);
+  for (const TextOp& text : Texts(picture)) {
+    if (text.at.x >= 1850 || text.at.y < 900 || text.at.y > 6900) continue;
+    const f64 width = StandardMetrics().WidthInPoints(text.text, text.font) * twipsPerPoint;
+    EXPECT_NEAR(text.at.x + width, 1800, 0.1) << text.text;
+  }
+}
+
+TEST_F(Plot, AllTextsStayOnThePicture) {
+  for (const int code : {1, 2, 3, 4, 5, 6, 7, 9, 10, 13}) {
+    for (const TextOp& text : Texts(Drawn(static_cast<i16>(code)))) {
+      const f64 width = StandardMetrics().WidthInPoints(text.text, text.font) * twipsPerPoint;
+      const f64 height = StandardMetrics().HeightInPoints(text.text, text.font) * twipsPerPoint;
+      EXPECT_GE(text.at.x, plotScale.left) << text.text;
+      EXPECT_LE(text.at.x + width, plotScale.left + plotScale.width) << text.text;
+      EXPECT_GE(text.at.y, plotScale.top) << text.text;
+      EXPECT_LE(text.at.y + height, plotScale.top + plotScale.height) << text.text;
+    }
+  }
+}
+
+TEST_F(Plot, AScaleWithoutHeightFaults) {
+  record.DelayTop = 0;
+  EXPECT_THROW(Drawn(4), NumericFault);
+  record.VSWRTop = 1;
+  EXPECT_THROW(Drawn(5), NumericFault);
+}
+
+TEST_F(Plot, RoundPlotsAreNoneOfThese) {
+  EXPECT_FALSE(IsRectangular(11));
+  EXPECT_THROW(Drawn(11), Fault);
+}
+
+TEST_F(Plot, LossBottomIsHeldBeforePlotsInDecibels) {
+  record.LossBottom = 0;
+  HoldLossBottom(record, 5);
+  EXPECT_EQ(record.LossBottom, 0);
+  HoldLossBottom(record, 13);
+  EXPECT_EQ(record.LossBottom, -0.3F);
+  record.LossBottom = -40;
+  HoldLossBottom(record, 1);
+  EXPECT_EQ(record.LossBottom, -40);
+}
+
+TEST_F(Plot, AutoScaleTakesTheExtremesOfTheResponse) {
+  responses->RespVSWR[2] = 12;
+  responses->RespZin[3] = 345;
+  responses->RespDelay[1] = 9e-6F;
+  AutoScale(record, *responses);
+  EXPECT_EQ(record.LossBottom, -80);
+  EXPECT_EQ(record.DelayTop, 9e-6F);
+  EXPECT_EQ(record.VSWRTop, 7);
+  EXPECT_EQ(record.ImpedanceTop, 345);
+}
+
+TEST_F(Plot, AutoScaleLeavesNoLossScaleForAResponseThatNeverFalls) {
+  responses->RespTrans.Fill(1);
+  AutoScale(record, *responses);
+  EXPECT_EQ(record.LossBottom, 0);
+}
+
+TEST_F(Plot, DrawTracesDrawsNothingElse) {
+  Picture picture;
+  DrawTraces(record, *responses, 2, {0x111111, 0x222222}, picture);
+  ASSERT_EQ(picture.Operations().size(), 2U);
+  EXPECT_EQ(Traces(picture)[0].pen.color, 0x111111U);
+}
+
+TEST_F(Plot, TracesHaveTheSetWidth) {
+  record.PlotLineWidth = 3;
+  EXPECT_EQ(Traces(Drawn(1))[0].pen.width, 3);
+}
+
+}  // namespace
+}  // namespace quilm

@@ -1,0 +1,176 @@
+// Drives the real window through the program's pages and saves a picture of each.
+//
+// Usage: quilm-screenshots DIR
+// For each palette, pixel density and window size a folder of its own: DIR/light-100-1280x860/plot.png and so on. Runs
+// on the toolkit's offscreen platform unless another one is asked for by QT_QPA_PLATFORM.
+#include <QAbstractButton>
+#include <QApplication>
+#include <QDir>
+#include <QLineEdit>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <cstdio>
+
+#include "app/Desktop.h"
+#include "app/Palettes.h"
+#include "pages/PageDirectory.h"
+#include "pages/StartUp.h"
+#include "shell/Page.h"
+#include "synthesis/DesignSummary.h"
+
+namespace {
+
+using namespace quilm;
+
+void Settle() {
+  constexpr int turns = 5;
+  for (int i = 0; i < turns; ++i) QApplication::processEvents();
+}
+
+// One walk through the program at one size.
+class Walk {
+ public:
+  Walk(const QString& folder, QSize size) : folder_(folder), desktop_(AllPages(), data_.path()) {
+    QDir().mkpath(folder);
+    desktop_.window.summary = [this] { return DesignSummary(desktop_.session.record); };
+    desktop_.Start(StartProgram);
+    desktop_.window.resize(size);
+    Settle();
+  }
+
+  void Run() {
+    Save("opening");
+    Press("cmdDesignNew");
+    Save("design-new");
+    Design();
+    Save("design-lowpass");
+    Press("cmdPlot");
+    Plots();
+    Visit("cmdSchematic", "schematic");
+    Visit("cmdEdit", "edit");
+    Visit("cmdAnalysis", "analysis");
+    Visit("cmdTabulate", "tabulated");
+    Visit("cmdDesign", "design-return");
+    Modal("cmdAbout", "about");
+    Modal("cmdExit", "exit");
+  }
+
+ private:
+  QWidget* Find(const char* name) { return desktop_.TopView()->Find(QString::fromLatin1(name)); }
+
+  bool Press(const char* name) {
+    auto* button = qobject_cast<QAbstractButton*>(Find(name));
+    if (button == nullptr || !button->isVisible() || !button->isEnabled()) return false;
+    button->click();
+    Settle();
+    return true;
+  }
+
+  void Type(const char* name, const char* text) {
+    Control* control = desktop_.session.pages.Top()->Find(name);
+    auto* box = dynamic_cast<TextBox*>(control);
+    if (box == nullptr || !box->Usable()) {
+      std::fprintf(stderr, "no entry box %s\n", name);
+      return;
+    }
+    desktop_.platform.Stage().Perform([&](Session& session) {
+      quilm::Type(session, *box, text);
+      quilm::Leave(session, *box);
+    });
+    Settle();
+  }
+
+  // A 7th-order Chebyshev lowpass of 0.1 dB ripple, 1 MHz and 50 ohms.
+  void Design() {
+    Press("optChebyshev");
+    Press("optA");
+    Type("txtOrder", "7");
+    Type("txtRipple", "0.1");
+    Type("txtBandwidth", "1meg");
+    Type("txtRsource", "50");
+    Type("txtRload", "50");
+  }
+
+  // The main plot, then what every picture button of the page shows.
+  void Plots() {
+    Save("plot");
+    std::vector<std::string> kinds;
+    for (const Control* control : desktop_.session.pages.Top()->Controls()) {
+      if (control->kind != ControlKind::Button) continue;
+      const auto& button = static_cast<const Button&>(*control);
+      if (button.role == ButtonRole::Thumbnail && button.Usable()) kinds.push_back(button.name);
+    }
+    for (const std::string& kind : kinds) {
+      if (Press(kind.c_str())) Save(("plot-" + kind).c_str());
+    }
+  }
+
+  void Visit(const char* button, const char* name) {
+    if (Press(button)) Save(name);
+  }
+
+  // A modal page waits in its own event loop: it is looked at and closed from a timer.
+  void Modal(const char* button, const char* name) {
+    constexpr int milliseconds = 100;
+    QTimer::singleShot(milliseconds, qApp, [this, name] {
+      QWidget* front = desktop_.platform.Stage().FrontWindow();
+      if (front == &desktop_.window) return;
+      Settle();
+      front->grab().save(folder_ + QLatin1Char('/') + QString::fromLatin1(name) + QStringLiteral(".png"));
+      front->close();
+    });
+    Press(button);
+  }
+
+  void Save(const char* name) {
+    Settle();
+    const QString path = folder_ + QLatin1Char('/') + QString::fromLatin1(name) + QStringLiteral(".png");
+    if (!desktop_.window.grab().save(path)) std::fprintf(stderr, "cannot write %s\n", qPrintable(path));
+  }
+
+  QString folder_;
+  QTemporaryDir data_;
+  Desktop desktop_;
+};
+
+// One process for each pixel density: the toolkit takes it from the environment at start.
+int RunAllDensities(const QString& program, const QString& folder) {
+  for (const char* percent : {"100", "200"}) {
+    QProcess child;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("QT_SCALE_FACTOR"), QString::number(QByteArray(percent).toInt() / 100.0));
+    environment.insert(QStringLiteral("QUILM_SCREENSHOT_PERCENT"), QString::fromLatin1(percent));
+    child.setProcessEnvironment(environment);
+    child.setProcessChannelMode(QProcess::ForwardedChannels);
+    child.start(program, {folder});
+    if (!child.waitForFinished(-1) || child.exitCode() != 0) return 1;
+  }
+  return 0;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  if (argc != 2) {
+    std::fputs("usage: quilm-screenshots DIR\n", stderr);
+    return 2;
+  }
+  if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+  const QApplication app(argc, argv);
+  const QString folder = QString::fromLocal8Bit(argv[1]);
+  const QString percent = qEnvironmentVariable("QUILM_SCREENSHOT_PERCENT");
+  if (percent.isEmpty()) return RunAllDensities(QApplication::applicationFilePath(), folder);
+
+  for (const char* palette : {"light", "dark"}) {
+    SetAppearance(QString::fromLatin1(palette));
+    for (const QSize size : {QSize(1024, 700), QSize(1280, 860), QSize(1920, 1080)}) {
+      const QString name = QStringLiteral("%1/%2-%3-%4x%5")
+                               .arg(folder, QString::fromLatin1(palette), percent)
+                               .arg(size.width())
+                               .arg(size.height());
+      Walk(name, size).Run();
+    }
+  }
+  return 0;
+}
