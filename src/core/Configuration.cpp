@@ -96,13 +96,19 @@ void ReadSettings(std::istream& in, Configuration& configuration) {
   }
 }
 
-void TakeSettings(DesignRecord& record, const Configuration& configuration) {
-  for (int line = 1; line <= settingCount; ++line) {
-    // The termination of a design is the design's own.
-    if (line != lineRsource) SettingOf(line).write(record, configuration.ConfigValue[line]);
+// False when a value does not fit its field; the fields before it have changed then.
+bool TakeSettings(DesignRecord& record, const Configuration& configuration) {
+  try {
+    for (int line = 1; line <= settingCount; ++line) {
+      // The termination of a design is the design's own.
+      if (line != lineRsource) SettingOf(line).write(record, configuration.ConfigValue[line]);
+    }
+  } catch (const NumericFault&) {
+    return false;
   }
   record.SmithAspect = std::max(record.SmithAspect, 0.5F);
   record.PlotLineWidth = std::max<i16>(record.PlotLineWidth, 1);
+  return true;
 }
 
 // What is written for a line, by the rules that keep an empty field from overwriting a preference.
@@ -136,13 +142,9 @@ void ApplyDefaults(DesignRecord& record, Configuration& configuration) {
 bool ReadConfiguration(std::istream& in, DesignRecord& record, Configuration& configuration) {
   ApplyDefaults(record, configuration);
   ReadSettings(in, configuration);
-  try {
-    TakeSettings(record, configuration);
-    return true;
-  } catch (const NumericFault&) {
-    ApplyDefaults(record, configuration);
-    return false;
-  }
+  if (!in.bad() && TakeSettings(record, configuration)) return true;
+  ApplyDefaults(record, configuration);
+  return false;
 }
 
 std::string FormatConfiguration(DesignRecord& record, Configuration& configuration, const std::string& now) {

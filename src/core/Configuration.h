@@ -21,15 +21,16 @@ struct Configuration {
 // Sets every setting of the record, and ConfigValue, to its default.
 void ApplyDefaults(DesignRecord& record, Configuration& configuration);
 
-// Applies the defaults, then takes up to 17 settings in order. A line that is empty or begins with "!", "*", "'", "/"
-// or
-// "\" is skipped; a setting is the entry after the first ":" of its line. Settings that a short file lacks keep their
-// defaults, and so do all when a value does not fit its field (returns false). The source termination is not taken from
-// the file: only ConfigValue receives it.
+// Applies the defaults, then takes up to 17 settings in order, lines ended by LF or CR LF. A line that is empty or that
+// begins, after blanks, with an exclamation mark, asterisk, apostrophe or either slash is skipped; a setting is the
+// entry after the first ":" of its line, 0 without a colon. Settings that a short file lacks keep their defaults.
+// The source termination is not taken from the file: only ConfigValue receives it. False when the stream fails or a
+// value does not fit its field; then all settings are the defaults.
 bool ReadConfiguration(std::istream& in, DesignRecord& record, Configuration& configuration);
 
 // The text of the file, lines ended by CR LF. A field that is 0 takes the value read at start, so that an empty field
-// never overwrites a preference; the record takes that value too. `now` stands in the head of the file.
+// never overwrites a preference; the record takes that value too. `now`, date and time, stands in the head of the file.
+// Throws NumericFault when a ConfigValue that must stand in does not fit its field; none does after reading.
 std::string FormatConfiguration(DesignRecord& record, Configuration& configuration, const std::string& now);
 
 }  // namespace quilm

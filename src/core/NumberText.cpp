@@ -9,7 +9,7 @@ namespace quilm {
 
 namespace {
 
-constexpr int significantDigits = 7;
+constexpr std::size_t significantDigits = 7;
 // The longest exact expansion of a 32-bit float has 112 significant digits.
 constexpr int exactDigits = 112;
 
@@ -44,26 +44,24 @@ Decimal Expanded(f32 value) {
   return decimal;
 }
 
-// Keeps the first `count` digits, the last one rounded, a half away from zero.
-void KeepDigits(Decimal& decimal, int count) {
-  if (count >= static_cast<int>(decimal.digits.size())) return;
-  if (count < 0) {
-    decimal.digits.clear();
-    return;
+// Adds one unit of the last digit.
+void RoundUp(Decimal& decimal) {
+  std::size_t i = decimal.digits.size();
+  while (i > 0 && decimal.digits[i - 1] == '9') decimal.digits[--i] = '0';
+  if (i > 0) {
+    ++decimal.digits[i - 1];
+  } else {
+    decimal.digits.insert(decimal.digits.begin(), '1');
+    ++decimal.point;
   }
-  const auto kept = static_cast<std::size_t>(count);
-  const bool up = decimal.digits[kept] >= '5';
-  decimal.digits.resize(kept);
-  if (up) {
-    std::size_t i = kept;
-    while (i > 0 && decimal.digits[i - 1] == '9') decimal.digits[--i] = '0';
-    if (i > 0) {
-      ++decimal.digits[i - 1];
-    } else {
-      decimal.digits.insert(decimal.digits.begin(), '1');
-      ++decimal.point;
-    }
-  }
+}
+
+// Keeps the significant digits, the last one rounded, a half away from zero.
+void KeepSignificant(Decimal& decimal) {
+  if (decimal.digits.size() <= significantDigits) return;
+  const bool up = decimal.digits[significantDigits] >= '5';
+  decimal.digits.resize(significantDigits);
+  if (up) RoundUp(decimal);
   StripZeros(decimal);
 }
 
@@ -90,8 +88,9 @@ std::string FixedForm(const Decimal& decimal, LeadingZero zero) {
 }
 
 bool NeedsExponent(const Decimal& decimal) {
+  constexpr int places = significantDigits;
   const int afterPoint = static_cast<int>(decimal.digits.size()) - decimal.point;
-  return decimal.point < -3 || decimal.point > significantDigits || afterPoint > significantDigits;
+  return decimal.point < -3 || decimal.point > places || afterPoint > places;
 }
 
 std::string NotFinite(f32 value) { return std::isnan(value) ? "NaN" : value < 0 ? "-Inf" : "Inf"; }
@@ -99,20 +98,18 @@ std::string NotFinite(f32 value) { return std::isnan(value) ? "NaN" : value < 0 
 }  // namespace
 
 f32 RoundedTo(f32 value, int decimals) {
-  if (!std::isfinite(value)) return value;
-  Decimal decimal = Expanded(value);
-  KeepDigits(decimal, decimal.point + decimals);
-  if (decimal.digits.empty()) return 0;
-  const std::string text = ExponentForm(decimal);
-  f32 rounded = 0;
-  std::from_chars(text.data(), text.data() + text.size(), rounded);
-  return decimal.negative ? -rounded : rounded;
+  constexpr f64 powers[] = {1, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8};
+  const f64 power = powers[decimals];
+  // Two exact steps: 24 bits times at most 19 fit 64-bit arithmetic, so std::round sees the true value and its ties;
+  // and the quotient of two whole numbers lies on the middle between two f32 or so far beside it that rounding it
+  // twice, to 64 and to 32 bits, equals rounding it once. Adding zero takes the sign from a zero.
+  return static_cast<f32>(std::round(static_cast<f64>(value) * power) / power + 0.0);
 }
 
 std::string ShortText(f32 value, LeadingZero zero) {
   if (!std::isfinite(value)) return NotFinite(value);
   Decimal decimal = Expanded(value);
-  KeepDigits(decimal, significantDigits);
+  KeepSignificant(decimal);
   if (decimal.digits.empty()) return "0";
   std::string text = NeedsExponent(decimal) ? ExponentForm(decimal) : FixedForm(decimal, zero);
   if (decimal.negative) text.insert(0, 1, '-');

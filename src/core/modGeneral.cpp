@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <limits>
 #include <span>
 #include <string_view>
 
@@ -29,6 +30,7 @@ constexpr Multiplier multipliers[] = {
     {"Kk", 'k', 1000.0F}, {"M", 'M', 1e6F},   {"Gg", 'G', 1e9F},
 };
 
+// Null for a letter that is no multiplier.
 const Multiplier* FindMultiplier(char c) {
   for (const Multiplier& multiplier : multipliers) {
     if (multiplier.letters.find(c) != std::string_view::npos) return &multiplier;
@@ -82,10 +84,20 @@ class EntryScanner {
   f32 scale_ = 1;
 };
 
+// Where the first `count` characters of a UTF-8 text end. A cut between the bytes of one would leave a broken text.
+std::size_t EndOfCharacters(std::string_view text, std::size_t count) {
+  const auto begins = [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; };
+  std::size_t seen = 0;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    if (begins(text[i]) && ++seen > count) return i;
+  }
+  return text.size();
+}
+
 void TrimAndCut(std::string& text) {
   const std::size_t first = text.find_first_not_of(' ');
   text = first == std::string::npos ? "" : text.substr(first, text.find_last_not_of(' ') - first + 1);
-  if (text.size() > longestEntry) text.resize(longestEntry);
+  text.resize(EndOfCharacters(text, longestEntry));
 }
 
 // The number that a text begins with; infinite where it leaves the range of 64 bits, 0 where there is none.
@@ -173,8 +185,11 @@ void ParseEntry(std::string& Text, f32& Result) {
   TrimAndCut(Text);
   EntryScanner scanner;
   for (const char c : Text) scanner.Take(c);
-  const f32 number = static_cast<f32>(LeadingNumber(scanner.Kept()));
-  Result = std::clamp(number * scanner.Scale(), -largestEntry, largestEntry);
+  // Held before it is narrowed, so that a huge entry sets no overflow flag in a caller's fault scope. Only an entry
+  // with an exponent, which takes no multiplier, gets that far. Adding zero takes the sign from a zero.
+  constexpr f64 largest = std::numeric_limits<f32>::max();
+  const f32 number = static_cast<f32>(std::clamp(LeadingNumber(scanner.Kept()), -largest, largest));
+  Result = std::clamp(number * scanner.Scale(), -largestEntry, largestEntry) + 0.0F;
 }
 
 std::string FormatFrequency(f32 Value) {

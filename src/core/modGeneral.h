@@ -9,12 +9,13 @@ namespace quilm {
 
 // Reads an entry such as "1.2M", "1200k" or "1,2e6" into Result. Multipliers: p n u k g in either case, m milli, M
 // mega. A comma counts as a point; whatever makes no sense is dropped. Never fails: an entry without a number is 0, and
-// the result is held within -1e10..1e10. Trims Text and cuts it to its first 12 characters.
+// the result is held within -1e10..1e10, and an underflow is 0. Each step rounds to 32 bits. Trims Text and cuts it to
+// its first 12 characters.
 void ParseEntry(std::string& Text, f32& Result);
 
 // Display formats: up to six significant places, followed by the multiplier and unit. The last blanks are part of the
-// texts. FormatFrequency serves any plain value with the multipliers G, M, k, m and looks at the sign; a resistance at
-// or below 0.001 reads as zero.
+// texts. The unit is chosen before the rounding, so just under 1 mH reads "1000uH". FormatFrequency serves any plain
+// value with the multipliers G, M, k, m and looks at the sign; a resistance at or below 0.001 reads as zero.
 std::string FormatFrequency(f32 Value);
 std::string FormatInductance(f32 Value);   // empty for 0
 std::string FormatCapacitance(f32 Value);  // empty for 0; uF from 0.01 uF up, pF below: no nanofarads

@@ -29,6 +29,12 @@ PageDirectory AllPages() {
       {PageId::Exit, Make<frmExit>},       {PageId::ChangeTitle, Make<frmChangeTitle>},
       {PageId::AddInfo, Make<frmAddInfo>}, {PageId::About, Make<frmAbout>},
       {PageId::Help, Make<frmHelp>},
+      {PageId::EnterWidth, Make<frmEnterWidth>},
+      {PageId::EnterCenterFreq, Make<frmEnterCenterFreq>},
+      {PageId::EnterInput, Make<frmEnterInput>},
+      {PageId::EnterFstopband, Make<frmEnterFstopband>},
+      {PageId::EnterAstop, Make<frmEnterAstop>},
+      {PageId::EnterTopology, Make<frmEnterTopology>},
   };
 }
 

@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <sstream>
+#include <stdexcept>
+#include <streambuf>
 
 namespace quilm {
 namespace {
@@ -44,6 +46,73 @@ TEST_F(ConfigurationFile, AnEmptyOneGivesTheDefaults) {
   EXPECT_EQ(record.SmithAspect, 0.75F);
   EXPECT_EQ(record.PlotLineWidth, 1);
   EXPECT_EQ(configuration.ConfigValue[14], 1e7F);
+}
+
+TEST_F(ConfigurationFile, TheDefaultsReplaceWhateverStood) {
+  record.Qcap[1] = 7;
+  record.Units = 2;
+  record.PlotLineWidth = 5;
+  configuration.ConfigValue.Fill(3);
+  ApplyDefaults(record, configuration);
+  EXPECT_EQ(record.Qcap[1], 2000);
+  EXPECT_EQ(record.Units, 1);
+  EXPECT_EQ(record.PlotLineWidth, 1);
+  EXPECT_EQ(configuration.ConfigValue[17], 1);
+}
+
+TEST_F(ConfigurationFile, EachLineGoesToItsField) {
+  std::string text;
+  for (int line = 1; line <= 17; ++line) text += "any label: " + std::to_string(line + 20) + "\r\n";
+  EXPECT_TRUE(Read(text));
+  EXPECT_EQ(record.Qcap[1], 21);
+  EXPECT_EQ(record.Units, 22);
+  EXPECT_EQ(record.Qind[1], 23);
+  EXPECT_EQ(record.SweepMode, 25);
+  EXPECT_EQ(record.NrXints, 26);
+  EXPECT_EQ(record.NrYints, 27);
+  EXPECT_EQ(record.NrIntervals, 28);
+  EXPECT_EQ(record.DelayTop, 29);
+  EXPECT_EQ(record.ImpedanceTop, 30);
+  EXPECT_EQ(record.LossBottom, 31);
+  EXPECT_EQ(record.Rstandard, 32);
+  EXPECT_EQ(record.Fstart, 33);
+  EXPECT_EQ(record.Fstop, 34);
+  EXPECT_EQ(record.VSWRTop, 35);
+  EXPECT_EQ(record.SmithAspect, 36);
+  EXPECT_EQ(record.PlotLineWidth, 37);
+  for (int line = 1; line <= 17; ++line) EXPECT_EQ(configuration.ConfigValue[line], line + 20);
+}
+
+TEST_F(ConfigurationFile, TheValueStandsAfterTheFirstColon) {
+  Read("Q: 15: 3\n:7\nx:  2.5k  \n");  // the second colon is dropped like any other sign
+  EXPECT_EQ(record.Qcap[1], 153);
+  EXPECT_EQ(record.Units, 7);
+  EXPECT_EQ(record.Qind[1], 2500);
+}
+
+TEST_F(ConfigurationFile, CountsRoundToTheNearestTiesToEven) {
+  Read("x:1\nx:2.5\n");
+  EXPECT_EQ(record.Units, 2);
+}
+
+TEST_F(ConfigurationFile, TheLastLineNeedsNoEnd) {
+  Read("Capacitor Q values: 900");
+  EXPECT_EQ(record.Qcap[1], 900);
+}
+
+TEST_F(ConfigurationFile, ALineOfBlanksIsEmpty) {
+  Read("  \t \r\nx: 900\n");
+  EXPECT_EQ(record.Qcap[1], 900);
+}
+
+TEST_F(ConfigurationFile, AStreamThatFailsGivesTheDefaults) {
+  class Broken : public std::streambuf {
+    int_type underflow() override { throw std::runtime_error("the disk is gone"); }
+  } broken;
+  std::istream in(&broken);
+  EXPECT_FALSE(ReadConfiguration(in, record, configuration));
+  EXPECT_EQ(record.Qcap[1], 2000);
+  EXPECT_EQ(configuration.ConfigValue[1], 2000);
 }
 
 TEST_F(ConfigurationFile, CommentsAndEmptyLinesAreNoSettings) {
@@ -90,11 +159,18 @@ TEST_F(ConfigurationFile, WritesItsHeadAndLines) {
   Read("");
   EXPECT_EQ(FormatConfiguration(record, configuration, "2026-01-02 03:04:05").substr(0, 62),
             "* Quilm Configuration File\r\n\r\n* 2026-01-02 03:04:05\r\n\r\nCapacit");
-  EXPECT_EQ(Line(1), "Capacitor Q values: 2000 \r");
-  EXPECT_EQ(Line(9), "Plot delay top: .0001 \r");
-  EXPECT_EQ(Line(11), "Plot loss bottom:-60 \r");
-  EXPECT_EQ(Line(14), "Stopping test freq: 1E+07 \r");
-  EXPECT_EQ(Line(17), "Plot data line width: 1 \r");
+  const char* const lines[] = {
+      "Capacitor Q values: 2000 ",  "EnglishMetric: 1 ",
+      "Inductor Q values: 200 ",    "Input termination: 50 ",
+      "Linear or log: 2 ",          "Number of plot X steps: 10 ",
+      "Number of plot Y steps: 6 ", "Number of test freq steps: 1000 ",
+      "Plot delay top: .0001 ",     "Plot impedance top: 1200 ",
+      "Plot loss bottom:-60 ",      "Rstandard: 50 ",
+      "Starting test freq: 1000 ",  "Stopping test freq: 1E+07 ",
+      "Plot VSWR top: 2.2 ",        "Smith aspect ratio: .75 ",
+      "Plot data line width: 1 ",
+  };
+  for (int i = 0; i < 17; ++i) EXPECT_EQ(Line(i + 1), std::string(lines[i]) + "\r");
 }
 
 TEST_F(ConfigurationFile, WhatIsWrittenReadsBack) {
@@ -110,14 +186,41 @@ TEST_F(ConfigurationFile, WhatIsWrittenReadsBack) {
 }
 
 TEST_F(ConfigurationFile, AnEmptyFieldKeepsThePreference) {
-  Read("a:900\n");
-  record.Qcap[1] = 0;
-  record.Fstart = 0;
-  record.SweepMode = 0;
-  EXPECT_EQ(Line(1), "Capacitor Q values: 900 \r");
-  EXPECT_EQ(record.Qcap[1], 900);
-  EXPECT_EQ(record.Fstart, 1000);
-  EXPECT_EQ(record.SweepMode, 2);
+  std::string text;
+  for (int line = 1; line <= 17; ++line) text += "x: " + std::to_string(line + 20) + "\n";
+  Read(text);
+  record = DesignRecord();
+  record.NrYints = 9;  // its own rule, see below
+  const std::string written = FormatConfiguration(record, configuration, "now");
+  EXPECT_EQ(record.Qcap[1], 21);
+  EXPECT_EQ(record.Qind[1], 23);
+  EXPECT_EQ(record.Rsource[1], 24);
+  EXPECT_EQ(record.SweepMode, 25);
+  EXPECT_EQ(record.NrXints, 26);
+  EXPECT_EQ(record.NrIntervals, 28);
+  EXPECT_EQ(record.DelayTop, 29);
+  EXPECT_EQ(record.ImpedanceTop, 30);
+  EXPECT_EQ(record.LossBottom, 31);
+  EXPECT_EQ(record.Rstandard, 32);
+  EXPECT_EQ(record.Fstart, 33);
+  EXPECT_EQ(record.Fstop, 34);
+  EXPECT_EQ(record.VSWRTop, 35);
+  EXPECT_NE(written.find("Input termination: 24 \r\n"), std::string::npos);
+  EXPECT_NE(written.find("Starting test freq: 33 \r\n"), std::string::npos);
+}
+
+TEST_F(ConfigurationFile, AFieldThatIsSetIsWrittenAsItIs) {
+  Read("x: 900\n");
+  record.Qcap[1] = -5;  // only 0 counts as empty
+  record.Rsource[1] = 75;
+  EXPECT_EQ(Line(1), "Capacitor Q values:-5 \r");
+  EXPECT_EQ(Line(4), "Input termination: 75 \r");
+  EXPECT_EQ(configuration.ConfigValue[1], 900);
+}
+
+TEST_F(ConfigurationFile, EndsWithItsLastSetting) {
+  Read("");
+  EXPECT_TRUE(FormatConfiguration(record, configuration, "now").ends_with("Plot data line width: 1 \r\n"));
 }
 
 TEST_F(ConfigurationFile, UnitsAreWrittenAsTheyStand) {
@@ -131,10 +234,14 @@ TEST_F(ConfigurationFile, VerticalStepsNeedAPreferenceAboveThree) {
   configuration.ConfigValue[7] = 8;
   record.NrYints = 0;
   EXPECT_EQ(Line(7), "Number of plot Y steps: 8 \r");
+  EXPECT_EQ(record.NrYints, 8);
   configuration.ConfigValue[7] = 3;
   record.NrYints = 0;
   EXPECT_EQ(Line(7), "Number of plot Y steps: 6 \r");
+  EXPECT_EQ(record.NrYints, 6);
   EXPECT_EQ(configuration.ConfigValue[7], 6);
+  record.NrYints = 2;
+  EXPECT_EQ(Line(7), "Number of plot Y steps: 2 \r");
 }
 
 TEST_F(ConfigurationFile, AspectAndLineWidthAreHeld) {
@@ -142,6 +249,9 @@ TEST_F(ConfigurationFile, AspectAndLineWidthAreHeld) {
   record.SmithAspect = -1;
   record.PlotLineWidth = 9;
   EXPECT_EQ(Line(16), "Smith aspect ratio: .75 \r");
+  EXPECT_EQ(record.SmithAspect, 0.75F);
+  record.SmithAspect = 0.3F;  // no floor here, only when read
+  EXPECT_EQ(Line(16), "Smith aspect ratio: .3 \r");
   EXPECT_EQ(Line(17), "Plot data line width: 6 \r");
   EXPECT_EQ(record.PlotLineWidth, 6);
   record.PlotLineWidth = -2;

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <limits>
 
 #include "core/BoundedArray.h"
@@ -72,6 +73,27 @@ TEST(NumericFaultScope, AnInnerScopeGivesTheOuterOneItsFlagsBack) {
   EXPECT_THROW(outer.Checked(infinite), NumericFault);
 }
 
+TEST(NumericFaultScope, WhatAnInnerScopeReportedIsOverForTheOuterOne) {
+  NumericFaultScope outer;
+  {
+    NumericFaultScope inner;
+    EXPECT_THROW(inner.Checked(one / zero), NumericFault);
+  }
+  EXPECT_EQ(outer.Checked(one), 1);
+}
+
+TEST(NumericFaultScope, AReportedFaultIsNotReportedTwice) {
+  NumericFaultScope scope;
+  EXPECT_THROW(scope.Checked(one / zero), NumericFault);
+  EXPECT_EQ(scope.Checked(one), 1);
+}
+
+TEST(NumericFaultScope, ALogarithmOfZeroAndARootOfANegativeFault) {
+  NumericFaultScope scope;
+  EXPECT_EQ(FaultOf([&] { scope.Checked(std::log(zero)); }), "Division by zero");
+  EXPECT_EQ(FaultOf([&] { scope.Checked(std::sqrt(-one)); }), "Invalid procedure call or argument");
+}
+
 TEST(ToI16, RoundsToTheNearestTiesToEven) {
   EXPECT_EQ(ToI16(2.5), 2);
   EXPECT_EQ(ToI16(3.5), 4);
@@ -82,7 +104,10 @@ TEST(ToI16, RoundsToTheNearestTiesToEven) {
 TEST(ToI16, FaultsOutsideItsRange) {
   EXPECT_EQ(ToI16(32767.4), 32767);
   EXPECT_EQ(ToI16(-32768.5), -32768);
+  EXPECT_EQ(ToI16(-0.5), 0);
   EXPECT_THROW(ToI16(32767.5), NumericFault);
+  EXPECT_THROW(ToI16(-32768.51), NumericFault);
+  EXPECT_THROW(ToI16(std::numeric_limits<f64>::infinity()), NumericFault);
   EXPECT_THROW(ToI16(-32769), NumericFault);
   EXPECT_THROW(ToI16(std::numeric_limits<f64>::quiet_NaN()), NumericFault);
 }
@@ -93,6 +118,11 @@ TEST(BoundedArray, IsIndexedWithinItsDeclaredBounds) {
   array[3] = 30;
   EXPECT_EQ(array[3], 30);
   EXPECT_EQ(array.size(), 3U);
+  EXPECT_EQ(array[2], 0);
+  EXPECT_EQ((BoundedArray<f32, -2, 2>::first), -2);
+  BoundedArray<f32, -2, 2> around;
+  around[-2] = 5;
+  EXPECT_EQ(*around.begin(), 5);
 }
 
 TEST(BoundedArray, FaultsOutsideThem) {

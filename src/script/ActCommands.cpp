@@ -1,0 +1,118 @@
+// What a user does to the page on top.
+#include <limits>
+
+#include "script/Commands.h"
+#include "shell/Acts.h"
+#include "shell/Page.h"
+
+namespace quilm {
+
+namespace {
+
+// Takes the focus to the control, which leaves the text box that had it. What its handler does may lead elsewhere.
+void GoTo(ScriptRun& run, const std::string& name) {
+  FindControl(run, name);
+  run.focus.MoveTo(run.Top(), name);
+  run.focus.FollowWish();
+}
+
+void Press(ScriptRun& run, const std::string& arguments) {
+  const std::string name = Arguments(arguments, 1, 1, "press NAME").front();
+  GoTo(run, name);
+  Click(run.session, FindControl(run, name));
+}
+
+// The first character of UTF-8 text with the bytes that belong to it.
+std::string_view FirstCharacter(std::string_view text) {
+  std::size_t length = 1;
+  while (length < text.size() && (static_cast<unsigned char>(text[length]) & 0xC0) == 0x80) ++length;
+  return text.substr(0, length);
+}
+
+// The first key replaces the selected text, the others go to the end of what the box holds by then. A full box takes no
+// more of them.
+void TypeKeys(ScriptRun& run, TextBox& box, std::string_view keys) {
+  const Page& page = run.Top();
+  std::string before;
+  while (!keys.empty()) {
+    const std::string_view key = FirstCharacter(keys);
+    keys.remove_prefix(key.size());
+    if (before.size() + key.size() > static_cast<std::size_t>(box.maxLength)) return;
+    Type(run.session, box, before + std::string(key));
+    if (run.session.ended) return;
+    if (run.session.pages.Top() != &page) break;
+    before = box.text;
+  }
+  if (!keys.empty()) throw CommandFailure{"the page was left while typing"};
+}
+
+void TypeText(ScriptRun& run, const std::string& arguments) {
+  const FirstWord split = SplitFirst(arguments);
+  if (split.word.empty()) throw CommandFailure{"the form is: type NAME TEXT"};
+  GoTo(run, split.word);
+  TextBox& box = FindKind<TextBox>(run, split.word, "text box");
+  if (box.Usable()) run.focus.Give(run.Top(), box);
+  if (split.rest.empty()) {
+    Type(run.session, box, "");
+  } else {
+    TypeKeys(run, box, split.rest);
+  }
+}
+
+void SpinButtons(ScriptRun& run, const std::string& arguments) {
+  constexpr std::string_view form = "spin NAME up|down [COUNT]";
+  const auto words = Arguments(arguments, 2, 3, form);
+  if (words[1] != "up" && words[1] != "down") throw CommandFailure{"the form is: " + std::string(form)};
+  const int count = words.size() == 3 ? CountArgument(words[2], 1, std::numeric_limits<int>::max()) : 1;
+  GoTo(run, words[0]);
+  const Page& page = run.Top();
+  for (int i = 0; i < count && !run.session.ended; ++i) {
+    if (run.session.pages.Top() != &page) throw CommandFailure{"the page was left while spinning"};
+    Step(run.session, FindKind<Spin>(run, words[0], "spin control"), words[1] == "up" ? +1 : -1);
+  }
+}
+
+void ChooseLine(ScriptRun& run, const std::string& arguments) {
+  const auto words = Arguments(arguments, 2, 2, "choose NAME N");
+  const int line = CountArgument(words[1], 1, std::numeric_limits<int>::max());
+  GoTo(run, words[0]);
+  Choose(run.session, FindKind<ListBox>(run, words[0], "list"), line);
+}
+
+void MouseOnPicture(ScriptRun& run, const std::string& arguments) {
+  constexpr std::string_view form = "mouse down|move|up X Y [left|right]";
+  const std::map<std::string_view, MouseAct> acts{
+      {"down", MouseAct::Down}, {"move", MouseAct::Move}, {"up", MouseAct::Up}};
+  const std::map<std::string_view, MouseButton> buttons{{"left", MouseButton::Left}, {"right", MouseButton::Right}};
+  const auto words = Arguments(arguments, 3, 4, form);
+  const auto act = acts.find(words[0]);
+  const auto button = buttons.find(words.size() == 4 ? std::string_view(words[3]) : "left");
+  if (act == acts.end() || button == buttons.end()) throw CommandFailure{"the form is: " + std::string(form)};
+  Mouse(run.session, PagePicture(run), act->second, NumberArgument(words[1]), NumberArgument(words[2]), button->second);
+}
+
+void ClosePage(ScriptRun& run, const std::string& arguments) {
+  Arguments(arguments, 0, 0, "close");
+  Page& page = run.Top();
+  run.focus.MoveTo(page, {});
+  if (run.session.pages.Top() != &page) throw CommandFailure{"the page was left before it could be closed"};
+  PressCloseBox(run.session, page);
+}
+
+void RunAtYield(ScriptRun& run, const std::string& arguments) {
+  const FirstWord split = SplitFirst(arguments);
+  const auto command = ParseLine(split.rest, run.Present().line);
+  if (split.word.empty() || !command) throw CommandFailure{"the form is: at-yield N COMMAND"};
+  run.AtYield(CountArgument(split.word, 1, std::numeric_limits<int>::max()), *command);
+}
+
+}  // namespace
+
+const CommandTable& ActCommands() {
+  static const CommandTable table{{"press", Press},        {"type", TypeText},        {"spin", SpinButtons},
+                                  {"choose", ChooseLine},  {"mouse", MouseOnPicture}, {"close", ClosePage},
+                                  {"at-yield", RunAtYield}};
+  return table;
+}
+
+}  // namespace quilm

@@ -1,0 +1,77 @@
+// What a script prepares: the answers to coming questions, the random sequence, the clock.
+#include <chrono>
+#include <limits>
+
+#include "script/Commands.h"
+
+namespace quilm {
+
+namespace {
+
+void QueueAnswer(ScriptRun& run, const std::string& arguments) {
+  const std::string word = Arguments(arguments, 1, 1, "answer ok|yes|no").front();
+  for (const Answer answer : {Answer::Ok, Answer::Yes, Answer::No}) {
+    if (word != AnswerWord(answer)) continue;
+    run.platform.answers.push_back(answer);
+    return;
+  }
+  throw CommandFailure{"the form is: answer ok|yes|no"};
+}
+
+void QueueFile(ScriptRun& run, const std::string& arguments) {
+  const std::string path = WholeArgument(arguments, "file PATH, or file cancel");
+  run.platform.files.push_back(path == "cancel" ? std::nullopt : std::optional<std::string>(path));
+}
+
+void QueuePrinter(ScriptRun& run, const std::string& arguments) {
+  const std::string word = Arguments(arguments, 1, 1, "printer ok|cancel").front();
+  if (word != "ok" && word != "cancel") throw CommandFailure{"the form is: printer ok|cancel"};
+  run.platform.printers.push_back(word == "ok");
+}
+
+void Seed(ScriptRun& run, const std::string& arguments) {
+  const std::string word = Arguments(arguments, 1, 1, "seed N").front();
+  run.session.random.seed(
+      static_cast<std::mt19937::result_type>(CountArgument(word, 0, std::numeric_limits<int>::max())));
+}
+
+constexpr std::string_view dateForm = "date YYYY-MM-DD HH:MM:SS";
+
+// The number that the digits of `text` from `first` on show.
+int Digits(const std::string& text, std::size_t first, std::size_t count) {
+  const std::string digits = text.substr(first, count);
+  if (digits.find_first_not_of("0123456789") != std::string::npos) {
+    throw CommandFailure{"the form is: " + std::string(dateForm)};
+  }
+  return CountArgument(digits, 0, 9999);
+}
+
+void FixClock(ScriptRun& run, const std::string& arguments) {
+  const auto words = Arguments(arguments, 2, 2, dateForm);
+  const std::string text = words[0] + " " + words[1];
+  if (text.size() != 19 || text[4] != '-' || text[7] != '-' || text[13] != ':' || text[16] != ':') {
+    throw CommandFailure{"the form is: " + std::string(dateForm)};
+  }
+  const int year = Digits(text, 0, 4);
+  const int month = Digits(text, 5, 2);
+  const int day = Digits(text, 8, 2);
+  const int hour = Digits(text, 11, 2);
+  const int minute = Digits(text, 14, 2);
+  const int second = Digits(text, 17, 2);
+  const std::chrono::year_month_day date{std::chrono::year(year), std::chrono::month(static_cast<unsigned>(month)),
+                                         std::chrono::day(static_cast<unsigned>(day))};
+  if (!date.ok() || hour > 23 || minute > 59 || second > 59) {
+    throw CommandFailure{text + " is no date"};
+  }
+  run.platform.clock = DateTime{year, month, day, hour, minute, second};
+}
+
+}  // namespace
+
+const CommandTable& QueueCommands() {
+  static const CommandTable table{
+      {"answer", QueueAnswer}, {"file", QueueFile}, {"printer", QueuePrinter}, {"seed", Seed}, {"date", FixClock}};
+  return table;
+}
+
+}  // namespace quilm

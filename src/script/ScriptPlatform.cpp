@@ -1,0 +1,43 @@
+#include "script/ScriptPlatform.h"
+
+namespace quilm {
+
+void ScriptPlatform::RequireAnswer(const std::string& text, Buttons buttons) const {
+  if (answers.empty()) {
+    if (buttons == Buttons::YesNo) throw CommandFailure{"no answer is queued for the question: " + text};
+    return;
+  }
+  if (buttons == Buttons::YesNo && answers.front() == Answer::Ok) {
+    throw CommandFailure{"the question takes yes or no, and ok is queued: " + text};
+  }
+  if (buttons == Buttons::Ok && answers.front() != Answer::Ok) {
+    throw CommandFailure{"the message takes ok alone, and yes or no is queued: " + text};
+  }
+}
+
+void ScriptPlatform::RequireFile(const std::string& title) const {
+  if (files.empty()) throw CommandFailure{"no answer is queued for the file dialog: " + title};
+}
+
+Answer ScriptPlatform::MessageBox(const std::string& text, Buttons buttons, Icon icon, const std::string& title) {
+  RequireAnswer(text, buttons);
+  return HeadlessPlatform::MessageBox(text, buttons, icon, title);
+}
+
+std::optional<std::string> ScriptPlatform::OpenDialog(const std::string& title, const std::string& filter) {
+  RequireFile(title);
+  return HeadlessPlatform::OpenDialog(title, filter);
+}
+
+std::optional<std::string> ScriptPlatform::SaveDialog(const std::string& title, const std::string& filter,
+                                                      const std::string& defaultName) {
+  RequireFile(title);
+  return HeadlessPlatform::SaveDialog(title, filter, defaultName);
+}
+
+void ScriptPlatform::RunModal(Page& page) {
+  if (onPage) onPage("modal", page);
+  onModal(page);
+}
+
+}  // namespace quilm

@@ -1,0 +1,28 @@
+// The tools of the Design page: Command1 to Command14.
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include "shell/Control.h"
+
+namespace quilm {
+
+struct DesignView;
+
+class DesignTools {
+ public:
+  explicit DesignTools(Page& page);
+
+  // Shows the tools that some topologies offer only. They stand last, so that their place is no hole.
+  void Show(const DesignView& view);
+
+  const std::vector<std::unique_ptr<Button>>& Buttons() const { return buttons_; }
+
+ private:
+  Button& Tool(int number) { return *buttons_[static_cast<std::size_t>(number - 1)]; }
+
+  std::vector<std::unique_ptr<Button>> buttons_;
+};
+
+}  // namespace quilm
