@@ -61,6 +61,7 @@ class Walk {
 
   bool Press(const char* name) {
     auto* button = qobject_cast<QAbstractButton*>(Find(name));
+    if (button == nullptr) std::fprintf(stderr, "no button %s\n", name);
     if (button == nullptr || !button->isVisible() || !button->isEnabled()) return false;
     button->click();
     Settle();
@@ -83,13 +84,24 @@ class Walk {
 
   // A 7th-order Chebyshev lowpass of 0.1 dB ripple, 1 MHz and 50 ohms.
   void Design() {
-    Press("optChebyshev");
-    Press("optA");
-    Type("txtOrder", "7");
-    Type("txtRipple", "0.1");
-    Type("txtBandwidth", "1meg");
-    Type("txtRsource", "50");
-    Type("txtRload", "50");
+    Press("optChebycheff");
+    Press("optCapInLowpass");
+    Type("txtPassbandRipple", "0.1");
+    Type("txtBandwidth", "1M");
+    Type("txtInputTerm", "50");
+    StepUp("UpDown1", 4);
+  }
+
+  void StepUp(const char* name, int count) {
+    auto* spin = dynamic_cast<Spin*>(desktop_.session.pages.Top()->Find(name));
+    if (spin == nullptr) {
+      std::fprintf(stderr, "no spin control %s\n", name);
+      return;
+    }
+    for (int i = 0; i < count; ++i) {
+      desktop_.platform.Stage().Perform([&](Session& session) { Step(session, *spin, 1); });
+    }
+    Settle();
   }
 
   // The main plot, then what every picture button of the page shows.

@@ -1,44 +1,48 @@
 #include "pages/NavigationRow.h"
 
+#include "schematic/Icons.h"
 #include "shell/Session.h"
 
 namespace quilm {
 
 NavigationRow::NavigationRow(Page& page, Session& session, Gate gate)
     : page_(page), session_(session), gate_(std::move(gate)) {
-  AddSegment(PageId::Design, "cmdDesign", "Design", "Go to the Design page");
-  AddSegment(PageId::Schematic, "cmdSchematic", "Schematic", "See the schematic");
-  AddSegment(PageId::Edit, "cmdEdit", "Edit", "Edit the design");
-  AddSegment(PageId::Analyze, "cmdAnalysis", "Analysis", "Set up the analysis");
-  AddSegment(PageId::Plotted, "cmdPlot", "Plot", "Plot the responses");
-  AddSegment(PageId::Tabulated, "cmdTabulate", "Tabulate", "Tabulate the responses");
-  cmdGet_ = &AddAction("cmdGet", "Get", "Get a design from disk", [this] { onGet(); });
-  cmdSave_ = &AddAction("cmdSave", "Save", "Save the design to disk", [this] { onSave(); });
-  cmdSpice_ = &AddAction("cmdSpice", "Write", "Write file", [this] { GoTo(PageId::WriteFiles); });
-  cmdPrint_ = &AddAction("cmdPrint", "Print", "Print the responses", [this] { onPrint(); });
-  AddAction("cmdHelp", "Help", "Help :-)",
+  AddSegment(PageId::Design, Sign::Design, "cmdDesign", "Design", "Go to the Design page");
+  AddSegment(PageId::Schematic, Sign::Schematic, "cmdSchematic", "Schematic", "See the schematic");
+  AddSegment(PageId::Edit, Sign::Edit, "cmdEdit", "Edit", "Edit the design");
+  AddSegment(PageId::Analyze, Sign::Analysis, "cmdAnalysis", "Analysis", "Set up the analysis");
+  AddSegment(PageId::Plotted, Sign::Plot, "cmdPlot", "Plot", "Plot the responses");
+  AddSegment(PageId::Tabulated, Sign::Tabulate, "cmdTabulate", "Tabulate", "Tabulate the responses");
+  cmdGet_ = &AddAction(Sign::Get, "cmdGet", "Get", "Get a design from disk", [this] { onGet(); });
+  cmdSave_ = &AddAction(Sign::Save, "cmdSave", "Save", "Save the design to disk", [this] { onSave(); });
+  cmdSpice_ = &AddAction(Sign::Write, "cmdSpice", "Write", "Write file", [this] { GoTo(PageId::WriteFiles); });
+  cmdPrint_ = &AddAction(Sign::Print, "cmdPrint", "Print", "Print the responses", [this] { onPrint(); });
+  AddAction(Sign::Help, "cmdHelp", "Help", "Help :-)",
             [this] { session_.platform.ShellOpen(session_.platform.HelpFolder() + "/" + helpFile); });
-  AddAction("cmdAbout", "About", "Details", [this] { session_.pages.ShowModal(PageId::About); });
-  AddAction("cmdExit", "Exit", "Exit / quit the program", [this] { session_.pages.ShowModal(PageId::Exit); });
+  AddAction(Sign::About, "cmdAbout", "About", "Details", [this] { session_.pages.ShowModal(PageId::About); });
+  AddAction(Sign::Exit, "cmdExit", "Exit", "Exit / quit the program",
+            [this] { session_.pages.ShowModal(PageId::Exit); });
 }
 
-void NavigationRow::AddSegment(PageId target, const char* name, const char* caption, const char* toolTip) {
+void NavigationRow::AddSegment(PageId target, Sign sign, const char* name, const char* caption, const char* toolTip) {
   const bool here = target == page_.Id();
   auto button =
       here ? std::make_unique<Button>(page_, "cmdHere", caption, std::string("You are at the ") + caption + " page")
            : std::make_unique<Button>(page_, name, caption, toolTip);
   button->role = ButtonRole::Segment;
+  button->picture = SignPicture(sign);
   button->pressed = here;
   button->enabled = !here;
   if (!here) button->onClick = [this, target] { GoTo(target); };
   segments_.push_back({target, std::move(button)});
 }
 
-Button& NavigationRow::AddAction(const char* name, const char* caption, const char* toolTip,
+Button& NavigationRow::AddAction(Sign sign, const char* name, const char* caption, const char* toolTip,
                                  std::function<void()> act) {
   actions_.push_back(std::make_unique<Button>(page_, name, caption, toolTip));
   Button& button = *actions_.back();
   button.role = ButtonRole::Action;
+  button.picture = SignPicture(sign);
   button.onClick = std::move(act);
   return button;
 }

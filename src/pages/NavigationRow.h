@@ -5,6 +5,7 @@
 #include <memory>
 #include <vector>
 
+#include "schematic/Icons.h"
 #include "shell/Page.h"
 
 namespace quilm {
@@ -35,8 +36,8 @@ class NavigationRow {
     std::unique_ptr<Button> button;
   };
 
-  void AddSegment(PageId target, const char* name, const char* caption, const char* toolTip);
-  Button& AddAction(const char* name, const char* caption, const char* toolTip, std::function<void()> act);
+  void AddSegment(PageId target, Sign sign, const char* name, const char* caption, const char* toolTip);
+  Button& AddAction(Sign sign, const char* name, const char* caption, const char* toolTip, std::function<void()> act);
   void GoTo(PageId target);
 
   Page& page_;

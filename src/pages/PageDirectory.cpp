@@ -24,10 +24,14 @@ std::unique_ptr<Page> Make(Session& session) {
 
 PageDirectory AllPages() {
   return {
-      {PageId::Opening, Make<frmOpening>}, {PageId::Design, Make<frmDesign>},
-      {PageId::Plotted, Make<frmPlotted>}, {PageId::Blank, Make<frmBlank>},
-      {PageId::Exit, Make<frmExit>},       {PageId::ChangeTitle, Make<frmChangeTitle>},
-      {PageId::AddInfo, Make<frmAddInfo>}, {PageId::About, Make<frmAbout>},
+      {PageId::Opening, Make<frmOpening>},
+      {PageId::Design, Make<frmDesign>},
+      {PageId::Plotted, Make<frmPlotted>},
+      {PageId::Blank, Make<frmBlank>},
+      {PageId::Exit, Make<frmExit>},
+      {PageId::ChangeTitle, Make<frmChangeTitle>},
+      {PageId::AddInfo, Make<frmAddInfo>},
+      {PageId::About, Make<frmAbout>},
       {PageId::Help, Make<frmHelp>},
       {PageId::EnterWidth, Make<frmEnterWidth>},
       {PageId::EnterCenterFreq, Make<frmEnterCenterFreq>},

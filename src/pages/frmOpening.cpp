@@ -40,8 +40,8 @@ void frmOpening::GoTo(PageId target) {
 Layout frmOpening::MakeLayout() {
   return Row({Space(),
               Column({Space(), Put(lblTitle), Put(lblPurpose), Put(imgOpening),
-                      Grid(1, {Put(cmdDesignNew), KeepPlace(Put(cmdLastSession)), Put(cmdRetrieveOld),
-                               Put(cmdManualEntry), Put(cmdGoTo), Put(cmdExitOpening)}),
+                      Grid(1, {Put(cmdDesignNew), Put(cmdLastSession), Put(cmdRetrieveOld), Put(cmdManualEntry),
+                               Put(cmdGoTo), Put(cmdExitOpening)}),
                       Put(lblVersion), Space()}),
               Space()});
 }

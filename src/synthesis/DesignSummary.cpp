@@ -79,6 +79,7 @@ std::string TopologyCaption(const std::string& letter) {
 }
 
 std::string DesignSummary(const DesignRecord& record) {
+  if (record.Family == familyNone) return {};
   const std::vector<std::string> parts = {
       FamilyName(record.Family),
       OrderText(record),

@@ -9,14 +9,14 @@ Layout frmDesign::MakeLayout() {
 }
 
 Layout frmDesign::FamilyColumn() {
+  DesignControls& c = controls_;
   std::vector<Layout> families;
-  for (const auto& option : controls_.families.Options()) families.push_back(Put(*option));
+  for (const auto& option : c.families.Options()) families.push_back(Put(*option));
   return Column({Group("Family", Column(std::move(families))),
-                 KeepPlace(Group(controls_.fraCauerType,
-                                 Column({Put(controls_.optCauerTermBest), Put(controls_.optCauerTermsEqual)}))),
-                 KeepPlace(Group(controls_.fraCauerBPFtop,
-                                 Column({Put(controls_.optCauerTopNormal), Put(controls_.optCauerTopZigZag)}))),
-                 Group("Dimensions", Row({Put(optEnglish_), Put(optMetric_)}))});
+                 KeepPlace(Group(c.fraCauerType, Column({Put(c.optCauerTermBest), Put(c.optCauerTermsEqual)}))),
+                 KeepPlace(Group(c.fraCauerBPFtop, Column({Put(c.optCauerTopNormal), Put(c.optCauerTopZigZag)}))),
+                 Group("Dimensions", Column({Put(optEnglish_), Put(optMetric_)})),
+                 Column({Put(lblLineWidth_), Row({Put(lblLineWidthInput_), Put(UpDown2_)})})});
 }
 
 Layout frmDesign::TopologyCards() {
@@ -41,19 +41,19 @@ Layout frmDesign::EntryColumn() {
                                           Put(cmdAssistance_)}))});
 }
 
+// The ripple stands last, so that its readout, wider than a box, has the line below for itself.
 Layout frmDesign::Entries() {
   DesignControls& c = controls_;
-  return Form({
-      {Put(c.lblOrder), Row({Put(c.lblOrderInput), Put(c.UpDown1)})},
-      {Put(c.lblBandwidth), Row({Put(c.txtBandwidth), Put(c.lblRipple)})},
-      {KeepPlace(Put(c.lblCenterFrequency)), KeepPlace(Put(c.txtCenterFrequency))},
-      {Put(c.lblInputTerm), Put(c.txtInputTerm)},
-      {KeepPlace(Put(c.lblPassbandRipple)), KeepPlace(Put(c.txtPassbandRipple))},
-      {Space(), KeepPlace(Put(c.lblVSWR))},
-      {KeepPlace(Put(c.lblStopbandFreq)), KeepPlace(Put(c.txtStopbandFreq))},
-      {KeepPlace(Put(c.lblStopbandDepth)), KeepPlace(Put(c.txtStopbandDepth))},
-      {Put(lblLineWidth_), Row({Put(lblLineWidthInput_), Put(UpDown2_)})},
-  });
+  return Column({Form({
+                     {Put(c.lblOrder), Row({Put(c.lblOrderInput), Put(c.UpDown1)})},
+                     {Put(c.lblBandwidth), Row({Put(c.txtBandwidth), Put(c.lblRipple)})},
+                     {KeepPlace(Put(c.lblCenterFrequency)), KeepPlace(Put(c.txtCenterFrequency))},
+                     {Put(c.lblInputTerm), Put(c.txtInputTerm)},
+                     {KeepPlace(Put(c.lblStopbandFreq)), KeepPlace(Put(c.txtStopbandFreq))},
+                     {KeepPlace(Put(c.lblStopbandDepth)), KeepPlace(Put(c.txtStopbandDepth))},
+                     {KeepPlace(Put(c.lblPassbandRipple)), KeepPlace(Put(c.txtPassbandRipple))},
+                 }),
+                 Row({Space(), KeepPlace(Put(c.lblVSWR))})});
 }
 
 Layout frmDesign::Tools() {

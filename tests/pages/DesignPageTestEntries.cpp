@@ -30,8 +30,8 @@ TEST_F(DesignEntries, EachBoxEntersItsField) {
 }
 
 TEST_F(DesignEntries, EachBoxForgetsTheNetwork) {
-  for (const char* name : {"txtBandwidth", "txtCenterFrequency", "txtInputTerm", "txtPassbandRipple",
-                           "txtStopbandFreq", "txtStopbandDepth"}) {
+  for (const char* name : {"txtBandwidth", "txtCenterFrequency", "txtInputTerm", "txtPassbandRipple", "txtStopbandFreq",
+                           "txtStopbandDepth"}) {
     SCOPED_TRACE(name);
     SetCauer("H", 4);
     record.MatchAccepted = 1;
@@ -53,10 +53,10 @@ TEST_F(DesignEntries, LeavingABoxEchoesItsDisplayFormat) {
     const char* box;
     const char* typed;
     const char* echo;
-  } rows[] = {{"txtBandwidth", "3500k", "3.5M"},      {"txtBandwidth", "1,2e6", "1.2M"},
-              {"txtCenterFrequency", "10e6", "10M"},  {"txtInputTerm", "2200", "2.2k"},
-              {"txtInputTerm", "75ohm", "75"},        {"txtPassbandRipple", ".1", "0.1"},
-              {"txtPassbandRipple", "-0.5", "0.5"},   {"txtStopbandFreq", "1500000", "1.5M"},
+  } rows[] = {{"txtBandwidth", "3500k", "3.5M"},         {"txtBandwidth", "1,2e6", "1.2M"},
+              {"txtCenterFrequency", "10e6", "10M"},     {"txtInputTerm", "2200", "2.2k"},
+              {"txtInputTerm", "75ohm", "75"},           {"txtPassbandRipple", ".1", "0.1"},
+              {"txtPassbandRipple", "-0.5", "0.5"},      {"txtStopbandFreq", "1500000", "1.5M"},
               {"txtStopbandDepth", "60.125dB", "60.125"}};
   for (const auto& row : rows) {
     Enter(row.box, row.typed);
@@ -93,10 +93,11 @@ TEST_F(DesignEntries, MeaninglessEntriesBecomeNumbersWithoutAWord) {
     const char* typed;
     f32 value;
     const char* echo;
-  } rows[] = {{"abc", 0, "0.0"},          {"k", 0, "0.0"},        {"1e99", 1e10F, "10G"},
-              {"-1e99", -1e10F, nullptr}, {"-5", -5, "-5000m"},   {"123456789012345", 1e10F, "10G"},
-              {"12-3", 123, "123"},       {"1.2.3k", 1230, "1.23k"}, {"1 2", 12, "12"},
-              {"0", 0, "0.0"}};
+  } rows[] = {{"abc", 0, "0.0"},      {"k", 0, "0.0"},
+              {"1e99", 1e10F, "10G"}, {"-1e99", -1e10F, nullptr},
+              {"-5", -5, "-5000m"},   {"123456789012345", 1e10F, "10G"},
+              {"12-3", 123, "123"},   {"1.2.3k", 1230, "1.23k"},
+              {"1 2", 12, "12"},      {"0", 0, "0.0"}};
   for (const auto& row : rows) {
     SCOPED_TRACE(row.typed);
     Enter("txtBandwidth", row.typed);

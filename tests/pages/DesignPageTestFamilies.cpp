@@ -33,9 +33,9 @@ constexpr FamilyCase families[] = {
 };
 
 constexpr const char* topologyOptions[] = {
-    "optCapInLowpass",    "optIndInLowpass",    "optNodCapBandpass", "optNodIndBandpass",
-    "optShuntInGeoSymm",  "optSeriesInGeoSymm", "optMeshCapBandpass", "optCauerBandpass",
-    "optCapInHighpass",   "optIndInHighpass",   "optSeriesInBandstop", "optShuntInBandstop",
+    "optCapInLowpass",   "optIndInLowpass",    "optNodCapBandpass",   "optNodIndBandpass",
+    "optShuntInGeoSymm", "optSeriesInGeoSymm", "optMeshCapBandpass",  "optCauerBandpass",
+    "optCapInHighpass",  "optIndInHighpass",   "optSeriesInBandstop", "optShuntInBandstop",
 };
 
 std::string LetterOf(int index) { return std::string(1, static_cast<char>('A' + index)); }
