@@ -49,6 +49,10 @@ int BuildSeriesInBandpass(Scales& scales);
 int BuildSeriesInBandstop(Scales& scales);
 int BuildShuntInBandstop(Scales& scales);
 
+// The bandpass of a Cauer or M-derived prototype. An even order with CauerTop 1 takes the zig-zag layout, which saves
+// inductors; it exists up to order 10 and faults beyond. Sets Rload[1] itself.
+int BuildCauerBandpass(Scales& scales);
+
 // Coupled resonators; true to the prototype for narrow bands. At wide bands a part may come out negative: that is told
 // nowhere, as the stage list shows it. The inductor-coupled and the mesh form need order 2 at least.
 int BuildNodalCapacitorCoupled(Scales& scales);

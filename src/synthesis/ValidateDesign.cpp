@@ -30,7 +30,6 @@ class Validation {
   void Tell(const std::string& text);
   void Ask(const std::string& text, PageId form, const EntryField& entry);
   void TakeFamily(i16 family);
-  bool NeedsRipple() const;
 
   // In the order in which they run.
   void RequireWidth();
@@ -220,11 +219,9 @@ void Validation::ReadTopology() {
   Tell("No topology has been chosen. To avoid a program crash,\r\nthe program will use a capacitor-input lowpass");
 }
 
-bool Validation::NeedsRipple() const { return ViewOf(record_).ripple; }
-
 // Only where the ripple is an entry: the other families keep Apass 0, or have it as a result.
 void Validation::HoldRipple() {
-  if (!NeedsRipple()) return;
+  if (!ViewOf(record_).ripple) return;
   const EntryField ripple = controls_.Ripple();
   ripple.Parse();
   const f32 entered = record_.Apass;

@@ -13,8 +13,8 @@ namespace quilm {
 
 namespace {
 
-// What the load becomes: the source, the source times Rratio, or the source over Rratio.
-enum class Load { Source, Ratio, Inverse };
+// What the load becomes: the source, the source times Rratio, the source over Rratio, or what the topology set itself.
+enum class Load { Source, Ratio, Inverse, Own };
 
 struct TopologyRow {
   const char* letter;
@@ -26,11 +26,12 @@ struct TopologyRow {
 constexpr Load S = Load::Source;
 constexpr Load R = Load::Ratio;
 constexpr Load I = Load::Inverse;
+constexpr Load O = Load::Own;
 
 // Chebyshev and Cauer of even order need an unequal load; so do the unequally terminated tables in the coupled forms,
 // where all resonators are alike. The column of Gaussian to 12 leaves that family mismatched in "B", "C", "D" and "I"
 // to "L", and is meant to stay.
-const std::array<TopologyRow, 11> topologies = {{
+const std::array<TopologyRow, 12> topologies = {{
     {"A", BuildCapInLowpass, {S, S, S, R, R, S}},
     {"B", BuildIndInLowpass, {S, S, I, I, I, S}},
     {"C", BuildNodalCapacitorCoupled, {S, R, S, S, S, R}},
@@ -38,6 +39,7 @@ const std::array<TopologyRow, 11> topologies = {{
     {"E", BuildShuntInBandpass, {S, S, S, R, S, S}},
     {"F", BuildSeriesInBandpass, {S, S, S, I, S, S}},
     {"G", BuildMeshCapacitorCoupled, {S, I, I, S, S, I}},
+    {"H", BuildCauerBandpass, {O, O, O, O, O, O}},
     {"I", BuildCapInHighpass, {S, S, I, I, I, S}},
     {"J", BuildIndInHighpass, {S, S, R, R, R, S}},
     {"K", BuildSeriesInBandstop, {S, S, I, I, I, S}},
@@ -71,6 +73,7 @@ std::size_t LoadColumn(i16 family) {
 }
 
 void SetLoad(Scales& scales, Load rule) {
+  if (rule == Load::Own) return;
   DesignRecord& record = scales.record;
   if (record.Topology == "B" && record.Rratio <= 0) record.Rratio = 1;
   f64 load = scales.Rs;

@@ -15,7 +15,7 @@ class Session;
 // bandpass, order 1 in "D" and "G", or no prototype at all. The places of the stage list then hold what was stored up
 // to there, and Stages is 0: no network exists. Only finite values are stored.
 //
-// A letter without a routine leaves the record alone: "H" is built from a Cauer prototype only, "M" by hand.
+// A letter without a routine ("M", a network made by hand) leaves the record alone.
 void MakeNetwork(DesignRecord& record);
 
 // Recomputes the network. When it stands (NetworkStands) nothing happens, and the result is true. On a fault, or

@@ -55,7 +55,7 @@ TEST_F(DesignEntries, LeavingABoxEchoesItsDisplayFormat) {
     const char* echo;
   } rows[] = {{"txtBandwidth", "3500k", "3.5M"},         {"txtBandwidth", "1,2e6", "1.2M"},
               {"txtCenterFrequency", "10e6", "10M"},     {"txtInputTerm", "2200", "2.2k"},
-              {"txtInputTerm", "75ohm", "75"},           {"txtPassbandRipple", ".1", "0.1"},
+              {"txtInputTerm", "75R", "75"},           {"txtPassbandRipple", ".1", "0.1"},
               {"txtPassbandRipple", "-0.5", "0.5"},      {"txtStopbandFreq", "1500000", "1.5M"},
               {"txtStopbandDepth", "60.125dB", "60.125"}};
   for (const auto& row : rows) {

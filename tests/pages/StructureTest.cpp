@@ -1,0 +1,152 @@
+// What must hold of every page that the program has.
+#include <algorithm>
+#include <set>
+
+#include "pages/PageBench.h"
+#include "pages/PageDirectory.h"
+#include "pages/StartUp.h"
+
+namespace quilm {
+namespace {
+
+std::vector<PageId> AllIds() {
+  std::vector<PageId> ids;
+  for (const auto& entry : AllPages()) ids.push_back(entry.first);
+  return ids;
+}
+
+std::string TestName(const testing::TestParamInfo<PageId>& info) { return std::string(FormName(info.param)); }
+
+class Structure : public PageBench, public testing::WithParamInterface<PageId> {
+ protected:
+  // The page as it loads over a 3rd-order Butterworth lowpass of 1 MHz and 50 ohms: 1, 2, 1 as prototype.
+  Structure() : PageBench(AllPages()) {
+    StartProgram(session);
+    DesignRecord& record = session.record;
+    record.Family = familyButterworth;
+    record.Topology.assign(1, 'A');
+    record.Order = 3;
+    record.Width = 1e6F;
+    record.Rsource[1] = record.Rload[1] = 50;
+    record.Rratio = 1;
+    record.Stages = 3;
+    record.stage[1].ElementType = record.stage[3].ElementType = ShuntC;
+    record.stage[1].Cval.value = record.stage[3].Cval.value = 3.1831e-9F;
+    record.stage[2].ElementType = SeriesL;
+    record.stage[2].Lval.value = 1.5915e-5F;
+    session.pages.ShowPage(GetParam());
+    page = session.pages.Find(GetParam());
+    if (page == nullptr) throw Fault("the page did not stay open");
+  }
+
+  Page* page = nullptr;
+};
+
+bool HasHandler(const Control& control) {
+  if (const auto* button = dynamic_cast<const Button*>(&control)) return static_cast<bool>(button->onClick);
+  if (const auto* option = dynamic_cast<const OptionButton*>(&control)) return static_cast<bool>(option->onClick);
+  return true;
+}
+
+bool HasFace(const Control& control) {
+  const auto* button = dynamic_cast<const Button*>(&control);
+  return !control.caption.empty() || (button != nullptr && !button->picture.Empty());
+}
+
+bool IsButton(const Control& control) {
+  return control.kind == ControlKind::Button || control.kind == ControlKind::Option;
+}
+
+TEST_P(Structure, NamesAreUnique) {
+  std::set<std::string> names;
+  for (const Control* control : page->Controls()) EXPECT_TRUE(names.insert(control->name).second) << control->name;
+}
+
+TEST_P(Structure, EveryControlIsPlacedOnce) {
+  const Layout layout = page->MakeLayout();
+  const std::vector<Control*> placed = ControlsOf(layout);
+  for (Control* control : page->Controls()) {
+    const auto times = std::count(placed.begin(), placed.end(), control);
+    // A timer has no place; a frame may hold controls that stand apart from one another.
+    if (control->kind == ControlKind::Timer) {
+      EXPECT_EQ(times, 0) << control->name;
+    } else {
+      EXPECT_EQ(times, 1) << control->name;
+    }
+  }
+  for (const Control* control : placed) EXPECT_EQ(page->Find(control->name), control) << control->name;
+}
+
+// Rows and columns may be empty, all else has what it needs to be built.
+void ExpectBuildable(const Layout& layout) {
+  switch (layout.kind) {
+    case Layout::Kind::Control:
+      EXPECT_NE(layout.control, nullptr);
+      EXPECT_TRUE(layout.items.empty());
+      break;
+    case Layout::Kind::Grid:
+      EXPECT_GT(layout.columns, 0);
+      break;
+    case Layout::Kind::Form:
+      EXPECT_EQ(layout.items.size() % 2, 0U);
+      break;
+    case Layout::Kind::Group:
+      EXPECT_EQ(layout.items.size(), 1U);
+      EXPECT_TRUE(layout.control != nullptr || !layout.title.empty());
+      break;
+    default:
+      EXPECT_EQ(layout.control, nullptr);
+  }
+  for (const Layout& item : layout.items) ExpectBuildable(item);
+}
+
+TEST_P(Structure, TheLayoutCanBeBuilt) { ExpectBuildable(page->MakeLayout()); }
+
+TEST_P(Structure, EveryButtonThatCanBePressedHasAHandler) {
+  for (const Control* control : page->Controls()) {
+    if (IsButton(*control) && control->Usable()) {
+      EXPECT_TRUE(HasHandler(*control)) << control->name;
+    }
+  }
+}
+
+TEST_P(Structure, EveryButtonHasACaptionOrAPicture) {
+  for (const Control* control : page->Controls()) {
+    if (IsButton(*control)) {
+      EXPECT_TRUE(HasFace(*control)) << control->name;
+    }
+  }
+}
+
+// Its bare name in the program means nothing to a listener.
+TEST_P(Structure, EveryControlThatCanBeUsedHasASpokenName) {
+  for (const Control* control : page->Controls()) {
+    const bool passive = control->kind == ControlKind::Label || control->kind == ControlKind::Frame ||
+                         control->kind == ControlKind::Timer;
+    if (!passive) {
+      EXPECT_NE(control->SpokenName(), control->name);
+    }
+  }
+}
+
+TEST_P(Structure, ThePageHasATitle) { EXPECT_FALSE(page->title.empty()); }
+
+TEST_P(Structure, WhatEnterAndEscapePressIsThere) {
+  for (const Button* button : {page->acceptButton, page->cancelButton}) {
+    if (button != nullptr) {
+      EXPECT_EQ(page->Find(button->name), button);
+      EXPECT_TRUE(button->Shown()) << button->name;
+    }
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Pages, Structure, testing::ValuesIn(AllIds()), TestName);
+
+TEST(AllPages, EachMakesThePageOfItsName) {
+  HeadlessPlatform platform("/nowhere");
+  Session session(platform, AllPages());
+  for (const auto& [id, make] : AllPages()) EXPECT_EQ(make(session)->Name(), FormName(id));
+}
+
+}  // namespace
+}  // namespace quilm
