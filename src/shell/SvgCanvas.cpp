@@ -12,9 +12,8 @@ namespace quilm {
 
 namespace {
 
-constexpr f64 twipsPerPixel = 15;  // 1440 to the inch over 96 to the inch
-constexpr f64 ascent = 0.92;       // baseline below the top of a line, in ems
-constexpr f64 linePitch = 1.15;    // of an em, as the font metrics have it
+constexpr f64 ascent = 0.92;     // baseline below the top of a line, in ems
+constexpr f64 linePitch = 1.15;  // of an em, as the font metrics have it
 
 // Short and the same in every locale. Seven digits hold what a 32-bit coordinate holds.
 std::string Number(f64 value) {
@@ -39,6 +38,10 @@ std::string ColorText(Color color) {
   for (const unsigned shift : {4U, 0U, 12U, 8U, 20U, 16U}) text += digits[color >> shift & 0xF];
   return text;
 }
+
+// A length or place of the user scale in pixels of the file.
+f64 Pixels(f64 units) { return units / SvgCanvas::unitsPerPixel; }
+f64 Pixels(f32 units) { return Pixels(static_cast<f64>(units)); }
 
 bool IsFinite(Point p) { return std::isfinite(p.x) && std::isfinite(p.y); }
 
@@ -102,16 +105,14 @@ std::string XmlEscaped(std::string_view text) {
 }
 
 std::string SvgCanvas::Text() const {
-  const f64 width = static_cast<f64>(ScaleWidth);
-  const f64 height = static_cast<f64>(ScaleHeight);
-  const std::string place = Attribute("width", width) + Attribute("height", height);
-  const std::string corner = Number(static_cast<f64>(ScaleLeft)) + ' ' + Number(static_cast<f64>(ScaleTop));
+  const std::string size = Attribute("width", Pixels(ScaleWidth)) + Attribute("height", Pixels(ScaleHeight));
+  const std::string corner = Number(Pixels(ScaleLeft)) + ' ' + Number(Pixels(ScaleTop));
+  const std::string extent = Number(Pixels(ScaleWidth)) + ' ' + Number(Pixels(ScaleHeight));
   std::string text = R"(<?xml version="1.0" encoding="UTF-8"?>)"
                      "\n"
                      R"(<svg xmlns="http://www.w3.org/2000/svg" version="1.1")";
-  text += Attribute("width", width / twipsPerPixel) + Attribute("height", height / twipsPerPixel);
-  text += Attribute("viewBox", corner + ' ' + Number(width) + ' ' + Number(height)) + ">\n";
-  text += "<rect" + Attribute("x", static_cast<f64>(ScaleLeft)) + Attribute("y", static_cast<f64>(ScaleTop)) + place +
+  text += size + Attribute("viewBox", corner + ' ' + extent) + ">\n";
+  text += "<rect" + Attribute("x", Pixels(ScaleLeft)) + Attribute("y", Pixels(ScaleTop)) + size +
           Attribute("fill", ColorText(BackColor)) + "/>\n";
   return text + body_ + "</svg>\n";
 }
@@ -146,35 +147,34 @@ void SvgCanvas::DrawPolyline(std::span<const Point> points, Color color) {
 void SvgCanvas::StrokeRun(std::span<const Point> points, Color color) {
   if (points.size() < 2) return;
   if (points.size() == 2) {
-    body_ += "<line" + Attribute("x1", static_cast<f64>(points[0].x)) + Attribute("y1", static_cast<f64>(points[0].y)) +
-             Attribute("x2", static_cast<f64>(points[1].x)) + Attribute("y2", static_cast<f64>(points[1].y)) +
-             Stroke(color) + "/>\n";
+    body_ += "<line" + Attribute("x1", Pixels(points[0].x)) + Attribute("y1", Pixels(points[0].y)) +
+             Attribute("x2", Pixels(points[1].x)) + Attribute("y2", Pixels(points[1].y)) + Stroke(color) + "/>\n";
     return;
   }
   std::string places;
   for (const Point p : points) {
     if (!places.empty()) places += ' ';
-    places += Number(static_cast<f64>(p.x)) + ',' + Number(static_cast<f64>(p.y));
+    places += Number(Pixels(p.x)) + ',' + Number(Pixels(p.y));
   }
   body_ += "<polyline" + Attribute("points", places) + Attribute("fill", "none") + Stroke(color) + "/>\n";
 }
 
 void SvgCanvas::DrawRectangle(Point from, Point to, Color color, bool filled) {
   if (!IsFinite(from) || !IsFinite(to)) return;
-  const f64 left = static_cast<f64>(std::min(from.x, to.x));
-  const f64 top = static_cast<f64>(std::min(from.y, to.y));
+  const f64 left = Pixels(std::min(from.x, to.x));
+  const f64 top = Pixels(std::min(from.y, to.y));
   body_ += "<rect" + Attribute("x", left) + Attribute("y", top) +
-           Attribute("width", static_cast<f64>(std::max(from.x, to.x)) - left) +
-           Attribute("height", static_cast<f64>(std::max(from.y, to.y)) - top) +
+           Attribute("width", Pixels(std::max(from.x, to.x)) - left) +
+           Attribute("height", Pixels(std::max(from.y, to.y)) - top) +
            Attribute("fill", filled ? ColorText(color) : "none") + Stroke(color) + "/>\n";
 }
 
 void SvgCanvas::DrawCircle(Point center, f32 r, Color color, f32 start, f32 stop, f32 aspect) {
-  const f64 halfWidth = std::fabs(static_cast<f64>(r));
+  const f64 halfWidth = std::fabs(Pixels(r));
   const f64 halfHeight = halfWidth * std::fabs(static_cast<f64>(aspect));
   if (!IsFinite(center) || !std::isfinite(halfWidth) || !std::isfinite(halfHeight)) return;
-  const f64 x = static_cast<f64>(center.x);
-  const f64 y = static_cast<f64>(center.y);
+  const f64 x = Pixels(center.x);
+  const f64 y = Pixels(center.y);
   constexpr f64 turn = 2 * std::numbers::pi;
   f64 sweep = static_cast<f64>(stop) - static_cast<f64>(start);
   if (sweep < 0) sweep += turn;
@@ -199,20 +199,21 @@ void SvgCanvas::DrawCircle(Point center, f32 r, Color color, f32 start, f32 stop
 // A line of no length, whose caps are the point: square for a single pixel, round for a wider one.
 void SvgCanvas::DrawPoint(Point at, Color color) {
   if (!IsFinite(at)) return;
-  body_ += "<path" +
-           Attribute("d", "M " + Number(static_cast<f64>(at.x)) + ' ' + Number(static_cast<f64>(at.y)) + " h0") +
+  body_ += "<path" + Attribute("d", "M " + Number(Pixels(at.x)) + ' ' + Number(Pixels(at.y)) + " h0") +
            Attribute("stroke", ColorText(color)) + Attribute("stroke-width", std::max<f64>(DrawWidth, 1)) +
            Attribute("stroke-linecap", DrawWidth <= 1 ? "square" : "round") +
            Attribute("vector-effect", "non-scaling-stroke") + ModeAttribute() + "/>\n";
 }
 
+f64 SvgCanvas::EmHeight() const { return Pixels(static_cast<f64>(FontSize) * twipsPerPoint); }
+
 void SvgCanvas::DrawText(Point at, std::string_view text) {
-  const f64 em = static_cast<f64>(FontSize) * twipsPerPoint;
+  const f64 em = EmHeight();
   if (!IsFinite(at) || !std::isfinite(em)) return;
-  f64 top = static_cast<f64>(at.y);
+  f64 top = Pixels(at.y);
   while (true) {
     const std::size_t end = text.find('\n');
-    DrawTextLine(static_cast<f64>(at.x), top + ascent * em, text.substr(0, end));
+    DrawTextLine(Pixels(at.x), top + ascent * em, text.substr(0, end));
     if (end == std::string_view::npos) return;
     text.remove_prefix(end + 1);
     top += linePitch * em;
@@ -220,10 +221,10 @@ void SvgCanvas::DrawText(Point at, std::string_view text) {
 }
 
 void SvgCanvas::DrawTextLine(f64 x, f64 baseline, std::string_view line) {
-  const f64 width = static_cast<f64>(TextWidth(line));
+  const f64 width = Pixels(TextWidth(line));
   if (line.find_first_not_of(" \r") == std::string_view::npos) return;
   body_ += "<text" + Attribute("x", x) + Attribute("y", baseline) + Attribute("font-family", FontFamily(FontName)) +
-           Attribute("font-size", static_cast<f64>(FontSize) * twipsPerPoint);
+           Attribute("font-size", EmHeight());
   if (FontBold) body_ += Attribute("font-weight", "bold");
   body_ += Attribute("fill", ColorText(ForeColor)) + Attribute("textLength", width) +
            Attribute("lengthAdjust", "spacingAndGlyphs") + Attribute("xml:space", "preserve") + '>' + XmlEscaped(line) +

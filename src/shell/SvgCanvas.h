@@ -9,11 +9,14 @@ namespace quilm {
 
 class Picture;
 
-// The drawing's coordinates are the user scale; it is as large as its scale in twips. Pens keep their width in pixels
-// at whatever size the file is shown. Texts are stretched to the widths that the font metrics give, so that the layout
-// holds with any font. What has no place (a point that is not a number) is left out and breaks a trace.
+// The file is as large as its scale in twips, and counts in pixels of 1/96 inch from the origin of the scale. Pens keep
+// their width in pixels when it is shown larger or smaller, in viewers that know how. Texts are stretched to the widths
+// that the font metrics give, so that the layout holds with any font. What has no place (a point that is not a number)
+// is left out and breaks a trace.
 class SvgCanvas : public Canvas {
  public:
+  static constexpr f64 unitsPerPixel = 15;  // twips to 1/96 inch
+
   // The file: white or coloured paper over the whole scale, and what was drawn since the last Clear. UTF-8; bytes that
   // are none become the replacement character.
   std::string Text() const;
@@ -29,6 +32,7 @@ class SvgCanvas : public Canvas {
  private:
   void StrokeRun(std::span<const Point> points, Color color);
   void DrawTextLine(f64 x, f64 baseline, std::string_view line);
+  f64 EmHeight() const;
   std::string Stroke(Color color) const;
   std::string ModeAttribute() const;
 

@@ -62,6 +62,7 @@ Layout EntryForm::MakeLayout() {
 }
 
 frmEnterTopology::frmEnterTopology(Session& session) : Page(session, PageId::EnterTopology, "Enter topology") {
+  topologies_.OnChoice([this](const std::string& letter) { chosen_ = letter; });
   cmdOk_.onClick = [this] { Accept(); };
   cmdIgnore_.onClick = [this] { session_.pages.UnloadPage(Id()); };
   acceptButton = &cmdOk_;
@@ -69,16 +70,17 @@ frmEnterTopology::frmEnterTopology(Session& session) : Page(session, PageId::Ent
 }
 
 void frmEnterTopology::Load() {
-  topologies_.Choose(session_.record.Topology);
+  chosen_ = session_.record.Topology;
+  topologies_.Choose(chosen_);
   topologies_.OfferFor(session_.record.Family);
 }
 
 void frmEnterTopology::Accept() {
-  const std::string letter = topologies_.Chosen();
-  if (!letter.empty() && letter != session_.record.Topology) {
-    session_.record.Topology = letter;
-    if (IsLowOrHighpass(letter)) session_.record.Fcenter = 0;
-    session_.record.ResponsesValid = 0;
+  DesignRecord& record = session_.record;
+  if (chosen_ != record.Topology) {
+    record.Topology = chosen_;
+    if (IsLowOrHighpass(chosen_)) record.Fcenter = 0;
+    record.ResponsesValid = 0;
   }
   session_.pages.UnloadPage(Id());
 }

@@ -64,6 +64,7 @@ class frmEnterTopology : public Page {
  private:
   void Accept();
 
+  std::string chosen_;
   Label lblTopology_{*this, "lblTopology", "Please choose a topology:"};
   TopologyOptions topologies_{*this};
   Button cmdOk_{*this, "cmdOk", "Ok", "Take this topology"};

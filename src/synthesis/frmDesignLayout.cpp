@@ -41,7 +41,7 @@ Layout frmDesign::EntryColumn() {
                                           Put(cmdAssistance_)}))});
 }
 
-// The ripple stands last, so that its readout, wider than a box, has the line below for itself.
+// The readout of the ripple is wider than a box and has a line for itself.
 Layout frmDesign::Entries() {
   DesignControls& c = controls_;
   return Column({Form({
@@ -49,11 +49,13 @@ Layout frmDesign::Entries() {
                      {Put(c.lblBandwidth), Row({Put(c.txtBandwidth), Put(c.lblRipple)})},
                      {KeepPlace(Put(c.lblCenterFrequency)), KeepPlace(Put(c.txtCenterFrequency))},
                      {Put(c.lblInputTerm), Put(c.txtInputTerm)},
-                     {KeepPlace(Put(c.lblStopbandFreq)), KeepPlace(Put(c.txtStopbandFreq))},
-                     {KeepPlace(Put(c.lblStopbandDepth)), KeepPlace(Put(c.txtStopbandDepth))},
                      {KeepPlace(Put(c.lblPassbandRipple)), KeepPlace(Put(c.txtPassbandRipple))},
                  }),
-                 Row({Space(), KeepPlace(Put(c.lblVSWR))})});
+                 Row({Space(), KeepPlace(Put(c.lblVSWR))}),
+                 Form({
+                     {KeepPlace(Put(c.lblStopbandFreq)), KeepPlace(Put(c.txtStopbandFreq))},
+                     {KeepPlace(Put(c.lblStopbandDepth)), KeepPlace(Put(c.txtStopbandDepth))},
+                 })});
 }
 
 Layout frmDesign::Tools() {

@@ -53,10 +53,14 @@ TEST_F(DesignEntries, LeavingABoxEchoesItsDisplayFormat) {
     const char* box;
     const char* typed;
     const char* echo;
-  } rows[] = {{"txtBandwidth", "3500k", "3.5M"},         {"txtBandwidth", "1,2e6", "1.2M"},
-              {"txtCenterFrequency", "10e6", "10M"},     {"txtInputTerm", "2200", "2.2k"},
-              {"txtInputTerm", "75R", "75"},           {"txtPassbandRipple", ".1", "0.1"},
-              {"txtPassbandRipple", "-0.5", "0.5"},      {"txtStopbandFreq", "1500000", "1.5M"},
+  } rows[] = {{"txtBandwidth", "3500k", "3.5M"},
+              {"txtBandwidth", "1,2e6", "1.2M"},
+              {"txtCenterFrequency", "10e6", "10M"},
+              {"txtInputTerm", "2200", "2.2k"},
+              {"txtInputTerm", "75R", "75"},
+              {"txtPassbandRipple", ".1", "0.1"},
+              {"txtPassbandRipple", "-0.5", "0.5"},
+              {"txtStopbandFreq", "1500000", "1.5M"},
               {"txtStopbandDepth", "60.125dB", "60.125"}};
   for (const auto& row : rows) {
     Enter(row.box, row.typed);

@@ -43,11 +43,11 @@ class Program : public testing::Test {
 
   // Runs it in the test's folder, which also holds its temporary files.
   Ended Run(const std::string& arguments, const std::string& script = {}) {
-    std::ofstream(folder / "in") << script;
+    std::ofstream(folder / "stdin") << script;
     const std::string command = "cd '" + folder.string() + "' && TMPDIR='" + (folder / "tmp").string() + "' '" +
-                                QUILM_SCRIPT "' " + arguments + " <in >out 2>err";
+                                QUILM_SCRIPT "' " + arguments + " <stdin >stdout 2>stderr";
     const int status = std::system(command.c_str());
-    return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, ContentOf(folder / "out"), ContentOf(folder / "err")};
+    return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, ContentOf(folder / "stdout"), ContentOf(folder / "stderr")};
   }
 
   std::filesystem::path folder;
@@ -86,7 +86,7 @@ TEST_F(Program, UsageErrorsGiveTwo) {
   EXPECT_EQ(Run("--folder").status, 2);
   EXPECT_EQ(Run("no-such-file").status, 2);
   EXPECT_EQ(Run("tmp").status, 2);
-  EXPECT_EQ(Run("--folder in").status, 2);
+  EXPECT_EQ(Run("--folder stdin").status, 2);
 }
 
 TEST_F(Program, HelpIsNoError) {
@@ -119,6 +119,37 @@ TEST_F(Program, TheFolderGivenHoldsTheConfiguration) {
 TEST_F(Program, AFolderThatIsMissingIsMade) {
   EXPECT_EQ(Run("--folder new", "").status, 0);
   EXPECT_TRUE(std::filesystem::is_directory(folder / "new"));
+}
+
+// The prototype worked by the closed form in double precision (Matthaei, Young, Jones: Microwave Filters,
+// Impedance-Matching Networks, and Coupling Structures, equation 4.05-2). The book's table of four decimals, worked
+// with a rounded constant, has 1.1811, 1.4228, 2.0966, 1.5733.
+TEST_F(Program, TheFirstDesignIsTheOneOfTheory) {
+  for (const std::string preferences : {"", "--folder '" QUILM_EXAMPLES "/first-design' "}) {
+    std::filesystem::remove_all(folder / "out");
+    const Ended ended = Run(preferences + "'" QUILM_EXAMPLES "/first-design.qsc'");
+    ASSERT_EQ(ended.status, 0) << ended.err;
+    std::vector<json> records;
+    for (const json& event : ended.Events()) {
+      EXPECT_NE(event["event"], "message") << event;
+      if (event["event"] == "record") records.push_back(event);
+    }
+    ASSERT_EQ(records.size(), 4U);
+    const double g[] = {1.181178, 1.422806, 2.096671, 1.573401, 2.096671, 1.422806, 1.181178};
+    for (std::size_t j = 0; j < 7; ++j) {
+      EXPECT_NEAR(records[0]["record"]["Gj"][j].get<double>(), g[j], 2e-6) << j + 1;
+    }
+    // C = g / (2 pi f R) and L = g R / (2 pi f) of the lowpass, L = g R / (2 pi B) of the bandpass.
+    EXPECT_NEAR(records[1]["stages"][0]["Cval"][0].get<double>(), 3.759807e-9, 1e-14);
+    EXPECT_NEAR(records[1]["stages"][1]["Lval"][0].get<double>(), 1.132233e-5, 3e-11);
+    EXPECT_NEAR(records[3]["stages"][0]["Lval"][0].get<double>(), 9.399516e-5, 3e-10);
+    EXPECT_EQ(records[3]["stages"].size(), 7U);
+    for (const char* plot : {"lowpass-transmission", "lowpass-return", "lowpass-vswr", "lowpass-impedance",
+                             "bandpass-transmission", "bandpass-return", "bandpass-vswr", "bandpass-delay"}) {
+      const std::string text = ContentOf(folder / "out" / (std::string(plot) + ".svg"));
+      EXPECT_THAT(text, testing::HasSubstr("<polyline")) << plot;
+    }
+  }
 }
 
 }  // namespace

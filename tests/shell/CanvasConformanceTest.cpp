@@ -61,7 +61,11 @@ INSTANTIATE_TYPED_TEST_SUITE_P(Picture, CanvasConformance, PictureProbe);
 struct SvgProbe {
   SvgProbe() { canvas.SetScale(conformanceScale); }
   Canvas& Surface() { return canvas; }
-  bool Inked(const Box& box, Color color) const { return InkOf(ReadSvg(canvas.Text())).Covers(box, color); }
+  bool Inked(const Box& box, Color color) const {
+    constexpr f64 pixel = SvgCanvas::unitsPerPixel;
+    const Box inPixels{box.left / pixel, box.top / pixel, box.right / pixel, box.bottom / pixel};
+    return InkOf(ReadSvg(canvas.Text())).Covers(inPixels, color);
+  }
   SvgCanvas canvas;
 };
 INSTANTIATE_TYPED_TEST_SUITE_P(Svg, CanvasConformance, SvgProbe);

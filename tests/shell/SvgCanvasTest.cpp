@@ -25,22 +25,23 @@ SvgElement Only(const SvgCanvas& canvas) {
   return elements.at(0);
 }
 
-TEST(SvgCanvas, IsPaperInUserScale) {
+TEST(SvgCanvas, IsPaperOverTheWholeScale) {
   SvgCanvas canvas;
-  canvas.SetScale({-100, 50, 13000, 8000});
+  canvas.SetScale({-150, 75, 13000, 8000});
   canvas.BackColor = 0x10A0FF;
   const auto elements = ReadSvg(canvas.Text());
   ASSERT_EQ(elements.size(), 2U);
   EXPECT_EQ(elements[0].name, "svg");
   EXPECT_EQ(elements[0].attributes.at("xmlns"), "http://www.w3.org/2000/svg");
-  EXPECT_EQ(elements[0].attributes.at("viewBox"), "-100 50 13000 8000");
+  EXPECT_EQ(elements[0].attributes.at("viewBox"), "-10 5 866.6667 533.3333");
   // 13000 twips at 1440 and 96 to the inch.
   EXPECT_NEAR(elements[0].Number("width"), 866.667, 0.001);
   EXPECT_NEAR(elements[0].Number("height"), 533.333, 0.001);
   EXPECT_EQ(elements[1].name, "rect");
   EXPECT_EQ(elements[1].attributes.at("fill"), "#ffa010");
-  EXPECT_EQ(elements[1].Number("x"), -100);
-  EXPECT_EQ(elements[1].Number("width"), 13000);
+  EXPECT_EQ(elements[1].Number("x"), -10);
+  EXPECT_EQ(elements[1].Number("y"), 5);
+  EXPECT_NEAR(elements[1].Number("width"), 866.667, 0.001);
 }
 
 TEST(SvgCanvas, PensKeepTheirWidthInPixels) {
@@ -81,19 +82,19 @@ TEST(SvgCanvas, ExclusiveOrIsADifference) {
 
 TEST(SvgCanvas, TextIsAsHighAndWideAsItWasLaidOut) {
   SvgCanvas canvas;
-  canvas.FontSize = 10;
+  canvas.FontSize = 9;
   canvas.FontBold = true;
   canvas.ForeColor = colorBlue;
-  canvas.CurrentX = 100;
-  canvas.CurrentY = 200;
+  canvas.CurrentX = 150;
+  canvas.CurrentY = 300;
   canvas.Print("Hz");
   const SvgElement text = Only(canvas);
   EXPECT_EQ(text.content, "Hz");
-  EXPECT_EQ(text.Number("font-size"), 200);
-  EXPECT_EQ(text.Number("x"), 100);
-  EXPECT_GT(text.Number("y"), 200 + 0.718 * 200);  // capitals stay below the corner
-  EXPECT_LE(text.Number("y"), 200 + 230);
-  EXPECT_NEAR(text.Number("textLength"), 244.4, 0.001);  // H 722, z 500
+  EXPECT_EQ(text.Number("font-size"), 12);  // 9 points of 1/72 inch
+  EXPECT_EQ(text.Number("x"), 10);
+  EXPECT_GT(text.Number("y"), 20 + 0.718 * 12);  // capitals stay below the corner
+  EXPECT_LE(text.Number("y"), 20 + 1.15 * 12);
+  EXPECT_NEAR(text.Number("textLength"), 14.664, 0.001);  // H 722, z 500
   EXPECT_EQ(text.attributes.at("font-weight"), "bold");
   EXPECT_EQ(text.attributes.at("fill"), "#0000ff");
   EXPECT_THAT(text.attributes.at("font-family"), testing::HasSubstr("Arial"));
@@ -108,13 +109,13 @@ TEST(SvgCanvas, AFixedFontHasFixedSubstitutes) {
 
 TEST(SvgCanvas, EveryLineOfATextIsAnElement) {
   SvgCanvas canvas;
-  canvas.FontSize = 10;
+  canvas.FontSize = 9;
   canvas.Print("one\r\n\r\nthree");
   const auto elements = Drawn(canvas);
   ASSERT_EQ(elements.size(), 2U);
   EXPECT_EQ(elements[0].content, "one");
   EXPECT_EQ(elements[1].content, "three");
-  EXPECT_NEAR(elements[1].Number("y") - elements[0].Number("y"), 460, 1e-3);  // two lines of 1.15 em
+  EXPECT_NEAR(elements[1].Number("y") - elements[0].Number("y"), 27.6, 1e-3);  // two lines of 1.15 em
 }
 
 TEST(SvgCanvas, BlanksAreKept) {
@@ -151,7 +152,7 @@ TEST(SvgCanvas, ATraceBreaksWhereAPointHasNoPlace) {
   constexpr f32 nowhere = std::numeric_limits<f32>::quiet_NaN();
   constexpr f32 faraway = std::numeric_limits<f32>::infinity();
   SvgCanvas canvas;
-  const Point points[] = {{0, 0}, {1, 0}, {2, 0}, {nowhere, 0}, {4, 0}, {5, faraway}, {6, 0}, {7, 0}};
+  const Point points[] = {{0, 0}, {15, 0}, {30, 0}, {nowhere, 0}, {60, 0}, {75, faraway}, {90, 0}, {105, 0}};
   canvas.Polyline(points, colorBlack);
   const auto elements = Drawn(canvas);
   ASSERT_EQ(elements.size(), 2U);
@@ -180,11 +181,11 @@ TEST(SvgCanvas, AnArcOfAWholeTurnIsClosed) {
 
 TEST(SvgCanvas, NumbersAreShort) {
   SvgCanvas canvas;
-  canvas.Line(0.1F, 1.0F / 3, 12345.678F, -7, colorBlack);
+  canvas.Line(1.5F, 5, 12345.678F, -105, colorBlack);
   const SvgElement line = Only(canvas);
   EXPECT_EQ(line.attributes.at("x1"), "0.1");
   EXPECT_EQ(line.attributes.at("y1"), "0.3333333");
-  EXPECT_EQ(line.attributes.at("x2"), "12345.68");
+  EXPECT_EQ(line.attributes.at("x2"), "823.0452");
   EXPECT_EQ(line.attributes.at("y2"), "-7");
 }
 
@@ -197,7 +198,7 @@ class CommaPoint : public std::numpunct<char> {
 TEST(SvgCanvas, NumbersAreTheSameInEveryLocale) {
   const std::locale before = std::locale::global(std::locale(std::locale::classic(), new CommaPoint));
   SvgCanvas canvas;
-  canvas.Line(0.5F, 1234.5F, 3, 4, colorBlack);
+  canvas.Line(7.5F, 18517.5F, 3, 4, colorBlack);
   const std::string text = canvas.Text();
   std::locale::global(before);
   EXPECT_THAT(text, testing::HasSubstr("x1=\"0.5\" y1=\"1234.5\""));
