@@ -32,13 +32,10 @@ struct NormalLayout {
     k.Put(stage, SeriesPLC, k.Rs / (B(j) * above * k.OmegaWidth), k.G(j) * below / (k.Rs * 2 * Pi * W));
   }
 
-  void PutShunt(int j) {
-    k.Put(3 * j / 2, ShuntPLC, k.Rs / (B(j) * k.OmegaWidth), k.G(j) / (k.OmegaWidth * k.Rs));
-  }
+  void PutShunt(int j) { k.Put(3 * j / 2, ShuntPLC, k.Rs / (B(j) * k.OmegaWidth), k.G(j) / (k.OmegaWidth * k.Rs)); }
 
   void PutSeries(int stage, int j) {
-    k.Put(stage, SeriesSLC, k.H(j) * k.Rs / k.OmegaWidth,
-          1 / (f64{k.QLoaded} * k.OmegaCenter * k.Rs * k.H(j)));
+    k.Put(stage, SeriesSLC, k.H(j) * k.Rs / k.OmegaWidth, 1 / (f64{k.QLoaded} * k.OmegaCenter * k.Rs * k.H(j)));
   }
 
   // A place that the clean-up takes out again.
