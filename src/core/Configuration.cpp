@@ -151,9 +151,9 @@ std::string FormatConfiguration(DesignRecord& record, Configuration& configurati
   std::string text = "* Quilm Configuration File\r\n\r\n* " + now + "\r\n\r\n";
   for (int line = 1; line <= settingCount; ++line) {
     const Setting& setting = SettingOf(line);
-    const f32 value = WrittenValue(line, setting.read(record), configuration);
-    setting.write(record, value);
-    text += setting.label + NumText(value) + "\r\n";
+    setting.write(record, WrittenValue(line, setting.read(record), configuration));
+    // As the field holds it: a count is written as the whole number that it became.
+    text += setting.label + NumText(setting.read(record)) + "\r\n";
   }
   return text;
 }

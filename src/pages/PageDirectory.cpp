@@ -9,6 +9,7 @@
 #include "pages/frmHelp.h"
 #include "pages/frmOpening.h"
 #include "synthesis/EntryForms.h"
+#include "synthesis/frmBailout.h"
 #include "synthesis/frmDesign.h"
 
 namespace quilm {
@@ -33,6 +34,7 @@ PageDirectory AllPages() {
       {PageId::AddInfo, Make<frmAddInfo>},
       {PageId::About, Make<frmAbout>},
       {PageId::Help, Make<frmHelp>},
+      {PageId::Bailout, Make<frmBailout>},
       {PageId::EnterWidth, Make<frmEnterWidth>},
       {PageId::EnterCenterFreq, Make<frmEnterCenterFreq>},
       {PageId::EnterInput, Make<frmEnterInput>},

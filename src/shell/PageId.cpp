@@ -42,6 +42,8 @@ std::string_view FormName(PageId id) {
       return "frmEnterAstop";
     case PageId::EnterTopology:
       return "frmEnterTopology";
+    case PageId::Bailout:
+      return "frmBailout";
     case PageId::Mderived:
       return "frmMderived";
     case PageId::SeeNormalized:

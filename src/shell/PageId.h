@@ -25,6 +25,7 @@ enum class PageId {
   EnterFstopband,
   EnterAstop,
   EnterTopology,
+  Bailout,
   Mderived,
   SeeNormalized,
   Help,

@@ -6,6 +6,7 @@
 #include "core/NumericFault.h"
 #include "shell/Session.h"
 #include "synthesis/PrototypeTables.h"
+#include "synthesis/modCauer.h"
 
 namespace quilm {
 
@@ -190,6 +191,10 @@ void ComputeNormalized(Session& session) {
   if (session.familyOption == familyMderived) {
     // The user gives the zeros on a page of their own, which fills the prototype when it is accepted.
     if (session.pages.Has(PageId::Mderived)) session.pages.ShowModal(PageId::Mderived);
+    return;
+  }
+  if (session.familyOption == familyCauer) {
+    ComputeCauer(session);
     return;
   }
   Show(session, ComputePrototype(record, session.familyOption));

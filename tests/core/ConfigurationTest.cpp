@@ -223,6 +223,14 @@ TEST_F(ConfigurationFile, EndsWithItsLastSetting) {
   EXPECT_TRUE(FormatConfiguration(record, configuration, "now").ends_with("Plot data line width: 1 \r\n"));
 }
 
+// Found by fuzzing: a preference that is no whole number went out with all its digits, more than an entry reads back.
+TEST_F(ConfigurationFile, ACountIsWrittenAsTheWholeNumberThatItIs) {
+  Read("");
+  configuration.ConfigValue[6] = -9.000001e-3F;
+  record.NrXints = 0;
+  EXPECT_EQ(Line(6), "Number of plot X steps: 0 \r");
+}
+
 TEST_F(ConfigurationFile, UnitsAreWrittenAsTheyStand) {
   Read("");
   record.Units = 0;

@@ -72,12 +72,10 @@ TEST_F(DesignFamilies, OddCauerOrdersHaveTheRippleAsAResult) {
   EXPECT_TRUE(Shown("txtStopbandDepth"));
 }
 
-TEST_F(DesignFamilies, CauerAndMderivedSayThatTheyCannotBeDesignedYet) {
+TEST_F(DesignFamilies, MderivedSaysThatItCannotBeDesignedYet) {
   OpenLowpass();
-  for (const char* name : {"optCauer", "optMderived"}) {
-    EXPECT_THROW(Press(name), ActRefused);
-    EXPECT_THAT(Get<Control>(name).toolTip, testing::HasSubstr("cannot be designed yet"));
-  }
+  EXPECT_THROW(Press("optMderived"), ActRefused);
+  EXPECT_THAT(Get<Control>("optMderived").toolTip, testing::HasSubstr("cannot be designed yet"));
   EXPECT_TRUE(Get<Control>("optConstantK").Usable());
 }
 

@@ -1,0 +1,96 @@
+#include "synthesis/modCauer.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "core/NumericFault.h"
+#include "shell/Session.h"
+#include "synthesis/CauerPrototype.h"
+
+namespace quilm {
+
+namespace {
+
+constexpr f32 leastOrder = 3;
+
+int OrderOf(const DesignRecord& record) { return ToI16(static_cast<f64>(record.Order)); }
+
+void Take(DesignRecord& record, const CauerPrototype& prototype) {
+  record.Gj = prototype.Gj;
+  record.Hj = prototype.Hj;
+  record.FstopNorm = prototype.FstopNorm;
+  record.Rratio = prototype.Rratio;
+}
+
+CauerVariant VariantOf(const DesignRecord& record) {
+  if (record.CauerType == "C") return CauerVariant::EqualTerminations;
+  return record.CauerType == "A" ? CauerVariant::Natural : CauerVariant::BestSelectivity;
+}
+
+// The stopband edge over the passband edge, whichever way round they were entered: a highpass has its stopband below.
+f64 EdgeRatio(const DesignRecord& record) {
+  const f64 stop = record.Fstopband;
+  const f64 pass = record.Width;
+  if (!(std::min(stop, pass) > 0) || stop == pass) throw NumericFault("Division by zero");
+  return std::max(stop, pass) / std::min(stop, pass);
+}
+
+struct OddEntries {
+  explicit OddEntries(const DesignRecord& r) : Order(r.Order), Width(r.Width), Fstopband(r.Fstopband), Astop(r.Astop) {}
+  bool operator==(const OddEntries&) const = default;
+
+  f32 Order;
+  f32 Width;
+  f32 Fstopband;
+  f32 Astop;
+};
+
+// False when the user has left the failure page as it was.
+bool AskForOtherEntries(Session& session) {
+  const OddEntries before(session.record);
+  session.pages.ShowModal(PageId::Bailout);
+  return !(OddEntries(session.record) == before);
+}
+
+void ComputeOdd(Session& session) {
+  DesignRecord& record = session.record;
+  for (;;) {
+    const f32 ratio = static_cast<f32>(EdgeRatio(record));
+    record.Apass = OddCauerRipple(OrderOf(record), ratio, record.Astop);
+    if (record.Apass > leastCauerRipple) {
+      Take(record, OddCauerPrototype(OrderOf(record), ratio, record.Astop));
+      return;
+    }
+    if (!session.pages.Has(PageId::Bailout) || !AskForOtherEntries(session))
+      throw NumericFault("The ripple is too low");
+  }
+}
+
+void ComputeEven(DesignRecord& record) {
+  Take(record, EvenCauerPrototype(OrderOf(record), record.Apass, record.Astop, VariantOf(record)));
+}
+
+}  // namespace
+
+void ComputeCauer(Session& session) {
+  DesignRecord& record = session.record;
+  if (record.Order < leastOrder) {
+    record.Order = leastOrder;
+    session.platform.MessageBox(
+        "The Cauer family requires a minimum order of three.\r\nThe order has been reset to three.", Buttons::Ok,
+        Icon::Information, "");
+  }
+  record.CauerFlag = 1;
+  record.ResponsesValid = 0;
+  try {
+    if (OrderOf(record) % 2 == 0) {
+      ComputeEven(record);
+    } else {
+      ComputeOdd(session);
+    }
+  } catch (const Fault&) {
+    Take(record, CauerPrototype{});
+  }
+}
+
+}  // namespace quilm
