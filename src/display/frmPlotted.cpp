@@ -6,6 +6,8 @@
 #include "core/Fault.h"
 #include "display/PlotKinds.h"
 #include "display/modPlot.h"
+#include "files/modReadQuilmFiles.h"
+#include "files/modWriteQuilmFile.h"
 #include "pages/Leaving.h"
 #include "schematic/Icons.h"
 #include "shell/Session.h"
@@ -34,6 +36,8 @@ frmPlotted::frmPlotted(Session& session)
         return target == PageId::Design || CheckEntries(session);
       }) {
   navigation.helpFile = "plots.htm";
+  navigation.onSave = [&session] { SaveDesign(session, "Save Quilm File"); };
+  navigation.onGet = [&session] { GetDesignFor(session, PageId::Plotted); };
   int number = 0;
   for (const PlotButton& entry : PlotButtons()) {
     auto button = std::make_unique<Button>(*this, entry.name, "", entry.toolTip);

@@ -1,5 +1,6 @@
 #include "pages/Leaving.h"
 
+#include "files/modWriteQuilmFile.h"
 #include "shell/Session.h"
 #include "shell/modWriteConfig.h"
 
@@ -7,6 +8,7 @@ namespace quilm {
 
 void LeaveByCloseBox(Session& session) {
   WriteConfig(session);
+  StoreLastSession(session);
   throw ProgramEnd{};
 }
 

@@ -1,5 +1,6 @@
 #include "pages/frmExit.h"
 
+#include "files/modWriteQuilmFile.h"
 #include "shell/Session.h"
 #include "shell/modWriteConfig.h"
 
@@ -14,16 +15,23 @@ constexpr f64 noteSeconds = 1.5;  // long enough to read one line
 frmExit::frmExit(Session& session) : Page(session, PageId::Exit, "Exit ?") {
   cmdExit.onClick = [this] { Leave(); };
   cmdIgnore.onClick = [this] { session_.pages.UnloadPage(Id()); };
-  // Saving waits for the writer of design files.
-  cmdSave.enabled = false;
+  cmdSave.onClick = [this] { SaveAndLeave(); };
   acceptButton = &cmdExit;
   cancelButton = &cmdIgnore;
   SetFocus(cmdExit);
 }
 
+// With no network there is nothing to ask a file name for.
+void frmExit::SaveAndLeave() {
+  if (session_.record.Stages > 0 && !SaveDesign(session_, "Write Quilm File")) return;
+  Leave();
+}
+
+// The configuration first: it leaves its own name in DesignFileName.
 void frmExit::Leave() {
   WriteConfig(session_);
-  lblNote.caption = "This design was NOT saved as LASTSESSION";
+  lblNote.caption =
+      StoreLastSession(session_) ? "This design was saved as LASTSESSION" : "This design was NOT saved as LASTSESSION";
   session_.platform.Pause(noteSeconds);
   throw ProgramEnd{};
 }

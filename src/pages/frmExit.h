@@ -17,6 +17,7 @@ class frmExit : public Page {
   Button cmdIgnore{*this, "cmdIgnore", "Go on", "Go back to the design"};
 
  private:
+  void SaveAndLeave();
   void Leave();
 };
 

@@ -2,6 +2,8 @@
 
 #include <filesystem>
 
+#include "files/modReadQuilmFiles.h"
+#include "files/modWriteQuilmFile.h"
 #include "schematic/LadderPicture.h"
 #include "shell/Session.h"
 #include "shell/Version.h"
@@ -14,10 +16,11 @@ frmOpening::frmOpening(Session& session) : Page(session, PageId::Opening, "Quilm
   cmdDesignNew.onClick = [this] { GoTo(PageId::Design); };
   cmdManualEntry.onClick = [this] { GoTo(PageId::ManualEntry); };
   cmdGoTo.onClick = [this] { session_.platform.ShellOpen(session_.platform.HelpFolder() + "/updates.htm"); };
-  cmdExitOpening.onClick = [] { throw ProgramEnd{}; };
-  // Design files cannot be read yet: both buttons wait for their reader.
-  cmdLastSession.enabled = false;
-  cmdRetrieveOld.enabled = false;
+  cmdExitOpening.onClick = [this] { Leave(); };
+  cmdLastSession.onClick = [this] { ContinueLastSession(); };
+  cmdRetrieveOld.onClick = [this] {
+    if (GetDesign(session_, "Get Quilm File") == Got::Design) GoTo(PageId::Design);
+  };
   acceptButton = &cmdDesignNew;
 }
 
@@ -29,8 +32,21 @@ void frmOpening::Load() {
   SetFocus(cmdDesignNew);
 }
 
-// Leaving from the opening page changes nothing: no design was begun.
-void frmOpening::CloseBox() { throw ProgramEnd{}; }
+void frmOpening::CloseBox() { Leave(); }
+
+// Stores the design only if there is one: a start that was only looked at keeps the last session.
+void frmOpening::Leave() {
+  StoreLastSession(session_);
+  throw ProgramEnd{};
+}
+
+void frmOpening::ContinueLastSession() {
+  std::string path = InProgramFolder(session_, lastSessionFile);
+  modReadQuilmFiles(session_, path);
+  if (path.empty()) return;
+  session_.record.DesignFileName = path;
+  GoTo(PageId::Design);
+}
 
 void frmOpening::GoTo(PageId target) {
   session_.pages.ShowPage(target);

@@ -24,6 +24,8 @@ class frmOpening : public Page {
   Label lblVersion{*this, "lblVersion", ""};
 
  private:
+  void Leave();
+  void ContinueLastSession();
   void GoTo(PageId target);
 };
 

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "files/modReadQuilmFiles.h"
+#include "files/modWriteQuilmFile.h"
 #include "pages/Leaving.h"
 #include "schematic/Icons.h"
 #include "shell/Session.h"
@@ -27,6 +29,11 @@ frmDesign::frmDesign(Session& session)
       navigation_(*this, session, [this](PageId) { return MakeNetwork(); }),
       controls_(*this, session.record) {
   navigation_.helpFile = "design.htm";
+  navigation_.onGet = [&session] { GetDesignFor(session, PageId::Design); };
+  // What is saved is a network, so that one is made first.
+  navigation_.onSave = [this, &session] {
+    if (MakeNetwork()) SaveDesign(session, "Save Quilm File");
+  };
   ConnectEntries();
   ConnectOptions();
   ConnectButtons();

@@ -1,0 +1,61 @@
+#include "files/LineReader.h"
+
+#include <algorithm>
+#include <string_view>
+
+namespace quilm {
+
+namespace {
+
+constexpr std::size_t longestLine = 65536;
+constexpr std::string_view commentStarts = "!*'/\\";
+
+std::string Trimmed(const std::string& text) {
+  const std::size_t first = text.find_first_not_of(' ');
+  if (first == std::string::npos) return {};
+  return text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
+}  // namespace
+
+bool LineReader::ReadRaw(std::string& line) {
+  line.clear();
+  std::streambuf& buffer = *in_.rdbuf();
+  constexpr int end = std::char_traits<char>::eof();
+  int c = buffer.sbumpc();
+  if (c == end) return false;
+  for (; c != end && c != '\n' && c != '\r'; c = buffer.sbumpc()) {
+    if (line.size() < longestLine) line.push_back(static_cast<char>(c));
+  }
+  if (c == '\r' && buffer.sgetc() == '\n') buffer.sbumpc();
+  return true;
+}
+
+const std::string& LineReader::Take() {
+  std::string line;
+  while (ReadRaw(line)) {
+    if (line.empty()) continue;
+    std::string text = Trimmed(line);
+    if (!text.empty() && commentStarts.find(text.front()) != std::string_view::npos) continue;
+    last_ = std::move(text);
+    return last_;
+  }
+  throw ReadFault("Input past end of file");
+}
+
+bool LineReader::AtEnd() { return in_.rdbuf()->sgetc() == std::char_traits<char>::eof(); }
+
+const std::string& WordSplitter::Next() {
+  const std::size_t first = rest_.find_first_not_of(' ');
+  if (first == std::string::npos) {
+    rest_.clear();
+    return word_;
+  }
+  const std::size_t stop = std::min(rest_.find(' ', first), rest_.size());
+  word_ = rest_.substr(first, stop - first);
+  const std::size_t next = rest_.find_first_not_of(' ', stop);
+  rest_ = next == std::string::npos ? std::string() : rest_.substr(next);
+  return word_;
+}
+
+}  // namespace quilm

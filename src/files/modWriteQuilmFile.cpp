@@ -1,0 +1,63 @@
+#include "files/modWriteQuilmFile.h"
+
+#include <cstdio>
+#include <fstream>
+
+#include "files/WriteDesign.h"
+#include "files/modReadQuilmFiles.h"
+#include "shell/Session.h"
+#include "shell/modWriteConfig.h"
+
+namespace quilm {
+
+namespace {
+
+constexpr f64 emptySeconds = 2;
+constexpr const char* unnamedDesign = "design.QLM";
+
+std::string ShortDate(const DateTime& now) {
+  char text[32];
+  std::snprintf(text, sizeof text, "%04d-%02d-%02d", now.year, now.month, now.day);
+  return text;
+}
+
+// The configuration and session files are the program's own; a design is offered under its own name or a new one.
+std::string OfferedName(Session& session) {
+  const std::string& name = session.record.DesignFileName;
+  const bool own =
+      name == InProgramFolder(session, configurationFile) || name == InProgramFolder(session, lastSessionFile);
+  return name.empty() || own ? unnamedDesign : name;
+}
+
+}  // namespace
+
+bool modWriteQuilmFile(Session& session) {
+  if (session.record.Stages == 0) {
+    session.platform.Pause(emptySeconds);
+    throw ProgramEnd{};
+  }
+  const std::string text = DesignText(session.record, ShortDate(session.platform.Now()));
+  std::ofstream file(session.record.DesignFileName, std::ios::binary | std::ios::trunc);
+  file << text;
+  file.flush();
+  if (file.good()) return true;
+  session.platform.Beep();
+  return false;
+}
+
+bool SaveDesign(Session& session, const std::string& title) {
+  const std::optional<std::string> chosen = session.platform.SaveDialog(title, quilmFileFilter, OfferedName(session));
+  if (!chosen) return false;
+  session.record.DesignFileName = *chosen;
+  if (!modWriteQuilmFile(session)) return false;
+  session.note = "Saved " + *chosen;
+  return true;
+}
+
+bool StoreLastSession(Session& session) {
+  if (session.record.Stages == 0) return false;
+  session.record.DesignFileName = InProgramFolder(session, lastSessionFile);
+  return modWriteQuilmFile(session);
+}
+
+}  // namespace quilm

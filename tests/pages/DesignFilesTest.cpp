@@ -1,0 +1,181 @@
+// Designs that survive the day: saved, opened again, and kept as the last session on every way out.
+
+#include "pages/PageBench.h"
+#include "pages/PageDirectory.h"
+#include "pages/StartUp.h"
+#include "shell/modWriteConfig.h"
+
+namespace quilm {
+namespace {
+
+class DesignFiles : public PageBench {
+ protected:
+  DesignFiles() : PageBench(AllPages()) { StartProgram(session); }
+
+  void MakeLowpass() {
+    Press("cmdDesignNew");
+    Press("optButterworth");
+    Press("optCapInLowpass");
+    Enter("txtBandwidth", "1M");
+    Enter("txtInputTerm", "50");
+    Press("cmdPlot");
+  }
+
+  std::string Path(const std::string& name) { return platform.ProgramFolder() + "/" + name; }
+  bool Exists(const std::string& name) { return std::filesystem::exists(Path(name)); }
+
+  void Write(const std::string& name, const std::string& text) { std::ofstream(Path(name), std::ios::binary) << text; }
+};
+
+TEST_F(DesignFiles, ADesignIsSavedAndOpenedAgain) {
+  MakeLowpass();
+  platform.files = {Path("lowpass.QLM"), Path("lowpass.QLM")};
+  Press("cmdSave");
+  EXPECT_EQ(platform.fileDialogs[0].title, "Save Quilm File");
+  EXPECT_EQ(platform.fileDialogs[0].filter, "Quilm files (*.QLM)|*.QLM");
+  ASSERT_TRUE(Exists("lowpass.QLM"));
+  const f32 C1 = session.record.stage[1].Cval.value;
+
+  session.record.stage[1].Cval.value = 0;
+  platform.pageEvents.clear();
+  Press("cmdGet");
+  EXPECT_EQ(platform.fileDialogs[1].title, "Read Quilm File");
+  EXPECT_EQ(Top().Id(), PageId::Plotted);
+  EXPECT_NEAR(session.record.stage[1].Cval.value, C1, 1e-6F * C1);
+  EXPECT_EQ(session.record.Family, familyButterworth);
+  EXPECT_EQ(session.record.DesignFileName, Path("lowpass.QLM"));
+  EXPECT_EQ(platform.pageEvents, (std::vector<std::string>{"unload frmPlotted", "show frmPlotted"}));
+}
+
+TEST_F(DesignFiles, TheDesignPageSavesTheNetworkOfItsEntries) {
+  MakeLowpass();
+  Press("cmdDesign");
+  Enter("txtBandwidth", "2M");
+  platform.files = {Path("two.QLM")};
+  Press("cmdSave");
+  EXPECT_NE(File("two.QLM").find("\r\n 2000000  0  0 \r\n"), std::string::npos);
+  // C1 = 1 / (2 Pi 2e6 50)
+  EXPECT_NE(File("two.QLM").find(" 4  0  0  1.591549E-09  0 \r\n"), std::string::npos);
+}
+
+TEST_F(DesignFiles, ACancelledDialogChangesNothing) {
+  MakeLowpass();
+  const DesignRecord before = session.record;
+  platform.files = {std::nullopt, std::nullopt};
+  Press("cmdSave");
+  Press("cmdGet");
+  EXPECT_EQ(session.record, before);
+  EXPECT_EQ(Top().Id(), PageId::Plotted);
+}
+
+TEST_F(DesignFiles, AFileThatCannotBeOpenedCostsNothing) {
+  MakeLowpass();
+  const DesignRecord before = session.record;
+  platform.files = {Path("none.QLM")};
+  Press("cmdGet");
+  EXPECT_EQ(session.record, before);
+  EXPECT_EQ(platform.messages.size(), 1U);
+}
+
+TEST_F(DesignFiles, ADamagedFileIsToldAndLeavesTheProgramUsable) {
+  MakeLowpass();
+  Write("bad.QLM", "header\r\ntitle\r\ndate\r\n");
+  platform.files = {Path("bad.QLM")};
+  Press("cmdGet");
+  ASSERT_EQ(platform.messages.size(), 1U);
+  EXPECT_EQ(platform.messages[0].text,
+            "ReadQuilmFiles line 706; StagesMax: 43\r\nEntire last line which was read: date\r\n"
+            "Error string: 57\r\nErrorDescription: Input past end of file");
+  EXPECT_EQ(platform.messages[0].title, "");
+  EXPECT_EQ(platform.messages[0].icon, Icon::None);
+  EXPECT_EQ(Top().Id(), PageId::Design);
+  EXPECT_EQ(session.record.Stages, 0);
+  Press("optButterworth");
+  Press("optCapInLowpass");
+  Enter("txtBandwidth", "1M");
+  Enter("txtInputTerm", "50");
+  Press("cmdPlot");
+  EXPECT_EQ(Top().Id(), PageId::Plotted);
+}
+
+TEST_F(DesignFiles, ASaveThatFailsBeepsAndGoesOn) {
+  MakeLowpass();
+  platform.files = {Path("no/such/folder.QLM")};
+  Press("cmdSave");
+  EXPECT_EQ(platform.beeps, 1);
+  EXPECT_TRUE(platform.messages.empty());
+}
+
+TEST_F(DesignFiles, TheCloseBoxStoresTheLastSession) {
+  MakeLowpass();
+  PressCloseBox(session, Top());
+  EXPECT_TRUE(session.ended);
+  EXPECT_TRUE(Exists(configurationFile));
+  EXPECT_TRUE(Exists(lastSessionFile));
+}
+
+TEST_F(DesignFiles, TheExitPageStoresItAndSaysSo) {
+  MakeLowpass();
+  std::string note;
+  platform.modalActs.push_back([&](Page& page) {
+    try {
+      Press("cmdExit");
+    } catch (const ProgramEnd&) {
+      note = page.Find("lblNote")->caption;
+      throw;
+    }
+  });
+  Press("cmdExit");
+  EXPECT_EQ(note, "This design was saved as LASTSESSION");
+  EXPECT_TRUE(Exists(lastSessionFile));
+  EXPECT_EQ(session.record.DesignFileName, Path(lastSessionFile));
+}
+
+TEST_F(DesignFiles, TheExitPageSavesFirstWhereAsked) {
+  MakeLowpass();
+  platform.files = {Path("kept.QLM")};
+  platform.modalActs.push_back([&](Page&) { Press("cmdSave"); });
+  Press("cmdExit");
+  EXPECT_TRUE(session.ended);
+  EXPECT_EQ(platform.fileDialogs[0].title, "Write Quilm File");
+  EXPECT_TRUE(Exists("kept.QLM") && Exists(lastSessionFile));
+}
+
+TEST_F(DesignFiles, WithoutANetworkNothingIsStored) {
+  Press("cmdDesignNew");
+  platform.modalActs.push_back([&](Page&) { Press("cmdSave"); });
+  Press("cmdExit");
+  EXPECT_TRUE(session.ended);
+  EXPECT_TRUE(platform.fileDialogs.empty());
+  EXPECT_FALSE(Exists(lastSessionFile));
+}
+
+TEST_F(DesignFiles, TheLastSessionComesBack) {
+  MakeLowpass();
+  PressCloseBox(session, Top());
+  HeadlessPlatform other(platform.ProgramFolder());
+  Session next(other, AllPages());
+  StartProgram(next);
+  Click(next, *next.pages.Top()->Find("cmdLastSession"));
+  EXPECT_EQ(next.pages.Top()->Id(), PageId::Design);
+  EXPECT_EQ(next.record.Stages, 3);
+  EXPECT_EQ(next.record.Width, 1e6F);
+  EXPECT_EQ(next.familyOption, familyButterworth);
+}
+
+TEST_F(DesignFiles, AnOlderDesignIsOpenedFromTheOpeningPage) {
+  MakeLowpass();
+  platform.files = {Path("old.QLM")};
+  Press("cmdSave");
+  HeadlessPlatform other(platform.ProgramFolder());
+  other.files = {Path("old.QLM")};
+  Session next(other, AllPages());
+  StartProgram(next);
+  Click(next, *next.pages.Top()->Find("cmdRetrieveOld"));
+  EXPECT_EQ(other.fileDialogs[0].title, "Get Quilm File");
+  EXPECT_EQ(next.pages.Top()->Id(), PageId::Design);
+  EXPECT_EQ(next.record.Stages, 3);
+}
+
+}  // namespace
+}  // namespace quilm
