@@ -49,7 +49,11 @@ Button& NavigationRow::AddAction(Sign sign, const char* name, const char* captio
 
 // The target is shown before this page is unloaded, so that its load step sees nothing but the session.
 void NavigationRow::GoTo(PageId target) {
-  if (!gate_(target)) return;
+  if (!gate_(target)) {
+    // A check that led elsewhere, to the entry in question, has left this page.
+    if (session_.pages.Top() != &page_) session_.pages.UnloadPage(page_.Id());
+    return;
+  }
   session_.pages.ShowPage(target);
   session_.pages.UnloadPage(page_.Id());
 }

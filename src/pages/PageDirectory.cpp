@@ -1,5 +1,6 @@
 #include "pages/PageDirectory.h"
 
+#include "analysis/frmAnalyze.h"
 #include "display/frmBlank.h"
 #include "display/frmPlotted.h"
 #include "pages/frmAbout.h"
@@ -27,6 +28,7 @@ PageDirectory AllPages() {
   return {
       {PageId::Opening, Make<frmOpening>},
       {PageId::Design, Make<frmDesign>},
+      {PageId::Analyze, Make<frmAnalyze>},
       {PageId::Plotted, Make<frmPlotted>},
       {PageId::Blank, Make<frmBlank>},
       {PageId::Exit, Make<frmExit>},

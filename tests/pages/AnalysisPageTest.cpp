@@ -1,0 +1,166 @@
+#include "pages/PageBench.h"
+#include "pages/PageDirectory.h"
+#include "pages/StartUp.h"
+
+namespace quilm {
+namespace {
+
+class AnalysisPage : public PageBench {
+ protected:
+  AnalysisPage() : PageBench(AllPages()) {
+    StartProgram(session);
+    Press("cmdDesignNew");
+    Press("optButterworth");
+    Press("optCapInLowpass");
+    Enter("txtBandwidth", "1M");
+    Enter("txtInputTerm", "50");
+    Press("cmdAnalysis");
+  }
+
+  std::string Text(const std::string& name) { return Get<TextBox>(name).text; }
+  std::string Caption(const std::string& name) { return Get<Label>(name).caption; }
+  DesignRecord& Record() { return session.record; }
+};
+
+TEST_F(AnalysisPage, ShowsTheSettings) {
+  ASSERT_EQ(Top().Id(), PageId::Analyze);
+  EXPECT_EQ(Text("txtFstart"), "1k");
+  EXPECT_EQ(Text("txtFstop"), "10M");
+  EXPECT_EQ(Text("txtLossBottom"), "-60");
+  EXPECT_EQ(Text("txtDelayTop"), "100u");
+  EXPECT_TRUE(Get<OptionButton>("optLog").Value());
+  EXPECT_TRUE(Get<OptionButton>("optAbsolute").Value());
+  EXPECT_EQ(Caption("lbldBper"), "per interval: 10  dB");
+  EXPECT_EQ(Caption("lblOhmsPer"), "per interval: 200  ohms");
+  EXPECT_EQ(Caption("lblVSWRPer"), "per interval: 0.2 ");
+}
+
+TEST_F(AnalysisPage, TheGridAcrossBelongsToALinearSweep) {
+  EXPECT_FALSE(Get<Label>("lblPerInterval").Shown());
+  EXPECT_FALSE(Get<Spin>("UpDown1").Shown());
+  Record().ResponsesValid = 1;
+  Press("optLinear");
+  EXPECT_TRUE(Get<Label>("lblPerInterval").Shown());
+  EXPECT_EQ(Record().SweepMode, 1);
+  EXPECT_EQ(Record().ResponsesValid, 0);
+  Enter("txtFstart", "0");
+  EXPECT_EQ(Caption("lblSpanValue"), "Span: 10M Hz");
+  EXPECT_EQ(Caption("lblPerInterval"), "1M Hz per interval");
+}
+
+struct Row {
+  const char* box;
+  const char* typed;
+  const char* echo;
+  bool sweeps;
+};
+
+TEST_F(AnalysisPage, EntriesAreHeldAndEchoedWhenTheBoxIsLeft) {
+  const Row rows[] = {
+      {"txtFstart", "2k", "2k", true},
+      {"txtFstop", "5M", "5M", true},
+      {"txtNrIntervals", "2050", "2049", true},
+      {"txtNrIntervals", "3", "4", true},
+      {"txtLossBottom", "60", "-60", false},
+      {"txtDelayTop", "2u", "2u", false},
+      {"txtVSWRTop", "3", "3", false},
+      {"txtImpedanceTop", "600", "600", false},
+      {"txtQinductor", "150", "150", true},
+      {"txtQcapacitor", "900", "900", true},
+      {"txtRetLossRef", "-5", "50", true},
+  };
+  for (const Row& row : rows) {
+    Record().ResponsesValid = 1;
+    Enter(row.box, row.typed);
+    EXPECT_EQ(Text(row.box), row.echo) << row.box;
+    EXPECT_EQ(Record().ResponsesValid, row.sweeps ? 0 : 1) << row.box;
+  }
+}
+
+TEST_F(AnalysisPage, RelativeForcesASweepAndMagnifyDoesNot) {
+  Record().ResponsesValid = 1;
+  Press("optMagnify");
+  EXPECT_EQ(Record().MagnifyMode, 1);
+  EXPECT_EQ(Record().ResponsesValid, 1);
+  Press("optRelative");
+  EXPECT_EQ(Record().RelativeMode, 1);
+  EXPECT_EQ(Record().AbsoluteMode, 0);
+  EXPECT_EQ(Record().ResponsesValid, 0);
+}
+
+TEST_F(AnalysisPage, SpinControlsHaveTheirOwnLimits) {
+  Press("optLinear");
+  for (int i = 0; i < 40; ++i) Step(session, Get<Spin>("UpDown1"), 1);
+  EXPECT_EQ(Record().NrXints, 30);
+  for (int i = 0; i < 10; ++i) Step(session, Get<Spin>("UpDown2"), -1);
+  EXPECT_EQ(Record().NrYints, 1);
+  for (int i = 0; i < 10; ++i) Step(session, Get<Spin>("UpDown3"), 1);
+  EXPECT_EQ(Record().PlotLineWidth, 6);
+}
+
+TEST_F(AnalysisPage, TheCheckBeforeAPlotForcesTheRanges) {
+  Record().NrYints = 100;
+  Record().NrXints = 0;
+  Record().LossBottom = -300;
+  Record().DelayTop = 0;
+  Record().VSWRTop = 99;
+  Record().Qind[1] = 1;
+  Record().ImpedanceTop = 10;
+  Record().Fstart = 0;
+  Press("cmdPlot");
+  EXPECT_EQ(Top().Id(), PageId::Plotted);
+  EXPECT_EQ(Record().NrYints, 30);
+  EXPECT_EQ(Record().NrXints, 1);
+  EXPECT_EQ(Record().LossBottom, -120);
+  EXPECT_EQ(Record().DelayTop, 3 * 0.3F / 1e6F);
+  EXPECT_EQ(Record().VSWRTop, 7);
+  EXPECT_EQ(Record().Qind[1], 2);
+  EXPECT_EQ(Record().ImpedanceTop, 100);  // twice the source
+  EXPECT_EQ(Record().Fstart, 5e5F);       // half the cutoff
+}
+
+TEST_F(AnalysisPage, MissingSettingsAreFilledWhenThePageLoads) {
+  Record().Fstop = Record().NrIntervals = Record().DelayTop = Record().Qcap[1] = Record().Rstandard = 0;
+  Record().LossBottom = 0;
+  session.pages.ShowPage(PageId::Analyze);
+  EXPECT_EQ(Record().Fstop, 1e7F);
+  EXPECT_EQ(Record().NrIntervals, 1000);
+  EXPECT_EQ(Record().DelayTop, 3 * 0.3F / 1e6F);
+  EXPECT_EQ(Record().Qcap[1], 2000);
+  EXPECT_EQ(Record().Rstandard, 50);
+  EXPECT_EQ(Record().LossBottom, -60);
+}
+
+TEST_F(AnalysisPage, AFailedCheckLeadsToTheDesignPage) {
+  Record().Width = 0;
+  Press("cmdPlot");
+  EXPECT_EQ(Top().Id(), PageId::Design);
+  EXPECT_EQ(session.pages.Find(PageId::Analyze), nullptr);
+  EXPECT_EQ(MessageTexts(), std::vector<std::string>{"Please enter a bandwidth"});
+}
+
+TEST_F(AnalysisPage, AutoScaleReadsTheResponsesAsTheyStand) {
+  Press("cmdPlot");
+  session.pages.ShowPage(PageId::Analyze);
+  session.pages.UnloadPage(PageId::Plotted);
+  session.responses.RespZin[3] = 777;
+  Press("cmdAutoScale");
+  EXPECT_EQ(Top().Id(), PageId::Analyze);
+  EXPECT_EQ(Text("txtImpedanceTop"), "777");
+}
+
+TEST_F(AnalysisPage, ADesignPageNeedsNoCheck) {
+  Record().VSWRTop = 99;
+  Press("cmdDesign");
+  EXPECT_EQ(Top().Id(), PageId::Design);
+  EXPECT_EQ(Record().VSWRTop, 99);
+}
+
+TEST_F(AnalysisPage, ToolsOfLaterPagesAreDisabled) {
+  for (const char* name : {"cmdStepsize", "cmdModulation", "cmdPhase", "cmdNoise", "cmdTransient", "cmdAssistance"}) {
+    EXPECT_FALSE(Get<Button>(name).Active()) << name;
+  }
+}
+
+}  // namespace
+}  // namespace quilm
