@@ -57,16 +57,11 @@ struct Row {
 
 TEST_F(AnalysisPage, EntriesAreHeldAndEchoedWhenTheBoxIsLeft) {
   const Row rows[] = {
-      {"txtFstart", "2k", "2k", true},
-      {"txtFstop", "5M", "5M", true},
-      {"txtNrIntervals", "2050", "2049", true},
-      {"txtNrIntervals", "3", "4", true},
-      {"txtLossBottom", "60", "-60", false},
-      {"txtDelayTop", "2u", "2u", false},
-      {"txtVSWRTop", "3", "3", false},
-      {"txtImpedanceTop", "600", "600", false},
-      {"txtQinductor", "150", "150", true},
-      {"txtQcapacitor", "900", "900", true},
+      {"txtFstart", "2k", "2k", true},          {"txtFstop", "5M", "5M", true},
+      {"txtNrIntervals", "2050", "2049", true}, {"txtNrIntervals", "3", "4", true},
+      {"txtLossBottom", "60", "-60", false},    {"txtDelayTop", "2u", "2u", false},
+      {"txtVSWRTop", "3", "3", false},          {"txtImpedanceTop", "600", "600", false},
+      {"txtQinductor", "150", "150", true},     {"txtQcapacitor", "900", "900", true},
       {"txtRetLossRef", "-5", "50", true},
   };
   for (const Row& row : rows) {
