@@ -1,6 +1,10 @@
 #include "app/PlainViews.h"
 
+#include <QClipboard>
+#include <QFontDatabase>
+#include <QGuiApplication>
 #include <QScrollBar>
+#include <QShortcut>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 
@@ -27,6 +31,12 @@ bool HasLongLine(const QString& text) {
 LabelView::LabelView(Label& label, QWidget* parent) : ControlView(label), label_(label), widget_(new QLabel(parent)) {
   widget_->setTextFormat(Qt::PlainText);
   widget_->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+  if (label.fixedPitch) {
+    // Above the rows of a table, in their font and at their distance from the edge.
+    constexpr int listEdge = 4;
+    widget_->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    widget_->setIndent(listEdge);
+  }
   if (label.emphasised) {
     QFont font = widget_->font();
     constexpr f64 larger = 1.25;
@@ -85,6 +95,7 @@ ListView::ListView(ListBox& list, ActSink& sink, QWidget* parent)
   widget_->setUniformItemSizes(true);
   widget_->setMinimumHeight(widget_->fontMetrics().lineSpacing() * listLines);
   SetWidget(widget_);
+  if (list_.table) MakeTable();
   QObject::connect(widget_, &QListWidget::itemClicked, widget_, [this, &sink](QListWidgetItem* item) {
     sink.Press([this, line = widget_->row(item) + 1](Session& session) { Choose(session, list_, line); });
   });
@@ -93,6 +104,20 @@ ListView::ListView(ListBox& list, ActSink& sink, QWidget* parent)
     if (row < 0 || !widget_->hasFocus()) return;
     if (QGuiApplication::mouseButtons() != Qt::NoButton) return;
     sink.Press([this, line = row + 1](Session& session) { Choose(session, list_, line); });
+  });
+}
+
+// Rows of columns, to be read, marked and copied.
+void ListView::MakeTable() {
+  widget_->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+  widget_->setSelectionMode(QAbstractItemView::ExtendedSelection);
+  auto* copy = new QShortcut(QKeySequence::Copy, widget_, nullptr, nullptr, Qt::WidgetShortcut);
+  QObject::connect(copy, &QShortcut::activated, widget_, [this] {
+    QStringList rows;
+    for (int row = 0; row < widget_->count(); ++row) {
+      if (widget_->item(row)->isSelected()) rows << widget_->item(row)->text();
+    }
+    QGuiApplication::clipboard()->setText(rows.join(QLatin1Char('\n')));
   });
 }
 
@@ -105,7 +130,8 @@ void ListView::ShowValues() {
     for (const std::string& item : shown_) widget_->addItem(ToQt(item));
     widget_->verticalScrollBar()->setValue(scrolled);
   }
-  if (widget_->currentRow() != list_.selected - 1) widget_->setCurrentRow(list_.selected - 1);
+  // What the user has marked in a table is the user's alone.
+  if (!list_.table && widget_->currentRow() != list_.selected - 1) widget_->setCurrentRow(list_.selected - 1);
 }
 
 SpinView::SpinView(Spin& spin, ActSink& sink, QWidget* parent) : ControlView(spin), spin_(spin) {

@@ -48,6 +48,8 @@ class ListView : public ControlView {
   void ShowValues() override;
 
  private:
+  void MakeTable();
+
   ListBox& list_;
   QListWidget* widget_;
   std::vector<std::string> shown_;

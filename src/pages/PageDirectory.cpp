@@ -3,6 +3,7 @@
 #include "analysis/frmAnalyze.h"
 #include "display/frmBlank.h"
 #include "display/frmPlotted.h"
+#include "display/frmTabulated.h"
 #include "pages/frmAbout.h"
 #include "pages/frmAddInfo.h"
 #include "pages/frmChangeTitle.h"
@@ -30,6 +31,7 @@ PageDirectory AllPages() {
       {PageId::Design, Make<frmDesign>},
       {PageId::Analyze, Make<frmAnalyze>},
       {PageId::Plotted, Make<frmPlotted>},
+      {PageId::Tabulated, Make<frmTabulated>},
       {PageId::Blank, Make<frmBlank>},
       {PageId::Exit, Make<frmExit>},
       {PageId::ChangeTitle, Make<frmChangeTitle>},

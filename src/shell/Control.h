@@ -110,6 +110,7 @@ class Label : public Control {
  public:
   Label(Page& page, std::string name, std::string caption);
   bool emphasised = false;
+  bool fixedPitch = false;  // stands over the columns of a table
 };
 
 class Frame : public Control {
@@ -122,7 +123,8 @@ class ListBox : public Control {
  public:
   ListBox(Page& page, std::string name, std::string accessible);
   std::vector<std::string> items;
-  i32 selected = 0;  // 1-based, 0 for none
+  i32 selected = 0;    // 1-based, 0 for none
+  bool table = false;  // rows of columns: a font of fixed pitch, and many rows can be marked and copied
   std::function<void()> onClick;
 };
 
