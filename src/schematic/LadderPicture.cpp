@@ -1,9 +1,11 @@
 #include "schematic/LadderPicture.h"
 
+#include <algorithm>
+#include <cmath>
 #include <map>
-#include <string>
 #include <vector>
 
+#include "schematic/PartSymbols.h"
 #include "schematic/Symbols.h"
 
 namespace quilm {
@@ -11,33 +13,45 @@ namespace quilm {
 namespace {
 
 // Nearer rails than in the schematic: at the size of a button the parts count, not the space around them.
-constexpr f32 buttonGap = 640;
-constexpr f32 margin = 90;
-constexpr f32 above = 330;  // room for branches over the rail
-constexpr f32 below = 100;
-constexpr f32 lead = 120;
-constexpr f32 terminal = 45;
+constexpr f32 margin = 70;
+constexpr f32 above = 170;  // half a capacitor's plate, and some air
+constexpr f32 below = 90;
+constexpr f32 lead = 130;  // from a terminal's middle to the first stage
+constexpr f32 ends = 2 * (margin + lead);
+
+i32 CountElements(std::span<const i16> elementTypes) {
+  return static_cast<i32>(
+      std::count_if(elementTypes.begin(), elementTypes.end(), [](i16 type) { return SymbolWidth(type) > 0; }));
+}
+
+f32 LadderWidth(std::span<const i16> elementTypes) {
+  f32 width = ends;
+  for (const i16 type : elementTypes) width += SymbolWidth(type);
+  return width;
+}
 
 }  // namespace
 
-Picture LadderPicture(std::span<const i16> elementTypes) {
-  f32 width = 2 * (margin + lead);
-  for (const i16 type : elementTypes) width += StageWidth(type);
-  Picture picture(Scale{0, 0, width, above + buttonGap + below});
-  f32 x = margin;
+Picture LadderPicture(std::span<const i16> elementTypes, f32 least) {
+  const f32 needed = LadderWidth(elementTypes);
+  const f32 width = std::fmax(needed, least);
+  const i32 elements = CountElements(elementTypes);
+  const f32 spare = elements == 0 ? 0 : (width - needed) / static_cast<f32>(elements);
+  Picture picture(Scale{0, 0, width, above + narrowRailGap + below});
   const auto rails = [&picture](f32 from, f32 to) {
-    picture.Line(from, above, to, above, colorBlack);
-    picture.Line(from, above + buttonGap, to, above + buttonGap, colorBlack);
+    DrawRails(picture, StageBox{from, above, to - from, narrowRailGap}, colorBlack);
   };
-  DrawTerminals(picture, x, above, buttonGap, colorBlack);
-  rails(x + terminal, x + lead);
-  x += lead;
+  DrawTerminals(picture, margin, above, narrowRailGap, colorBlack);
+  rails(margin + terminalRadius, margin + lead);
+  f32 x = margin + lead;
   for (const i16 type : elementTypes) {
-    DrawStage(picture, type, x, above, buttonGap, colorBlack);
-    x += StageWidth(type);
+    if (SymbolWidth(type) == 0) continue;
+    const StageBox box{x, above, SymbolWidth(type) + spare, narrowRailGap};
+    DrawStage(picture, type, box, colorBlack);
+    x += box.width;
   }
-  rails(x, x + lead - terminal);
-  DrawTerminals(picture, x + lead, above, buttonGap, colorBlack);
+  rails(x, width - margin - terminalRadius);
+  DrawTerminals(picture, width - margin, above, narrowRailGap, colorBlack);
   return picture;
 }
 
@@ -60,6 +74,16 @@ std::span<const i16> TopologyElements(std::string_view letter) {
   return at == elements.end() ? std::span<const i16>() : std::span<const i16>(at->second);
 }
 
-Picture TopologyPicture(std::string_view letter) { return LadderPicture(TopologyElements(letter)); }
+Picture TopologyPicture(std::string_view letter) {
+  static const f32 width = [] {
+    f32 widest = 0;
+    for (const std::string_view each : {"A", "B", "C", "D", "E", "F", "G", "H", "I", "J", "K", "L"}) {
+      widest = std::fmax(widest, LadderWidth(TopologyElements(each)));
+    }
+    return widest;
+  }();
+  const std::span<const i16> elements = TopologyElements(letter);
+  return elements.empty() ? Picture() : LadderPicture(elements, width);
+}
 
 }  // namespace quilm

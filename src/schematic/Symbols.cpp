@@ -2,291 +2,247 @@
 
 #include <array>
 #include <cmath>
+#include <initializer_list>
+#include <span>
+
+#include "schematic/PartSymbols.h"
 
 namespace quilm {
 
 namespace {
 
-constexpr f32 symbolLength = 640;  // of a part with its leads
-constexpr f32 turnRadius = 80;
-constexpr f32 plateGap = 90;
-constexpr f32 plateHalf = 150;
-constexpr f32 zigzagHalf = 80;
-constexpr f32 branchLift = 300;  // between parallel branches
-constexpr f32 tubeHalf = 70;     // half the width of a line's tube
-constexpr f32 terminalRadius = 45;
-const f32 halfTurn = static_cast<f32>(Pi);
+using Parts = std::span<const Part>;
 
-// A straight run that parts are strung along, to the right or downward.
-class Run {
+constexpr std::array inductor = {Part::Inductor};
+constexpr std::array mirroredInductor = {Part::MirroredInductor};
+constexpr std::array capacitor = {Part::Capacitor};
+constexpr std::array resistor = {Part::Resistor};
+constexpr std::array inductorAndCapacitor = {Part::Inductor, Part::Capacitor};
+constexpr std::array allThree = {Part::Resistor, Part::Inductor, Part::Capacitor};
+
+struct StageWidths {
+  f32 schematic;
+  f32 symbol;
+};
+
+StageWidths WidthsOf(i16 elementType) {
+  static constexpr std::array<StageWidths, 22> widths = {{
+      {0, 0},     {960, 640}, {960, 360}, {1000, 400}, {960, 360},  {1280, 820}, {960, 360},  {960, 800},
+      {960, 640}, {880, 580}, {960, 360}, {1280, 880}, {960, 800},  {960, 800},  {1040, 800}, {1040, 800},
+      {960, 720}, {0, 0},     {0, 0},     {1120, 720}, {1340, 360}, {960, 800},
+  }};
+  const bool known = elementType >= 0 && static_cast<std::size_t>(elementType) < widths.size();
+  return known ? widths[static_cast<std::size_t>(elementType)] : StageWidths{0, 0};
+}
+
+class StageDrawing {
  public:
-  Run(Canvas& canvas, Point from, bool down, Color color) : canvas_(canvas), from_(from), down_(down), color_(color) {}
+  StageDrawing(Canvas& canvas, const StageBox& box, Color color) : canvas_(canvas), box_(box), color_(color) {}
 
-  // A point so far along the run and so far to its side: up beside a run to the right, right beside one downward.
-  Point At(f32 along, f32 side) const {
-    return down_ ? Point{from_.x + side, from_.y + along} : Point{from_.x + along, from_.y - side};
+  // Parts one behind the other in the line.
+  void InLine(Parts parts) const {
+    DrawChain(Rail(0), parts, 0, box_.width);
+    LowerRail();
   }
 
-  void Line(f32 along1, f32 side1, f32 along2, f32 side2) const {
-    const Point a = At(along1, side1);
-    const Point b = At(along2, side2);
-    canvas_.Line(a.x, a.y, b.x, b.y, color_);
+  // Branches one below the other in the line, the first on the rail.
+  void InLineParallel(std::initializer_list<Parts> branches) const {
+    constexpr f32 halfFrame = 320;
+    constexpr f32 firstDrop = 210;
+    constexpr f32 nextDrop = 230;
+    constexpr f32 mostSpread = 1.25F;
+    const f32 spread = std::fmin(box_.gap / narrowRailGap, mostSpread);
+    const f32 left = box_.width / 2 - halfFrame;
+    const f32 right = box_.width / 2 + halfFrame;
+    f32 drop = 0;
+    f32 last = 0;
+    for (const Parts branch : branches) {
+      DrawChain(Rail(drop), branch, left, right);
+      last = drop;
+      drop += (drop == 0 ? firstDrop : nextDrop) * spread;
+    }
+    const Run rail = Rail(0);
+    rail.Lead(0, left);
+    rail.Lead(right, box_.width);
+    for (const f32 side : {left, right}) rail.Stroke(side, 0, side, -last);
+    LowerRail();
   }
 
-  void Lead(f32 along1, f32 along2) const {
-    if (along1 != along2) Line(along1, 0, along2, 0);
+  // Parts one below the other from the line to common.
+  void ToCommon(Parts parts) const {
+    UpperRail();
+    LowerRail();
+    DrawChain(Down(Middle()), parts, 0, box_.gap);
   }
 
-  // Half a circle to the side of the run.
-  void Turn(f32 along, f32 radius) const {
-    const Point center = At(along, 0);
-    if (down_) {
-      canvas_.Circle(center.x, center.y, radius, color_, 1.5F * halfTurn, 0.5F * halfTurn);
-    } else {
-      canvas_.Circle(center.x, center.y, radius, color_, 0, halfTurn);
+  // Two branches to common, joined above and below.
+  void ToCommonParallel(Parts left, Parts right) const {
+    constexpr f32 half = 170;
+    const f32 top = box_.gap * 0.13F;
+    const f32 bottom = box_.gap - top;
+    UpperRail();
+    LowerRail();
+    const Run branch = Down(Middle());
+    branch.Lead(0, top);
+    branch.Lead(bottom, box_.gap);
+    for (const f32 joint : {top, bottom}) branch.Stroke(joint, -half, joint, half);
+    DrawChain(Down(Middle() - half), left, top, bottom);
+    DrawChain(Down(Middle() + half), right, top, bottom);
+  }
+
+  void LineInLine() const {
+    constexpr f32 half = 300;
+    const f32 left = box_.width / 2 - half;
+    const f32 right = box_.width / 2 + half;
+    Rail(0).Lead(0, left);
+    DrawLine(canvas_, box_.x + left, box_.x + right, box_.y, color_);
+    Rail(0).Lead(right + lineBulge, box_.width);
+    LowerRail();
+  }
+
+  // The line is broken; the stub lies between the rails and has one conductor at each side of the break.
+  void StubInLine(bool shorted) const {
+    const Stub stub{Middle() - 110, Middle() + 220, box_.y + box_.gap * 0.45F};
+    const f32 before = stub.from - 180;
+    DrawStub(stub, shorted);
+    Stroke(box_.x, box_.y, before, box_.y);
+    Stroke(before, box_.y, before, stub.y + lineHalf);
+    Stroke(before, stub.y + lineHalf, stub.from, stub.y + lineHalf);
+    Stroke(stub.from - 90, box_.y, box_.x + box_.width, box_.y);
+    Stroke(stub.from - 90, box_.y, stub.from - 90, stub.y - lineHalf);
+    Stroke(stub.from - 90, stub.y - lineHalf, stub.from, stub.y - lineHalf);
+    LowerRail();
+  }
+
+  // The stub lies between the rails; one of its conductors hangs on the line and the other stands on common.
+  void StubToCommon(bool shorted) const {
+    const Stub stub{Middle() - 140, Middle() + 190, box_.y + box_.gap / 2};
+    const f32 before = stub.from - 120;
+    DrawStub(stub, shorted);
+    UpperRail();
+    LowerRail();
+    for (const f32 side : {-lineHalf, lineHalf}) {
+      Stroke(before, side < 0 ? box_.y : box_.y + box_.gap, before, stub.y + side);
+      Stroke(before, stub.y + side, stub.from, stub.y + side);
     }
   }
 
+  // Two windings that face one another: with a core that of a transformer, else coupled coils with their dots.
+  void Windings(bool core) const {
+    const f32 apart = core ? 190 : 150;
+    const f32 left = Middle() - apart;
+    const f32 right = Middle() + apart;
+    Stroke(box_.x, box_.y, left, box_.y);
+    Stroke(right, box_.y, box_.x + box_.width, box_.y);
+    LowerRail();
+    DrawChain(Down(left), inductor, 0, box_.gap);
+    DrawChain(Down(right), mirroredInductor, 0, box_.gap);
+    core ? Core() : Dots(left, right);
+  }
+
  private:
+  struct Stub {
+    f32 from;
+    f32 to;
+    f32 y;
+  };
+
+  f32 Middle() const { return box_.x + box_.width / 2; }
+  Run Rail(f32 below) const { return {canvas_, {box_.x, box_.y + below}, Run::Way::Right, color_}; }
+  Run Down(f32 at) const { return {canvas_, {at, box_.y}, Run::Way::Down, color_}; }
+  void Stroke(f32 x1, f32 y1, f32 x2, f32 y2) const { canvas_.Line(x1, y1, x2, y2, color_); }
+  void UpperRail() const { Rail(0).Lead(0, box_.width); }
+  void LowerRail() const { Rail(box_.gap).Lead(0, box_.width); }
+
+  // The conductors go on a little beyond the sheath, so that a short or an open end shows.
+  void DrawStub(const Stub& stub, bool shorted) const {
+    constexpr f32 beyond = 170;
+    const f32 end = stub.to + beyond;
+    DrawLine(canvas_, stub.from, stub.to, stub.y, color_);
+    for (const f32 side : {-lineHalf, lineHalf}) Stroke(stub.to, stub.y + side, end, stub.y + side);
+    if (shorted) Stroke(end, stub.y - lineHalf, end, stub.y + lineHalf);
+  }
+
+  void Core() const {
+    constexpr f32 half = 240;
+    constexpr f32 bar = 35;
+    const f32 middle = box_.y + box_.gap / 2;
+    for (const f32 side : {-bar, bar}) Stroke(Middle() + side, middle - half, Middle() + side, middle + half);
+  }
+
+  void Dots(f32 left, f32 right) const {
+    constexpr f32 radius = 22;
+    constexpr f32 beside = 75;
+    const f32 top = box_.y + box_.gap / 2 - BodyLength(Part::Inductor) / 2;
+    canvas_.Circle(left - beside, top, radius, color_);
+    canvas_.Circle(right + beside, top, radius, color_);
+  }
+
   Canvas& canvas_;
-  Point from_;
-  bool down_;
+  StageBox box_;
   Color color_;
 };
 
-// Parts between two points of a run, their symbol in the middle.
-using PartDrawing = void (*)(const Run&, f32 from, f32 to);
-
-void Inductor(const Run& run, f32 from, f32 to) {
-  const f32 radius = std::fmin(turnRadius, (to - from) / 7);
-  const f32 first = (from + to) / 2 - 2 * radius;
-  run.Lead(from, first - radius);
-  for (int turn = 0; turn < 3; ++turn) run.Turn(first + 2 * radius * static_cast<f32>(turn), radius);
-  run.Lead(first + 5 * radius, to);
-}
-
-void Capacitor(const Run& run, f32 from, f32 to) {
-  const f32 left = (from + to - plateGap) / 2;
-  run.Lead(from, left);
-  run.Line(left, -plateHalf, left, plateHalf);
-  run.Line(left + plateGap, -plateHalf, left + plateGap, plateHalf);
-  run.Lead(left + plateGap, to);
-}
-
-void Resistor(const Run& run, f32 from, f32 to) {
-  const f32 step = std::fmin(70.0F, (to - from) / 8);
-  const f32 left = (from + to) / 2 - 3 * step;
-  run.Lead(from, left);
-  f32 side = zigzagHalf;
-  run.Line(left, 0, left + step / 2, side);
-  for (int i = 0; i < 5; ++i) {
-    const f32 at = left + step * (0.5F + static_cast<f32>(i));
-    run.Line(at, side, at + step, -side);
-    side = -side;
-  }
-  run.Line(left + 5.5F * step, side, left + 6 * step, 0);
-  run.Lead(left + 6 * step, to);
-}
-
-// The tube of a line from end to end: two conductors, and its round ends.
-void Tube(Canvas& canvas, const Run& run, f32 from, f32 to, Color color) {
-  run.Line(from, tubeHalf, to, tubeHalf);
-  run.Line(from, -tubeHalf, to, -tubeHalf);
-  for (const f32 end : {from, to}) {
-    const Point at = run.At(end, 0);
-    canvas.Circle(at.x, at.y, tubeHalf, color, 0, 0, 1);
-  }
-}
-
-struct StageDrawing {
-  Canvas& canvas;
-  f32 x;
-  f32 y;
-  f32 gap;
-  f32 width;
-  Color color;
-
-  f32 Middle() const { return x + width / 2; }
-  Run Upper() const { return {canvas, {x, y}, false, color}; }
-  Run Down(f32 at) const { return {canvas, {at, y}, true, color}; }
-  void Line(f32 x1, f32 y1, f32 x2, f32 y2) const { canvas.Line(x1, y1, x2, y2, color); }
-  void LowerRail() const { Line(x, y + gap, x + width, y + gap); }
-  void UpperRail() const { Line(x, y, x + width, y); }
-};
-
-void InLine(const StageDrawing& stage, std::initializer_list<PartDrawing> parts) {
-  const Run rail = stage.Upper();
-  const f32 length = symbolLength * static_cast<f32>(parts.size());
-  f32 at = (stage.width - length) / 2;
-  rail.Lead(0, at);
-  for (const PartDrawing part : parts) {
-    part(rail, at, at + symbolLength);
-    at += symbolLength;
-  }
-  rail.Lead(at, stage.width);
-  stage.LowerRail();
-}
-
-// Branches side by side in the line: the first on the rail, the others above and below it.
-void InLineParallel(const StageDrawing& stage, std::initializer_list<PartDrawing> parts) {
-  const f32 left = (stage.width - symbolLength) / 2;
-  const f32 right = left + symbolLength;
-  const Run rail = stage.Upper();
-  rail.Lead(0, left);
-  rail.Lead(right, stage.width);
-  const std::array<f32, 3> lifts = {parts.size() == 2 ? -branchLift / 2 : 0.0F,
-                                    parts.size() == 2 ? branchLift / 2 : branchLift, -branchLift};
-  std::size_t i = 0;
-  f32 highest = 0;
-  f32 lowest = 0;
-  for (const PartDrawing part : parts) {
-    const f32 lift = lifts[i++];
-    part(Run(stage.canvas, {stage.x, stage.y - lift}, false, stage.color), left, right);
-    highest = std::fmax(highest, lift);
-    lowest = std::fmin(lowest, lift);
-  }
-  rail.Line(left, lowest, left, highest);
-  rail.Line(right, lowest, right, highest);
-  stage.LowerRail();
-}
-
-void ToCommon(const StageDrawing& stage, std::initializer_list<PartDrawing> parts) {
-  stage.UpperRail();
-  stage.LowerRail();
-  const Run branch = stage.Down(stage.Middle());
-  const f32 each = stage.gap / static_cast<f32>(parts.size());
-  f32 at = 0;
-  for (const PartDrawing part : parts) {
-    part(branch, at, at + each);
-    at += each;
-  }
-}
-
-// Two branches to common, joined above and below.
-void ToCommonParallel(const StageDrawing& stage, PartDrawing left, PartDrawing right) {
-  stage.UpperRail();
-  stage.LowerRail();
-  const f32 half = branchLift / 2 + 30;
-  const f32 top = stage.gap * 0.14F;
-  const f32 bottom = stage.gap - top;
-  const f32 middle = stage.Middle();
-  stage.Line(middle, stage.y, middle, stage.y + top);
-  stage.Line(middle - half, stage.y + top, middle + half, stage.y + top);
-  left(stage.Down(middle - half), top, bottom);
-  right(stage.Down(middle + half), top, bottom);
-  stage.Line(middle - half, stage.y + bottom, middle + half, stage.y + bottom);
-  stage.Line(middle, stage.y + bottom, middle, stage.y + stage.gap);
-}
-
-void LineInLine(const StageDrawing& stage) {
-  const f32 end = 240;
-  const Run rail = stage.Upper();
-  rail.Lead(0, end - tubeHalf);
-  Tube(stage.canvas, rail, end, stage.width - end, stage.color);
-  rail.Lead(stage.width - end + tubeHalf, stage.width);
-  stage.LowerRail();
-}
-
-// A stub hangs down; its far end is closed by a bar when shorted.
-void StubBody(const StageDrawing& stage, f32 left, f32 right, f32 top, f32 bottom, bool shorted) {
-  stage.Line(left, top, left, bottom);
-  stage.Line(right, top, right, bottom);
-  if (shorted) stage.Line(left, bottom, right, bottom);
-}
-
-void StubInLine(const StageDrawing& stage, bool shorted) {
-  const f32 half = 110;
-  const f32 middle = stage.Middle();
-  stage.Line(stage.x, stage.y, middle - half, stage.y);
-  stage.Line(middle + half, stage.y, stage.x + stage.width, stage.y);
-  StubBody(stage, middle - half, middle + half, stage.y, stage.y + stage.gap * 0.62F, shorted);
-  stage.LowerRail();
-}
-
-void StubToCommon(const StageDrawing& stage, bool shorted) {
-  const f32 half = 110;
-  const f32 middle = stage.Middle();
-  const f32 far = stage.y + stage.gap * 0.66F;
-  stage.UpperRail();
-  stage.LowerRail();
-  stage.Line(middle - half, stage.y, middle - half, far);
-  stage.Line(middle + half, stage.y + stage.gap * 0.2F, middle + half, far);
-  // The other conductor belongs to common.
-  const f32 side = middle + half + 130;
-  stage.Line(middle + half, stage.y + stage.gap * 0.2F, side, stage.y + stage.gap * 0.2F);
-  stage.Line(side, stage.y + stage.gap * 0.2F, side, stage.y + stage.gap);
-  if (shorted) stage.Line(middle - half, far, middle + half, far);
-}
-
-void Windings(const StageDrawing& stage, bool core) {
-  const f32 apart = 230;
-  const f32 left = stage.Middle() - apart;
-  const f32 right = stage.Middle() + apart;
-  stage.Line(stage.x, stage.y, left, stage.y);
-  stage.Line(right, stage.y, stage.x + stage.width, stage.y);
-  stage.LowerRail();
-  Inductor(stage.Down(left), 0, stage.gap);
-  Inductor(stage.Down(right), 0, stage.gap);
-  if (!core) return;
-  for (const f32 at : {stage.Middle() - 30, stage.Middle() + 40}) {
-    stage.Line(at, stage.y + stage.gap * 0.25F, at, stage.y + stage.gap * 0.75F);
-  }
-}
-
 }  // namespace
 
-f32 StageWidth(i16 elementType) {
-  static constexpr std::array<f32, 22> widths = {0,    960, 960, 1000, 960,  1280, 960, 960, 960,  880,  960,
-                                                 1280, 960, 960, 1040, 1040, 960,  0,   0,   1120, 1340, 960};
-  return elementType < 1 || elementType > 21 ? 0 : widths[static_cast<std::size_t>(elementType)];
-}
+f32 StageWidth(i16 elementType) { return WidthsOf(elementType).schematic; }
 
-void DrawStage(Canvas& canvas, i16 elementType, f32 x, f32 y, f32 gap, Color color) {
-  const StageDrawing stage{canvas, x, y, gap, StageWidth(elementType), color};
+f32 SymbolWidth(i16 elementType) { return WidthsOf(elementType).symbol; }
+
+void DrawStage(Canvas& canvas, i16 elementType, const StageBox& box, Color color) {
+  const StageDrawing stage(canvas, box, color);
   switch (elementType) {
     case SeriesL:
-      return InLine(stage, {Inductor});
+      return stage.InLine(inductor);
     case SeriesC:
-      return InLine(stage, {Capacitor});
+      return stage.InLine(capacitor);
     case SeriesR:
-      return InLine(stage, {Resistor});
+      return stage.InLine(resistor);
     case SeriesSLC:
-      return InLine(stage, {Inductor, Capacitor});
+      return stage.InLine(inductorAndCapacitor);
     case SeriesPLC:
-      return InLineParallel(stage, {Capacitor, Inductor});
+      return stage.InLineParallel({inductor, capacitor});
     case SeriesRLC:
-      return InLineParallel(stage, {Resistor, Inductor, Capacitor});
+      return stage.InLineParallel({inductor, resistor, capacitor});
     case ShuntL:
-      return ToCommon(stage, {Inductor});
+      return stage.ToCommon(inductor);
     case ShuntC:
-      return ToCommon(stage, {Capacitor});
+      return stage.ToCommon(capacitor);
     case ShuntR:
-      return ToCommon(stage, {Resistor});
+      return stage.ToCommon(resistor);
     case ShuntSLC:
-      return ToCommon(stage, {Inductor, Capacitor});
+      return stage.ToCommon(inductorAndCapacitor);
     case ShuntRLC:
-      return ToCommon(stage, {Resistor, Inductor, Capacitor});
+      return stage.ToCommon(allThree);
     case ShuntPLC:
-      return ToCommonParallel(stage, Inductor, Capacitor);
+      return stage.ToCommonParallel(mirroredInductor, capacitor);
     case TransLine:
-      return LineInLine(stage);
+      return stage.LineInLine();
     case SeriesShortStub:
     case SeriesOpenStub:
-      return StubInLine(stage, elementType == SeriesShortStub);
+      return stage.StubInLine(elementType == SeriesShortStub);
     case ShuntShortStub:
     case ShuntOpenStub:
-      return StubToCommon(stage, elementType == ShuntShortStub);
+      return stage.StubToCommon(elementType == ShuntShortStub);
     case Transformer:
     case CoupledInductors:
-      return Windings(stage, elementType == Transformer);
+      return stage.Windings(elementType == Transformer);
     default:
       return;
   }
 }
 
+void DrawStage(Canvas& canvas, i16 elementType, f32 x, f32 y, f32 gap, Color color) {
+  DrawStage(canvas, elementType, StageBox{x, y, StageWidth(elementType), gap}, color);
+}
+
+void DrawRails(Canvas& canvas, const StageBox& box, Color color) {
+  for (const f32 y : {box.y, box.y + box.gap}) canvas.Line(box.x, y, box.x + box.width, y, color);
+}
+
 void DrawTerminals(Canvas& canvas, f32 x, f32 y, f32 gap, Color color) {
-  canvas.Circle(x, y, terminalRadius, color);
-  canvas.Circle(x, y + gap, terminalRadius, color);
+  DrawTerminal(canvas, x, y, color);
+  DrawTerminal(canvas, x, y + gap, color);
 }
 
 }  // namespace quilm

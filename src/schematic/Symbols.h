@@ -1,8 +1,9 @@
-// The circuit symbols: drawn once here and used wherever a network shows, on buttons, in the schematic and in the
-// guide.
+// The stages of a network as circuit symbols: drawn once here and used wherever a network shows, on buttons, in the
+// schematic and in the guide.
 //
-// A stage stands between an upper rail at y and a lower one at y + gap and is as wide as its type needs. One stroke
-// weight; inductors are three arcs, capacitors two plates, resistors a zigzag, lines a tube.
+// A stage stands between an upper rail at y and a lower one at y + gap. Its leads end on both rails at both of its
+// sides, so that stages set side by side make the circuit. Nothing rises further above the upper rail than half a
+// capacitor's plate, which leaves the room above it to labels.
 #pragma once
 
 #include "core/DesignRecord.h"
@@ -10,16 +11,34 @@
 
 namespace quilm {
 
-inline constexpr f32 railGap = 1040;  // of the schematic; smaller drawings bring the rails nearer
+inline constexpr f32 railGap = 1040;       // of the schematic
+inline constexpr f32 narrowRailGap = 640;  // the least for which the symbols are made; smaller pictures use it
 
-// The width of a stage of this type, in user scale; 0 for codes that draw nothing.
+// The place of a stage in user scale: its left end on the upper rail, its width and the distance of the rails.
+struct StageBox {
+  f32 x = 0;
+  f32 y = 0;
+  f32 width = 0;
+  f32 gap = railGap;
+};
+
+// The width of a stage of this type in the schematic, with room for labels; 0 for codes that draw nothing.
 f32 StageWidth(i16 elementType);
 
-// Draws a stage of this type from x to x + StageWidth on the rails y and y + gap (at least 560). Codes that are no
-// element draw nothing.
+// The width that the bare symbol needs, for artwork; 0 for codes that draw nothing.
+f32 SymbolWidth(i16 elementType);
+
+// Draws a stage of this type in the middle of `box`, which is at least SymbolWidth wide. Codes that are no element draw
+// nothing.
+void DrawStage(Canvas& canvas, i16 elementType, const StageBox& box, Color color);
+
+// The same as wide as in the schematic: from x to x + StageWidth.
 void DrawStage(Canvas& canvas, i16 elementType, f32 x, f32 y, f32 gap, Color color);
 
-// The same between rails that end here: a terminal on each.
+// Plain rails from x to x + width.
+void DrawRails(Canvas& canvas, const StageBox& box, Color color);
+
+// The end of both rails: a terminal on each, about x.
 void DrawTerminals(Canvas& canvas, f32 x, f32 y, f32 gap, Color color);
 
 }  // namespace quilm

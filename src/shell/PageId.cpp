@@ -10,6 +10,8 @@ std::string_view FormName(PageId id) {
       return "frmDesign";
     case PageId::Schematic:
       return "frmSchematic";
+    case PageId::SchematicSimple:
+      return "frmSchematicSimple";
     case PageId::Edit:
       return "frmEditCircuit";
     case PageId::Analyze:
@@ -46,6 +48,10 @@ std::string_view FormName(PageId id) {
       return "frmBailout";
     case PageId::Mderived:
       return "frmMderived";
+    case PageId::SinglyTermCheby:
+      return "frmSinglyTermCheby";
+    case PageId::EndSections:
+      return "frmEndSections";
     case PageId::SeeNormalized:
       return "frmSeeNormalized";
     case PageId::Help:
