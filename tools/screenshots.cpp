@@ -116,6 +116,33 @@ class Walk {
     for (const std::string& kind : kinds) {
       if (Press(kind.c_str())) Save(("plot-" + kind).c_str());
     }
+    SmithTools();
+    Readout();
+  }
+
+  void SmithTools() {
+    if (!Press("cmd11")) return;
+    Press("cmdVSWR");
+    Press("cmdZoomIn");
+    Press("cmdZoomIn");
+    Save("plot-smith-zoom4");
+    Press("cmdZoomOut");
+    Press("cmdZoomOut");
+    Type("txtAspect", "1");
+    Save("plot-smith-circle");
+  }
+
+  // With the button held at the middle of the second plot.
+  void Readout() {
+    if (!Press("cmd2")) return;
+    auto& box = dynamic_cast<PictureBox&>(*desktop_.session.pages.Top()->Find("picPlot"));
+    const auto act = [&](MouseAct what) {
+      desktop_.platform.Stage().Perform(
+          [&](Session& session) { Mouse(session, box, what, 6500, 4000, MouseButton::Left); });
+    };
+    act(MouseAct::Down);
+    Save("plot-readout");
+    act(MouseAct::Up);
   }
 
   void Visit(const char* button, const char* name) {

@@ -110,11 +110,14 @@ void PictureView::paintEvent(QPaintEvent* /*event*/) {
   painter.drawImage(paper.topLeft(), marked);
 }
 
-// Hands a mouse event to the page. False when the page is not concerned.
+// Hands a mouse event to the page. False when the page is not concerned: outside the paper it gets nothing but the
+// release of a button that went down on it, without which it would take the button for held.
 bool PictureView::Pass(MouseAct act, QMouseEvent* event) {
   const bool right = event->button() == Qt::RightButton || (event->buttons() & Qt::RightButton) != 0;
-  if (!onMouse || !Paper().contains(event->position())) return false;
-  if (act != MouseAct::Move && right) rightDown_ = act == MouseAct::Down;
+  bool& down = right ? rightDown_ : leftDown_;
+  const bool release = act == MouseAct::Up && down;
+  if (!onMouse || !(release || Paper().contains(event->position()))) return false;
+  if (act != MouseAct::Move) down = act == MouseAct::Down;
   const Point at = ToUser(event->position());
   onMouse(act, at.x, at.y, right ? MouseButton::Right : MouseButton::Left);
   return true;

@@ -19,7 +19,7 @@ class PictureView : public QWidget {
   // Takes over what the box shows; cheap when nothing has changed.
   void Show(const Picture& picture, const Picture& mark);
 
-  // Called with the position in user scale. The pages get no event outside the paper.
+  // Called with the position in user scale. The pages get no event outside the paper, but for a release.
   std::function<void(MouseAct, f32 x, f32 y, MouseButton)> onMouse;
 
   // Puts the picture on the clipboard, on white paper.
@@ -53,8 +53,9 @@ class PictureView : public QWidget {
 
   Picture picture_;
   Picture mark_;
-  bool rightDown_ = false;  // the page was told
-  QImage sheet_;            // the picture without its mark, in device pixels
+  bool leftDown_ = false;  // the page was told
+  bool rightDown_ = false;
+  QImage sheet_;  // the picture without its mark, in device pixels
 };
 
 }  // namespace quilm

@@ -168,7 +168,7 @@ struct DesignRecord {
   i16 AbsoluteMode = 1;
   i16 MagnifyMode = 0;
   i16 PlotLineWidth = 1;     // pixels
-  f32 SmithAspect = 0.75F;   // height over width of the Smith chart
+  f32 SmithAspect = 0.75F;   // width over height of the round charts, 0.5..1.5
   i16 Units = 1;             // 1 English, 2 metric
   i16 PlotCode = 0;          // the plot on display: 1..7, 9..13
   i16 TopologyHelpCode = 0;  // 1..12

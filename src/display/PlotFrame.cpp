@@ -16,6 +16,8 @@ f64 Quotient(f64 part, f64 whole) {
 
 }  // namespace
 
+int LastPoint(const DesignRecord& record) { return ToI16(static_cast<f64>(record.NrIntervals)); }
+
 f64 SweepFraction(const DesignRecord& record, f32 frequency) {
   const f64 f = frequency;
   const f64 start = record.Fstart;
@@ -24,16 +26,15 @@ f64 SweepFraction(const DesignRecord& record, f32 frequency) {
   return Quotient(std::log(f) - std::log(start), std::log(stop) - std::log(start));
 }
 
-f32 FrameX(const DesignRecord& record, f32 frequency) {
-  return static_cast<f32>(SweepFraction(record, frequency) * static_cast<f64>(frameWidth) +
-                          static_cast<f64>(frameLeft));
+f32 FrameX(const DesignRecord& record, f32 frequency, const PlotBox& box) {
+  return static_cast<f32>(SweepFraction(record, frequency) * static_cast<f64>(box.width) + static_cast<f64>(box.left));
 }
 
-f32 FrameY(const ValueScale& scale, f64 value) {
+f32 FrameY(const ValueScale& scale, f64 value, const PlotBox& box) {
   const f64 top = scale.top;
   const f64 height = top - static_cast<f64>(scale.bottom);
-  const f64 y = static_cast<f64>(frameTop) - Quotient(value - top, height) * static_cast<f64>(frameHeight);
-  return std::clamp(static_cast<f32>(y), frameTop, frameBottom);
+  const f64 y = static_cast<f64>(box.top) - Quotient(value - top, height) * static_cast<f64>(box.height);
+  return std::clamp(static_cast<f32>(y), box.top, box.Bottom());
 }
 
 }  // namespace quilm

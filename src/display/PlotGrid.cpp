@@ -101,7 +101,7 @@ std::vector<GridLabel> LabelsOf(const DesignRecord& record, const FrequencyGrid&
 
 f32 HorizontalStep(const DesignRecord& record) {
   if (record.NrYints == 0) throw NumericFault("Division by zero");
-  return static_cast<f32>(ToI16(static_cast<f64>(frameHeight) / static_cast<f64>(record.NrYints) - 1));
+  return static_cast<f32>(ToI16(static_cast<f64>(plotFrame.height) / static_cast<f64>(record.NrYints) - 1));
 }
 
 }  // namespace quilm

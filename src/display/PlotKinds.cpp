@@ -47,6 +47,10 @@ constexpr f64 degreesPerRadian = 57.29578;
 
 std::span<const PlotButton> PlotButtons() { return buttons; }
 
+bool IsPlot(i16 code) {
+  return std::any_of(buttons.begin(), buttons.end(), [code](const PlotButton& button) { return button.code == code; });
+}
+
 bool IsRectangular(i16 code) {
   return std::any_of(kinds.begin(), kinds.end(), [code](const PlotKind& kind) { return kind.code == code; });
 }

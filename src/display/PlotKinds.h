@@ -44,6 +44,8 @@ std::span<const PlotButton> PlotButtons();
 // Throws Fault for other codes.
 PlotKind KindOf(const DesignRecord& record, i16 code);
 
+// Whether one of the twelve plots has the code, and whether it stands in the rectangular frame.
+bool IsPlot(i16 code);
 bool IsRectangular(i16 code);
 
 // The scale of a quantity by the present settings.

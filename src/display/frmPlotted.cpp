@@ -6,6 +6,7 @@
 #include "core/Fault.h"
 #include "display/PlotKinds.h"
 #include "display/modPlot.h"
+#include "display/modSmith.h"
 #include "files/modReadQuilmFiles.h"
 #include "files/modWriteQuilmFile.h"
 #include "pages/Leaving.h"
@@ -32,9 +33,11 @@ bool RippleCanBeTuned(const DesignRecord& record) {
 }  // namespace
 
 frmPlotted::frmPlotted(Session& session)
-    : Page(session, PageId::Plotted, "Plot"), navigation(*this, session, [&session](PageId target) {
-        return target == PageId::Design || CheckEntries(session);
-      }) {
+    : Page(session, PageId::Plotted, "Plot"),
+      navigation(*this, session,
+                 [&session](PageId target) { return target == PageId::Design || CheckEntries(session); }),
+      smithControls(*this, session, [this] { Draw(session_.record.PlotCode); }),
+      mouse_(session, picPlot) {
   navigation.helpFile = "plots.htm";
   navigation.onSave = [&session] { SaveDesign(session, "Save Quilm File"); };
   navigation.onGet = [&session] { GetDesignFor(session, PageId::Plotted); };
@@ -44,10 +47,6 @@ frmPlotted::frmPlotted(Session& session)
     button->role = ButtonRole::Thumbnail;
     button->picture = CurvePicture(++number);
     button->onClick = [this, code = entry.code] { Choose(code); };
-    if (!IsRectangular(entry.code)) {
-      button->enabled = false;
-      button->toolTip += " - comes with a later version";
-    }
     plotButtons.push_back(std::move(button));
   }
   cmdAutoScale.onClick = [this] { ScaleToResponse(); };
@@ -60,7 +59,8 @@ frmPlotted::frmPlotted(Session& session)
 
 void frmPlotted::Load() {
   navigation.Load();
-  if (session_.record.PlotCode < 1 || !IsRectangular(session_.record.PlotCode)) session_.record.PlotCode = 1;
+  smithControls.Load();
+  if (!IsPlot(session_.record.PlotCode)) session_.record.PlotCode = 1;
   Choose(session_.record.PlotCode);
 }
 
@@ -75,13 +75,18 @@ void frmPlotted::Choose(i16 code) {
   session_.record.PlotCode = code;
   for (std::size_t i = 0; i < plotButtons.size(); ++i) plotButtons[i]->pressed = PlotButtons()[i].code == code;
   cmdLimits.visible = IsRectangular(code);
+  smithControls.ShowFor(code);
   Draw(code);
 }
 
 void frmPlotted::Draw(i16 code) {
   try {
     HoldLossBottom(session_.record, code);
-    DrawPlot(session_.record, session_.responses, code, TraceColors{}, picPlot.picture);
+    if (IsRectangular(code)) {
+      DrawPlot(session_.record, session_.responses, code, TraceColors{}, picPlot.picture);
+    } else {
+      DrawChart(session_.record, session_.responses, code, session_.smithView, TraceColors{}, picPlot.picture);
+    }
   } catch (const Fault&) {
     ShowFault(MarkOf(code));
   }
@@ -110,7 +115,7 @@ Layout frmPlotted::MakeLayout() {
       Column({Grid(1, {Put(cmdAutoScale), KeepPlace(Put(cmdLimits)), Put(cmdMarkers), Put(cmdStepSize),
                        Put(cmdTunePart), Put(cmdTuneWidth), KeepPlace(Put(cmdTuneApass)), Put(cmdOptimize),
                        Put(cmdMonteCarlo), Put(cmdGetOverlay), Put(cmdSaveOverlay), Put(cmdEnd), Put(cmdExtremes)}),
-              Space()});
+              smithControls.MakeLayout(), Space()});
   return Column({navigation.MakeLayout(), Row(std::move(strip)), Fill(Row({Fill(Put(picPlot)), tools}))});
 }
 

@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+#include "display/PlotMouse.h"
+#include "display/SmithControls.h"
 #include "pages/NavigationRow.h"
 #include "shell/Page.h"
 
@@ -20,6 +22,7 @@ class frmPlotted : public Page {
   NavigationRow navigation;
   std::vector<std::unique_ptr<Button>> plotButtons;  // cmd1 to cmd12
   PictureBox picPlot{*this, "picPlot", "Plot of the responses"};
+  SmithControls smithControls;
 
   Button cmdAutoScale{*this, "cmdAutoScale", "AutoScale", "Set the scales from the response"};
   Button cmdLimits{*this, "cmdLimits", "Limits", "Set limit areas for this plot"};
@@ -41,6 +44,8 @@ class frmPlotted : public Page {
   void ShowFault(const std::string& mark);
   void RefreshTools();
   void ScaleToResponse();
+
+  PlotMouse mouse_;
 };
 
 }  // namespace quilm

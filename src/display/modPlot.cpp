@@ -3,46 +3,34 @@
 #include <algorithm>
 #include <cmath>
 #include <string>
-#include <vector>
 
 #include "core/NumericFault.h"
 #include "core/modGeneral.h"
 #include "display/PlotFrame.h"
 #include "display/PlotGrid.h"
 #include "display/PlotKinds.h"
+#include "display/PlotText.h"
+#include "display/PlotTrace.h"
 
 namespace quilm {
 
 namespace {
 
-constexpr f32 labelSize = 8;  // points
-constexpr f32 titleSize = 9;
 constexpr f32 titleRow = 540;
 constexpr f32 leftTitleStart = 1000;
 constexpr f32 rightTitleEnd = 12000;
 constexpr f32 leftLabelsEnd = 1800;
 constexpr f32 rightLabelsStart = 11130;
-constexpr f32 labelRise = 100;  // the middle of a label's line above its foot
 constexpr f32 frequencyLabelRow = 7100;
 constexpr f32 highestLossBottom = -0.3F;
 constexpr f32 highestVSWR = 7;
 
-int LastPoint(const DesignRecord& record) { return ToI16(static_cast<f64>(record.NrIntervals)); }
-
-void PrintAt(Canvas& canvas, f32 x, f32 y, const std::string& text) {
-  canvas.CurrentX = x;
-  canvas.CurrentY = y;
-  canvas.Print(text);
-}
-
-void PrintEndingAt(Canvas& canvas, f32 x, f32 y, const std::string& text) {
-  PrintAt(canvas, x - canvas.TextWidth(text), y, text);
-}
-
 void DrawHorizontalGrid(const DesignRecord& record, Canvas& canvas) {
   const f32 step = HorizontalStep(record);
   if (!(step > 0)) throw NumericFault("Division by zero");
-  for (f32 y = frameTop; y <= frameBottom; y += step) canvas.Line(frameLeft, y, frameRight, y, gridColor);
+  for (f32 y = plotFrame.top; y <= plotFrame.Bottom(); y += step) {
+    canvas.Line(plotFrame.left, y, plotFrame.Right(), y, gridColor);
+  }
 }
 
 std::string ScaleLabel(const ValueScale& scale, f64 part) {
@@ -56,7 +44,7 @@ void DrawScale(const DesignRecord& record, const PlotAxis& axis, bool left, Canv
   canvas.FontSize = labelSize;
   for (int k = 0; static_cast<f32>(k) <= record.NrYints; ++k) {
     const f64 part = k / static_cast<f64>(record.NrYints);
-    const f32 y = static_cast<f32>(std::floor(part * static_cast<f64>(frameHeight))) + frameTop - labelRise;
+    const f32 y = static_cast<f32>(std::floor(part * static_cast<f64>(plotFrame.height))) + plotFrame.top - labelRise;
     if (left) {
       PrintEndingAt(canvas, leftLabelsEnd, y, ScaleLabel(scale, part));
     } else {
@@ -73,33 +61,20 @@ void DrawScale(const DesignRecord& record, const PlotAxis& axis, bool left, Canv
 
 void DrawVerticalGrid(const DesignRecord& record, Canvas& canvas) {
   const FrequencyGrid grid = MakeFrequencyGrid(record);
-  for (int k = 0; k <= grid.GridLast; ++k) {
-    const f32 x = frameLeft + frameWidth * grid.GridFraction[k];
-    canvas.Line(x, frameTop, x, frameBottom, gridColor);
-  }
+  DrawFrequencyLines(grid, canvas);
   canvas.FontSize = labelSize;
   for (const GridLabel& label : LabelsOf(record, grid)) {
-    PrintAt(canvas, 1900 + frameWidth * label.fraction, frequencyLabelRow, label.text);
+    PrintAt(canvas, 1900 + plotFrame.width * label.fraction, frequencyLabelRow, label.text);
   }
 }
 
-// From point 0 on; the first point is a line of no length at its place.
-void DrawTrace(const DesignRecord& record, const Responses& responses, Quantity quantity, Color color, Canvas& canvas) {
-  const ValueScale scale = ScaleOf(record, quantity);
-  const int last = LastPoint(record);
-  std::vector<Point> points;
-  points.reserve(static_cast<std::size_t>(last) + 2);
-  for (int i = 0; i <= last; ++i) {
-    points.push_back({FrameX(record, responses.RespFreq[i]), FrameY(scale, ValueOf(responses, quantity, i))});
-    if (i == 0) points.push_back(points.front());
-  }
-  canvas.Polyline(points, color);
-}
-
-void DrawFooters(Canvas& canvas) {
-  canvas.FontSize = labelSize;
-  PrintAt(canvas, 1301, 7280, "Mousedown for data");
-  PrintAt(canvas, 1400, 7660, "Start");
+// The round plots have theirs in the corner.
+bool HasDecibelScale(const DesignRecord& record, i16 plotCode) {
+  if (!IsRectangular(plotCode)) return true;
+  const PlotKind kind = KindOf(record, plotCode);
+  return std::any_of(kind.axes.begin(), kind.axes.end(), [](const PlotAxis& axis) {
+    return axis.quantity == Quantity::Transmission || axis.quantity == Quantity::Return;
+  });
 }
 
 }  // namespace
@@ -113,14 +88,18 @@ void DrawTraces(const DesignRecord& record, const Responses& responses, i16 plot
   canvas.DrawWidth = 1;
 }
 
-void DrawPlot(const DesignRecord& record, const Responses& responses, i16 plotCode, const TraceColors& colors,
-              Canvas& canvas) {
-  const PlotKind kind = KindOf(record, plotCode);
+void BeginPlot(Canvas& canvas) {
   canvas.SetScale(plotScale);
   canvas.Clear();
   canvas.DrawWidth = 1;
   canvas.ForeColor = colorBlack;
   canvas.FontName = "Arial";
+}
+
+void DrawPlot(const DesignRecord& record, const Responses& responses, i16 plotCode, const TraceColors& colors,
+              Canvas& canvas) {
+  const PlotKind kind = KindOf(record, plotCode);
+  BeginPlot(canvas);
   DrawHorizontalGrid(record, canvas);
   for (std::size_t i = 0; i < kind.axes.size(); ++i) DrawScale(record, kind.axes[i], i == 0, canvas);
   DrawVerticalGrid(record, canvas);
@@ -129,11 +108,8 @@ void DrawPlot(const DesignRecord& record, const Responses& responses, i16 plotCo
 }
 
 void HoldLossBottom(DesignRecord& record, i16 plotCode) {
-  const PlotKind kind = KindOf(record, plotCode);
-  const bool inDecibels = std::any_of(kind.axes.begin(), kind.axes.end(), [](const PlotAxis& axis) {
-    return axis.quantity == Quantity::Transmission || axis.quantity == Quantity::Return;
-  });
-  if (inDecibels) record.LossBottom = std::min(record.LossBottom, highestLossBottom);
+  if (!HasDecibelScale(record, plotCode)) return;
+  record.LossBottom = std::min(record.LossBottom, highestLossBottom);
 }
 
 void AutoScale(DesignRecord& record, const Responses& responses) {

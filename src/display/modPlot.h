@@ -17,6 +17,9 @@ struct TraceColors {
 void DrawPlot(const DesignRecord& record, const Responses& responses, i16 plotCode, const TraceColors& colors,
               Canvas& canvas);
 
+// Empties the canvas for a plot and sets its scale and pen.
+void BeginPlot(Canvas& canvas);
+
 // Draws the traces alone, over what the canvas holds.
 void DrawTraces(const DesignRecord& record, const Responses& responses, i16 plotCode, const TraceColors& colors,
                 Canvas& canvas);

@@ -3,8 +3,8 @@
 #include <array>
 #include <string_view>
 
-#include "core/NumericFault.h"
 #include "core/modGeneral.h"
+#include "display/PlotFrame.h"
 
 namespace quilm {
 
@@ -47,8 +47,6 @@ std::string Justified(const Texts& texts) {
   }
   return row;
 }
-
-int LastPoint(const DesignRecord& record) { return ToI16(static_cast<f64>(record.NrIntervals)); }
 
 template <class Texts>
 void PrintRow(Canvas& printer, f32 y, const Texts& texts) {

@@ -8,6 +8,7 @@
 #include "core/Configuration.h"
 #include "core/DesignRecord.h"
 #include "core/Responses.h"
+#include "core/SmithView.h"
 #include "shell/PageDesk.h"
 #include "shell/Platform.h"
 
@@ -27,6 +28,8 @@ class Session {
   // The family option that stands on the Design page, which the prototype routines read; kept here so that it is
   // known when the page is not loaded.
   i16 familyOption = familyNone;
+
+  SmithView smithView;  // stays for the run of the program
 
   std::mt19937 random;   // all random numbers of the program come from here
   std::string note;      // what the last action did, for the status line

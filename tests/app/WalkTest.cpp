@@ -1,69 +1,8 @@
-// The first evening with the program, in its real window: mouse and keyboard alone.
-#include <QAbstractButton>
-#include <QApplication>
-#include <QLineEdit>
-#include <QTemporaryDir>
-#include <QTest>
-
-#include "app/Desktop.h"
-#include "pages/PageDirectory.h"
-#include "pages/StartUp.h"
-#include "shell/Page.h"
+// The first evening with the program.
+#include "app/WalkBench.h"
 
 namespace quilm {
 namespace {
-
-class Walk : public testing::Test {
- protected:
-  Walk() : desktop_(AllPages(), folder_.path()) {
-    desktop_.Start(StartProgram);
-    EXPECT_TRUE(QTest::qWaitForWindowExposed(&desktop_.window));
-    // There is no window manager that would give it the keyboard.
-    QApplication::setActiveWindow(&desktop_.window);
-  }
-
-  QWidget* Find(const char* name) {
-    QWidget* widget = desktop_.TopView()->Find(QString::fromLatin1(name));
-    if (widget == nullptr) throw Fault(std::string("no widget ") + name);
-    return widget;
-  }
-
-  void ClickOn(const char* name) {
-    QWidget* widget = Find(name);
-    ASSERT_TRUE(widget->isVisible() && widget->isEnabled()) << name;
-    // An option is chosen by its mark or text, at the left.
-    QTest::mouseClick(widget, Qt::LeftButton, {}, QPoint(10, widget->height() / 2));
-    QApplication::processEvents();
-  }
-
-  // Replaces the text of a box, as a user would.
-  void Type(const char* name, const char* text) {
-    QWidget* box = Find(name);
-    box->setFocus();
-    QTest::keyClick(box, Qt::Key_A, Qt::ControlModifier);
-    QTest::keyClicks(box, QString::fromLatin1(text));
-  }
-
-  Page& Top() { return *desktop_.session.pages.Top(); }
-  const DesignRecord& Record() { return desktop_.session.record; }
-
-  // The colour of the picture at a point in user scale, as the user sees it.
-  QColor PixelAt(f32 x, f32 y) {
-    auto& box = dynamic_cast<PictureBox&>(*Top().Find("picPlot"));
-    QWidget* view = Find("picPlot");
-    const QImage image = view->grab().toImage();
-    const f64 unit = std::min(view->width() / static_cast<f64>(box.picture.ScaleWidth),
-                              view->height() / static_cast<f64>(box.picture.ScaleHeight));
-    const f64 left = (view->width() - unit * static_cast<f64>(box.picture.ScaleWidth)) / 2;
-    const f64 top = (view->height() - unit * static_cast<f64>(box.picture.ScaleHeight)) / 2;
-    const f64 density = image.devicePixelRatio();
-    return image.pixelColor(static_cast<int>((left + unit * static_cast<f64>(x - box.picture.ScaleLeft)) * density),
-                            static_cast<int>((top + unit * static_cast<f64>(y - box.picture.ScaleTop)) * density));
-  }
-
-  QTemporaryDir folder_;
-  Desktop desktop_;
-};
 
 TEST_F(Walk, FromTheOpeningPageToALowpassAndABandpassOnThePlot) {
   const QSize size = desktop_.window.size();
@@ -107,19 +46,28 @@ TEST_F(Walk, FromTheOpeningPageToALowpassAndABandpassOnThePlot) {
   EXPECT_EQ(desktop_.window.size(), size);
 }
 
-TEST_F(Walk, TheCloseBoxKeepsThePreferences) {
-  ClickOn("cmdDesignNew");
+TEST_F(Walk, TheCloseBoxKeepsThePreferencesAndTheDesign) {
+  DesignLowpass();
+  ClickOn("cmdPlot");
   desktop_.window.close();
   QApplication::processEvents();
   EXPECT_TRUE(desktop_.session.ended);
   EXPECT_TRUE(QFile::exists(folder_.filePath("QuilmConfiguration.CFG")));
+  const f32 capacitor = Record().stage[1].Cval.value;
+
+  // The next evening begins where this one ended.
+  Desktop next(AllPages(), folder_.path());
+  next.Start(StartProgram);
+  auto* button = qobject_cast<QAbstractButton*>(next.TopView()->Find(QStringLiteral("cmdLastSession")));
+  ASSERT_NE(button, nullptr);
+  QTest::mouseClick(button, Qt::LeftButton);
+  QApplication::processEvents();
+  EXPECT_EQ(next.session.record.Stages, 3);
+  EXPECT_NEAR(next.session.record.stage[1].Cval.value, capacitor, 1e-6F * capacitor);
 }
 
 TEST_F(Walk, ThePagesHaveTheirKeys) {
-  ClickOn("cmdDesignNew");
-  ClickOn("optButterworth");
-  ClickOn("optCapInLowpass");
-  Type("txtBandwidth", "1M");
+  DesignLowpass();
   QTest::keyClick(&desktop_.window, Qt::Key_5, Qt::ControlModifier);
   EXPECT_EQ(Top().Id(), PageId::Plotted);
   QTest::keyClick(&desktop_.window, Qt::Key_1, Qt::ControlModifier);

@@ -61,9 +61,176 @@ TEST_F(PlotPage, EveryButtonDrawsItsPlot) {
   }
 }
 
-TEST_F(PlotPage, TheRoundPlotsWaitForTheirDrawing) {
-  EXPECT_FALSE(Get<Button>("cmd11").Active());
-  EXPECT_FALSE(Get<Button>("cmd12").Active());
+class SmithPage : public PlotPage {
+ protected:
+  SmithPage() {
+    session.record.SmithAspect = 1;
+    Press("cmd11");
+  }
+};
+
+TEST_F(SmithPage, TheChartHasItsTools) {
+  EXPECT_EQ(session.record.PlotCode, 11);
+  EXPECT_TRUE(Shows("Normalized to 50 ohms"));
+  for (const char* name : {"cmdZoomIn", "cmdZoomOut", "cmdVSWR", "txtVSWR", "txtAspect", "UpDown1", "lblAspect"}) {
+    EXPECT_TRUE(Get<Control>(name).Shown()) << name;
+  }
+  EXPECT_FALSE(Get<Button>("cmdLimits").Shown());
+}
+
+TEST_F(SmithPage, ThePolarPlotHasItsAspectAlone) {
+  Press("cmd12");
+  EXPECT_EQ(session.record.PlotCode, 12);
+  for (const char* name : {"cmdZoomIn", "cmdZoomOut", "cmdVSWR", "txtVSWR"}) {
+    EXPECT_FALSE(Get<Control>(name).Shown()) << name;
+  }
+  EXPECT_TRUE(Get<Control>("txtAspect").Shown());
+  Press("cmd1");
+  EXPECT_FALSE(Get<Control>("txtAspect").Shown());
+  EXPECT_TRUE(Get<Button>("cmdLimits").Shown());
+}
+
+TEST_F(SmithPage, TheZoomGoesInFourStepsToSixteenAndBack) {
+  EXPECT_FALSE(Get<Button>("cmdZoomOut").Active());
+  for (const f32 zoom : {2.0F, 4.0F, 8.0F, 16.0F}) {
+    const Picture before = Plot();
+    Press("cmdZoomIn");
+    EXPECT_EQ(session.smithView.ZoomFactor, zoom);
+    EXPECT_FALSE(Plot() == before);
+    EXPECT_TRUE(Get<Button>("cmdZoomOut").Active());
+  }
+  EXPECT_FALSE(Get<Button>("cmdZoomIn").Active());
+  for (int i = 0; i < 4; ++i) Press("cmdZoomOut");
+  EXPECT_EQ(session.smithView.ZoomFactor, 1);
+  EXPECT_FALSE(Get<Button>("cmdZoomOut").Active());
+  EXPECT_TRUE(Get<Button>("cmdZoomIn").Active());
+}
+
+TEST_F(SmithPage, TheZoomStaysOverOtherPlotsAndPages) {
+  Press("cmdZoomIn");
+  Press("cmd1");
+  Press("cmdDesign");
+  session.pages.ShowPage(PageId::Plotted);
+  Press("cmd11");
+  EXPECT_EQ(session.smithView.ZoomFactor, 2);
+  EXPECT_TRUE(Get<Button>("cmdZoomOut").Active());
+}
+
+TEST_F(SmithPage, TheVSWRButtonTogglesACircleWithinItsLimits) {
+  Enter("txtVSWR", "30");
+  Press("cmdVSWR");
+  EXPECT_EQ(session.smithView.VSWRCircle, 20);
+  EXPECT_EQ(Get<TextBox>("txtVSWR").text, "20");
+  EXPECT_EQ(session.smithView.VSWRCircleOn, 1);
+  Press("cmdVSWR");
+  EXPECT_EQ(session.smithView.VSWRCircleOn, 0);
+  Enter("txtVSWR", ".5");
+  Press("cmdVSWR");
+  EXPECT_EQ(session.smithView.VSWRCircle, 1);
+  EXPECT_EQ(Get<TextBox>("txtVSWR").text, "1");
+}
+
+TEST_F(SmithPage, ANewFigureTakesTheCircleAway) {
+  const Picture without = Plot();
+  Press("cmdVSWR");
+  EXPECT_FALSE(Plot() == without);
+  Enter("txtVSWR", "3");
+  EXPECT_EQ(session.smithView.VSWRCircleOn, 0);
+  EXPECT_EQ(Plot(), without);
+}
+
+TEST_F(SmithPage, TheAspectIsHeldWithinItsLimitsAndShownWhenTheBoxIsLeft) {
+  Get<TextBox>("txtAspect").text = "";
+  Type(session, Get<TextBox>("txtAspect"), "9");
+  EXPECT_EQ(session.record.SmithAspect, 1.5F);
+  EXPECT_EQ(Get<TextBox>("txtAspect").text, "9");
+  Leave(session, Get<TextBox>("txtAspect"));
+  EXPECT_EQ(Get<TextBox>("txtAspect").text, "1.5");
+  for (const auto& [text, aspect] : {std::pair{".5", 0.5F}, {".4", 0.5F}, {"1.5", 1.5F}, {"1.25", 1.25F}}) {
+    Enter("txtAspect", text);
+    EXPECT_EQ(session.record.SmithAspect, aspect) << text;
+  }
+}
+
+TEST_F(SmithPage, TheAspectStepsByOnePerCent) {
+  const Picture before = Plot();
+  Step(session, Get<Spin>("UpDown1"), 1);
+  EXPECT_NEAR(session.record.SmithAspect, 1.01, 1e-6);
+  EXPECT_EQ(Get<TextBox>("txtAspect").text, "1.01");
+  EXPECT_FALSE(Plot() == before);
+  session.record.SmithAspect = 0.5F;
+  Step(session, Get<Spin>("UpDown1"), -1);
+  EXPECT_EQ(session.record.SmithAspect, 0.5F);
+}
+
+TEST_F(SmithPage, AChartWithoutAReferenceIsTold) {
+  session.record.Rstandard = 0;
+  Press("cmdZoomIn");
+  EXPECT_EQ(MessageTexts(), std::vector<std::string>{"We had a plotting routine problem.\r\nSee frmPlotted line 544"});
+}
+
+class PlotReadout : public PlotPage {
+ protected:
+  PictureBox& Box() { return Get<PictureBox>("picPlot"); }
+  void Do(MouseAct act, f32 x, f32 y, MouseButton button = MouseButton::Left) {
+    Mouse(session, Box(), act, x, y, button);
+  }
+  std::string MarkText(std::size_t number) {
+    std::size_t seen = 0;
+    for (const PictureOp& operation : Box().mark.Operations()) {
+      const auto* text = std::get_if<TextOp>(&operation);
+      if (text != nullptr && seen++ == number) return text->text;
+    }
+    return "";
+  }
+};
+
+TEST_F(PlotReadout, LivesWhileTheButtonIsHeldAndLeavesNothingBehind) {
+  const Picture before = Plot();
+  Do(MouseAct::Move, 6500, 4000);
+  EXPECT_TRUE(Box().mark.Empty());
+  Do(MouseAct::Down, 6500, 4000);
+  EXPECT_EQ(MarkText(0), "Freq.:");
+  const std::string frequency = MarkText(10);
+  Do(MouseAct::Move, 8000, 4000);
+  EXPECT_NE(MarkText(10), frequency);
+  Do(MouseAct::Up, 8000, 4000);
+  EXPECT_TRUE(Box().mark.Empty());
+  EXPECT_EQ(Plot(), before);
+  Do(MouseAct::Move, 6500, 4000);
+  EXPECT_TRUE(Box().mark.Empty());
+}
+
+TEST_F(PlotReadout, OutsideTheFrameNothingIsUpdated) {
+  Do(MouseAct::Down, 1500, 4000);
+  EXPECT_TRUE(Box().mark.Empty());
+  Do(MouseAct::Move, 6500, 4000);
+  EXPECT_FALSE(Box().mark.Empty());
+  const Picture inside = Box().mark;
+  Do(MouseAct::Move, 11500, 4000);
+  EXPECT_EQ(Box().mark, inside);
+}
+
+TEST_F(PlotReadout, TheRightButtonDoesNothing) {
+  Do(MouseAct::Down, 6500, 4000, MouseButton::Right);
+  Do(MouseAct::Move, 6600, 4000);
+  EXPECT_TRUE(Box().mark.Empty());
+}
+
+// The design is a lowpass of 1 MHz: at the frequency shown, the figure shown is that of the sweep.
+TEST_F(PlotReadout, ReadsEveryPlot) {
+  for (int number = 1; number <= 12; ++number) {
+    Press("cmd" + std::to_string(number));
+    Do(MouseAct::Down, 6500, 4000);
+    EXPECT_FALSE(Box().mark.Empty()) << number;
+    Do(MouseAct::Up, 6500, 4000);
+  }
+}
+
+TEST_F(PlotReadout, WithoutAValidSweepThereIsNothingToRead) {
+  session.record.ResponsesValid = 0;
+  Do(MouseAct::Down, 6500, 4000);
+  EXPECT_TRUE(Box().mark.Empty());
 }
 
 TEST_F(PlotPage, ThePlotSurvivesAVisitToAnotherPage) {

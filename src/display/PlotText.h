@@ -1,0 +1,30 @@
+// Texts on the plots: where they stand, and how large.
+#pragma once
+
+#include <string>
+
+#include "shell/Canvas.h"
+
+namespace quilm {
+
+inline constexpr f32 labelSize = 8;  // points
+inline constexpr f32 titleSize = 9;
+inline constexpr f32 labelRise = 100;  // from the top of a label's line to the place that it names
+
+// The rows under the plots.
+inline constexpr f32 footerRow = 7280;
+inline constexpr f32 footerLeft = 1301;
+
+// A text that begins or ends at x, with its top at y.
+void PrintAt(Canvas& canvas, f32 x, f32 y, const std::string& text);
+void PrintEndingAt(Canvas& canvas, f32 x, f32 y, const std::string& text);
+
+// A text on a patch of paper of its own, so that lines below it do not strike it through: with its corner at (x, y), or
+// about a point.
+void PrintOnPatch(Canvas& canvas, f32 x, f32 y, const std::string& text);
+void PrintAbout(Canvas& canvas, Point middle, const std::string& text);
+
+// The invitation to the readout.
+void DrawFooters(Canvas& canvas);
+
+}  // namespace quilm

@@ -1,0 +1,101 @@
+#include "display/modReadout.h"
+
+#include <array>
+#include <cmath>
+#include <string>
+#include <vector>
+
+#include "core/Fault.h"
+#include "core/NumericFault.h"
+#include "core/modGeneral.h"
+#include "display/PlotKinds.h"
+#include "display/PlotText.h"
+#include "display/PlotTrace.h"
+#include "display/modSmith.h"
+
+namespace quilm {
+
+namespace {
+
+constexpr std::size_t columns = 10;
+constexpr f32 ReadoutColumnStep = 1000;  // room for a frequency of six digits
+constexpr f32 headingRow = 7290;
+constexpr f32 ReadoutValueRow = 180;  // below the headings
+constexpr Point stripCorner{800, 7270};
+constexpr f32 stripBottom = 7680;
+constexpr f32 lowestPrinted = -120;  // dB
+constexpr f32 highestRatio = 1000;
+constexpr i16 markWidth = 10;
+constexpr Color markColor = 0xFF44FF;
+
+constexpr std::array<const char*, columns> headings = {
+    "Freq.:", "Trans.:", "Angle:", "Return:", "Delay:", "VSWR:", "Zmag.:", "Zangle:", "Real:", "Imag.:"};
+
+std::string Number(f64 value) { return FormatValue(static_cast<f32>(value)); }
+
+std::array<std::string, columns> ValuesAt(const Responses& r, int i) {
+  return {FormatFrequency(r.RespFreq[i]),
+          r.RespTrans[i] < lowestPrinted ? "<-120" : Number(r.RespTrans[i]),
+          Number(r.RespAngle[i]),
+          r.RespReturn[i] < lowestPrinted ? "< -120" : Number(r.RespReturn[i]),
+          FormatTime(r.RespDelay[i]),
+          r.RespVSWR[i] > highestRatio ? ">1000" : Number(r.RespVSWR[i]),
+          Number(r.RespZin[i]),
+          Number(r.RespZinAngle[i]),
+          Number(ValueOf(r, Quantity::Real, i)),
+          Number(ValueOf(r, Quantity::Imaginary, i))};
+}
+
+template <class Texts>
+void PrintColumns(f32 row, const Texts& texts, Canvas& canvas) {
+  f32 x = footerLeft;
+  for (const auto& text : texts) {
+    PrintAt(canvas, x, row, text);
+    x += ReadoutColumnStep;
+  }
+}
+
+std::vector<Point> MarkedPoints(const DesignRecord& record, const Responses& responses, const SmithView& view, int i) {
+  if (!IsRectangular(record.PlotCode)) return ChartPoints(record, responses, record.PlotCode, view, i);
+  std::vector<Point> points;
+  for (const PlotTrace& trace : KindOf(record, record.PlotCode).traces) {
+    points.push_back(TracePoint(record, responses, trace.quantity, i));
+  }
+  return points;
+}
+
+void DrawMarks(const std::vector<Point>& points, Canvas& canvas) {
+  canvas.DrawMode = PenMode::ExclusiveOr;
+  canvas.DrawWidth = markWidth;
+  for (const Point at : points) canvas.PSet(at.x, at.y, markColor);
+  canvas.DrawMode = PenMode::Copy;
+  canvas.DrawWidth = 1;
+}
+
+}  // namespace
+
+bool InReadoutFrame(f32 x, f32 y) { return x > plotFrame.left && x < plotFrame.Right() && y > plotFrame.top; }
+
+i16 CursorIndex(const DesignRecord& record, f32 x) {
+  const f64 part = (static_cast<f64>(x) - static_cast<f64>(plotFrame.left)) / static_cast<f64>(plotFrame.width);
+  const f64 index = std::floor(part * (static_cast<f64>(record.NrIntervals) + 1));
+  if (!(index >= 0 && index <= responseBound)) throw BoundFault();
+  return static_cast<i16>(index);
+}
+
+void DrawReadout(const DesignRecord& record, const Responses& responses, const SmithView& view, i16 index,
+                 Canvas& canvas) {
+  const f32 right = canvas.ScaleLeft + canvas.ScaleWidth;
+  canvas.Rectangle(stripCorner.x, stripCorner.y, right, stripBottom, colorWhite, true);
+  canvas.ForeColor = colorBlack;
+  canvas.FontSize = labelSize;
+  PrintColumns(headingRow, headings, canvas);
+  PrintColumns(headingRow + ReadoutValueRow, ValuesAt(responses, index), canvas);
+  try {
+    DrawMarks(MarkedPoints(record, responses, view, index), canvas);
+  } catch (const NumericFault&) {
+    // The plot has told of its missing scale already; the values are worth reading all the same.
+  }
+}
+
+}  // namespace quilm
