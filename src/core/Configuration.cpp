@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <string_view>
 
 #include "core/NumberText.h"
 #include "core/NumericFault.h"
@@ -68,11 +69,7 @@ const std::array<Setting, settingCount> settings = {{
 
 const Setting& SettingOf(int line) { return settings[static_cast<std::size_t>(line - 1)]; }
 
-std::string Trimmed(const std::string& line) {
-  const char* blanks = " \t\r";
-  const std::size_t first = line.find_first_not_of(blanks);
-  return first == std::string::npos ? "" : line.substr(first, line.find_last_not_of(blanks) - first + 1);
-}
+constexpr std::string_view blanks = " \t\r";
 
 bool IsComment(const std::string& line) {
   return line.empty() || std::string("!*'/\\").find(line[0]) != std::string::npos;
@@ -91,7 +88,7 @@ void ReadSettings(std::istream& in, Configuration& configuration) {
   int line = 0;
   std::string text;
   while (line < settingCount && std::getline(in, text)) {
-    const std::string setting = Trimmed(text);
+    const std::string setting = Trimmed(text, blanks);
     if (!IsComment(setting)) configuration.ConfigValue[++line] = ValueIn(setting);
   }
 }

@@ -95,8 +95,7 @@ std::size_t EndOfCharacters(std::string_view text, std::size_t count) {
 }
 
 void TrimAndCut(std::string& text) {
-  const std::size_t first = text.find_first_not_of(' ');
-  text = first == std::string::npos ? "" : text.substr(first, text.find_last_not_of(' ') - first + 1);
+  text = Trimmed(text);
   text.resize(EndOfCharacters(text, longestEntry));
 }
 
@@ -223,6 +222,12 @@ std::string PadCell(f32 Value) {
   std::string text = ShortText(Value, LeadingZero::Drop);
   if (text.size() < cellWidth) text.append(cellWidth - text.size(), ' ');
   return text;
+}
+
+std::string Trimmed(std::string_view text, std::string_view blanks) {
+  const std::size_t first = text.find_first_not_of(blanks);
+  if (first == std::string_view::npos) return {};
+  return std::string(text.substr(first, text.find_last_not_of(blanks) - first + 1));
 }
 
 f64 CosH(f32 x) { return 0.5 * (std::exp(static_cast<f64>(x)) + std::exp(-static_cast<f64>(x))); }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "core/Types.h"
 
@@ -25,6 +26,9 @@ std::string FormatValue(f32 Value);  // dB figures, scale limits and any general
 
 // The value as text, filled with blanks to 14 characters.
 std::string PadCell(f32 Value);
+
+// The text without what stands at both its ends of `blanks`.
+std::string Trimmed(std::string_view text, std::string_view blanks = " ");
 
 f64 CosH(f32 x);
 f64 ArcCosh(f32 x);  // x at least 1, else NaN

@@ -67,8 +67,6 @@ bool IsUnnamed(const DesignRecord& record, const std::string& text) {
   return ratio > 10 && IsMultipleOf(number, overOneDecade);
 }
 
-std::string Trimmed(const std::string& text) { return text.substr(0, text.find_last_not_of(' ') + 1); }
-
 }  // namespace
 
 FrequencyGrid MakeFrequencyGrid(const DesignRecord& record) {

@@ -35,8 +35,7 @@ void DrawHorizontalGrid(const DesignRecord& record, Canvas& canvas) {
 
 std::string ScaleLabel(const ValueScale& scale, f64 part) {
   const f64 value = part * (static_cast<f64>(scale.bottom) - static_cast<f64>(scale.top)) + static_cast<f64>(scale.top);
-  const std::string text = FormatTime(static_cast<f32>(value));
-  return text.substr(0, text.find_last_not_of(' ') + 1);
+  return Trimmed(FormatTime(static_cast<f32>(value)));
 }
 
 void DrawScale(const DesignRecord& record, const PlotAxis& axis, bool left, Canvas& canvas) {

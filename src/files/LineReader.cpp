@@ -3,18 +3,14 @@
 #include <algorithm>
 #include <string_view>
 
+#include "core/modGeneral.h"
+
 namespace quilm {
 
 namespace {
 
 constexpr std::size_t longestLine = 65536;
 constexpr std::string_view commentStarts = "!*'/\\";
-
-std::string Trimmed(const std::string& text) {
-  const std::size_t first = text.find_first_not_of(' ');
-  if (first == std::string::npos) return {};
-  return text.substr(first, text.find_last_not_of(' ') - first + 1);
-}
 
 }  // namespace
 
