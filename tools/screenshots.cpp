@@ -52,6 +52,7 @@ class Walk {
     Visit("cmdAnalysis", "analysis");
     Visit("cmdTabulate", "tabulated");
     Visit("cmdDesign", "design-return");
+    Cauer();
     Modal("cmdAbout", "about");
     Modal("cmdExit", "exit");
   }
@@ -90,6 +91,16 @@ class Walk {
     Type("txtBandwidth", "1M");
     Type("txtInputTerm", "50");
     StepUp("UpDown1", 4);
+  }
+
+  // An 8th-order bandpass, which shows every entry of the page.
+  void Cauer() {
+    Press("optCauer");
+    Press("optCauerBandpass");
+    Type("txtCenterFrequency", "10M");
+    Type("txtStopbandDepth", "60");
+    StepUp("UpDown1", 1);
+    Save("design-cauer");
   }
 
   void StepUp(const char* name, int count) {

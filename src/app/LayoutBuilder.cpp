@@ -210,14 +210,19 @@ QLayout* LayoutBuilder::BuildForm(const Layout& node, const Place& place) {
   grid->setContentsMargins(0, 0, 0, 0);
   grid->setHorizontalSpacing(gridUnit);
   grid->setVerticalSpacing(closeUnit);
-  for (std::size_t i = 0; i + 1 < node.items.size(); i += 2) {
-    const int row = static_cast<int>(i) / 2;
-    const Qt::Alignment toBox = Qt::AlignRight | Qt::AlignVCenter;
-    AddCell(*grid, node.items[i], place, row, 0, toBox);
-    AddCell(*grid, node.items[i + 1], place, row, 1, Qt::AlignLeft | Qt::AlignVCenter);
-    if (TakesRoom(node.items[i + 1], false)) grid->setRowStretch(row, 1);
+  const Qt::Alignment toBox = Qt::AlignRight | Qt::AlignVCenter;
+  for (std::size_t i = 0; i < node.items.size(); ++i) {
+    const Layout& item = node.items[i];
+    const int row = static_cast<int>(i) / node.columns;
+    const int column = static_cast<int>(i) % node.columns;
+    if (item.across) {
+      grid->addWidget(BuildWidget(item, place), row, 0, 1, node.columns, toBox);
+    } else {
+      AddCell(*grid, item, place, row, column, column == 0 ? toBox : Qt::AlignLeft | Qt::AlignVCenter);
+    }
+    if (column > 0 && TakesRoom(item, false)) grid->setRowStretch(row, 1);
   }
-  grid->setColumnStretch(1, 1);
+  for (int column = 1; column < node.columns; ++column) grid->setColumnStretch(column, 1);
   KeepRowsTogether(*grid, node);
   return grid;
 }

@@ -19,7 +19,7 @@ struct Layout {
     Row,      // items side by side
     Column,   // items one below the other
     Grid,     // items in rows of `columns`, all cells of one width
-    Form,     // items in pairs: label, right-aligned, and field (with units and readouts after it)
+    Form,     // rows of `columns` items: label, right-aligned, and fields (with units and readouts after them)
     Group,    // one item under a quiet heading: `title`, or the caption of the frame `control`
     Space,    // takes spare room
   };
@@ -31,6 +31,7 @@ struct Layout {
   std::vector<Layout> items;
   bool fills = false;       // takes all spare room in both directions
   bool keepsPlace = false;  // holds its room while hidden, so that nothing jumps
+  bool across = false;      // in a form: over all its columns
 };
 
 inline Layout Put(Control& control) {
@@ -58,6 +59,7 @@ struct FormRow {
   Layout field;
 };
 
+// Label and field in each row.
 inline Layout Form(std::vector<FormRow> rows) {
   std::vector<Layout> items;
   for (FormRow& row : rows) {
@@ -65,6 +67,12 @@ inline Layout Form(std::vector<FormRow> rows) {
     items.push_back(std::move(row.field));
   }
   return Of(Layout::Kind::Form, std::move(items), 2);
+}
+
+// A row of a form that has no label and is too wide for the field's column: it ends at the right of the form.
+inline FormRow Across(Layout field) {
+  field.across = true;
+  return {Space(), std::move(field)};
 }
 
 inline Layout Group(std::string title, Layout content) {

@@ -40,7 +40,6 @@ class frmDesign : public Page {
 
   Layout FamilyColumn();
   Layout TopologyCards();
-  Layout TopologyRow(std::initializer_list<int> numbers);
   Layout EntryColumn();
   Layout Entries();
   Layout Tools();

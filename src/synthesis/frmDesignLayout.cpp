@@ -1,5 +1,7 @@
 // Where the controls of the Design page stand: families at the left, topologies as cards in the middle, the entries as
 // one form at the right, the tools below. What comes and goes with family and topology keeps its place.
+#include <map>
+
 #include "synthesis/frmDesign.h"
 
 namespace quilm {
@@ -20,19 +22,20 @@ Layout frmDesign::FamilyColumn() {
 }
 
 Layout frmDesign::TopologyCards() {
-  return Group("Topology", Form({{Put(lblLowpass_), TopologyRow({1, 2})},
-                                 {Put(lblBandpass_), TopologyRow({3, 4, 5, 6, 7, 8})},
-                                 {Put(lblHighpass_), TopologyRow({9, 10})},
-                                 {Put(lblBandstop_), TopologyRow({11, 12})}}));
-}
-
-Layout frmDesign::TopologyRow(std::initializer_list<int> numbers) {
-  constexpr int cardsInRow = 2;
-  std::vector<Layout> cards;
-  for (const int number : numbers) {
-    cards.push_back(Column({Put(controls_.topologies.Option(number)), Put(controls_.thumbnails.Thumbnail(number))}));
+  const auto card = [this](int number) {
+    return Column({Put(controls_.topologies.Option(number)), Put(controls_.thumbnails.Thumbnail(number))});
+  };
+  // Two cards in a row; what is between two kinds belongs to the one above.
+  const std::map<int, Label*> kinds = {{1, &lblLowpass_}, {3, &lblBandpass_}, {9, &lblHighpass_}, {11, &lblBandstop_}};
+  constexpr int cards = 12;
+  std::vector<Layout> items;
+  for (int number = 1; number < cards; number += 2) {
+    const auto kind = kinds.find(number);
+    items.push_back(kind == kinds.end() ? Space() : Put(*kind->second));
+    items.push_back(card(number));
+    items.push_back(card(number + 1));
   }
-  return Grid(cardsInRow, std::move(cards));
+  return Group("Topology", Of(Layout::Kind::Form, std::move(items), 3));
 }
 
 Layout frmDesign::EntryColumn() {
@@ -44,18 +47,14 @@ Layout frmDesign::EntryColumn() {
 // The readout of the ripple is wider than a box and has a line for itself.
 Layout frmDesign::Entries() {
   DesignControls& c = controls_;
-  return Column({Form({
-                     {Put(c.lblOrder), Row({Put(c.lblOrderInput), Put(c.UpDown1)})},
-                     {Put(c.lblBandwidth), Row({Put(c.txtBandwidth), Put(c.lblRipple)})},
-                     {KeepPlace(Put(c.lblCenterFrequency)), KeepPlace(Put(c.txtCenterFrequency))},
-                     {Put(c.lblInputTerm), Put(c.txtInputTerm)},
-                     {KeepPlace(Put(c.lblPassbandRipple)), KeepPlace(Put(c.txtPassbandRipple))},
-                 }),
-                 Row({Space(), KeepPlace(Put(c.lblVSWR))}),
-                 Form({
-                     {KeepPlace(Put(c.lblStopbandFreq)), KeepPlace(Put(c.txtStopbandFreq))},
-                     {KeepPlace(Put(c.lblStopbandDepth)), KeepPlace(Put(c.txtStopbandDepth))},
-                 })});
+  return Form({{Put(c.lblOrder), Row({Put(c.lblOrderInput), Put(c.UpDown1)})},
+               {Put(c.lblBandwidth), Row({Put(c.txtBandwidth), Put(c.lblRipple)})},
+               {KeepPlace(Put(c.lblCenterFrequency)), KeepPlace(Put(c.txtCenterFrequency))},
+               {Put(c.lblInputTerm), Put(c.txtInputTerm)},
+               {KeepPlace(Put(c.lblPassbandRipple)), KeepPlace(Put(c.txtPassbandRipple))},
+               Across(KeepPlace(Put(c.lblVSWR))),
+               {KeepPlace(Put(c.lblStopbandFreq)), KeepPlace(Put(c.txtStopbandFreq))},
+               {KeepPlace(Put(c.lblStopbandDepth)), KeepPlace(Put(c.txtStopbandDepth))}});
 }
 
 Layout frmDesign::Tools() {
