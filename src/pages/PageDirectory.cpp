@@ -13,6 +13,10 @@
 #include "synthesis/EntryForms.h"
 #include "synthesis/frmBailout.h"
 #include "synthesis/frmDesign.h"
+#include "synthesis/frmEndSections.h"
+#include "synthesis/frmMderived.h"
+#include "synthesis/frmSeeNormalized.h"
+#include "synthesis/frmSinglyTermCheby.h"
 
 namespace quilm {
 
@@ -39,6 +43,10 @@ PageDirectory AllPages() {
       {PageId::About, Make<frmAbout>},
       {PageId::Help, Make<frmHelp>},
       {PageId::Bailout, Make<frmBailout>},
+      {PageId::Mderived, Make<frmMderived>},
+      {PageId::SinglyTermCheby, Make<frmSinglyTermCheby>},
+      {PageId::EndSections, Make<frmEndSections>},
+      {PageId::SeeNormalized, Make<frmSeeNormalized>},
       {PageId::EnterWidth, Make<frmEnterWidth>},
       {PageId::EnterCenterFreq, Make<frmEnterCenterFreq>},
       {PageId::EnterInput, Make<frmEnterInput>},

@@ -47,6 +47,13 @@ DesignTools::DesignTools(Page& page) {
   }
 }
 
+void DesignTools::Offer(int number, std::function<void()> onClick) {
+  Button& button = Tool(number);
+  button.enabled = true;
+  button.toolTip = tools[number - 1].purpose;
+  button.onClick = std::move(onClick);
+}
+
 void DesignTools::Show(const DesignView& view) {
   Tool(nortonTool).visible = view.norton;
   Tool(teeToPiTool).visible = view.teeToPi;

@@ -1,6 +1,7 @@
 // The tools of the Design page: Command1 to Command14.
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -10,9 +11,15 @@ namespace quilm {
 
 struct DesignView;
 
+inline constexpr int singlyTerminatedTool = 4;
+inline constexpr int endSectionsTool = 11;
+
 class DesignTools {
  public:
   explicit DesignTools(Page& page);
+
+  // Makes tool `number` (1..14) usable; the others say that they are not in this version yet.
+  void Offer(int number, std::function<void()> onClick);
 
   // Shows the tools that some topologies offer only. They stand last, so that their place is no hole.
   void Show(const DesignView& view);

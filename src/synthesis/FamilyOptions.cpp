@@ -27,7 +27,7 @@ void FamilyOptions::Choose(i16 family) {
 }
 
 void FamilyOptions::Enable(bool enabled) {
-  for (std::size_t i = 0; i < options_.size(); ++i) options_[i]->enabled = enabled && FamilyRules()[i].available;
+  for (const auto& option : options_) option->enabled = enabled;
 }
 
 void FamilyOptions::OnChoice(std::function<void(i16 family)> act) {

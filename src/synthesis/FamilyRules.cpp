@@ -11,21 +11,20 @@ constexpr std::string_view allPole = "ABCDEFGIJKL";
 constexpr std::string_view withZeros = "ABHIJ";
 
 constexpr FamilyRule rules[] = {
-    {familyButterworth, "optButterworth", "Maximally flat passband", RippleEntry::None, false, false, allPole, true},
-    {familyChebyshev, "optChebycheff", "Equal ripple in the passband", RippleEntry::Always, false, false, allPole,
-     true},
+    {familyButterworth, "optButterworth", "Maximally flat passband", RippleEntry::None, false, false, allPole},
+    {familyChebyshev, "optChebycheff", "Equal ripple in the passband", RippleEntry::Always, false, false, allPole},
     {familyCauer, "optCauer", "Steepest descent, with a finite stopband depth", RippleEntry::EvenOrder, true, true,
-     withZeros, true},
-    {familyBessel, "optBessel", "Constant delay in the passband", RippleEntry::None, false, false, allPole, true},
-    {familyGaussian, "optGaussian", "No overshoot on a pulse", RippleEntry::None, false, false, allPole, true},
+     withZeros},
+    {familyBessel, "optBessel", "Constant delay in the passband", RippleEntry::None, false, false, allPole},
+    {familyGaussian, "optGaussian", "No overshoot on a pulse", RippleEntry::None, false, false, allPole},
     {familyGaussian12, "optGaussian12", "Gaussian down to 12 dB, then steeper", RippleEntry::None, false, false,
-     allPole, true},
+     allPole},
     {familyConstantK, "optConstantK", "Specify the Constant-K family - repetitive component values", RippleEntry::None,
-     false, false, allPole, true},
-    {familyMderived, "optMderived", "The M-derived family cannot be designed yet", RippleEntry::None, true, false,
-     withZeros, false},
+     false, false, allPole},
+    {familyMderived, "optMderived", "Image-parameter sections with zeros of your choice", RippleEntry::None, true,
+     false, withZeros},
     {familyManual, "optManual", "Keep the present parts as a network entered by hand", RippleEntry::None, false, false,
-     "", true},
+     ""},
 };
 
 bool IsOneOf(std::string_view letter, std::string_view letters) {

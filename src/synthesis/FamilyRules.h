@@ -20,7 +20,6 @@ struct FamilyRule {
   bool cauer;                   // a prototype with transmission zeros: CauerFlag 1
   bool stopband;                // stopband width and depth are entries
   std::string_view topologies;  // the letters on offer
-  bool available;               // its prototype can be computed
 };
 
 // In the order of the page.

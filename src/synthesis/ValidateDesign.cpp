@@ -6,6 +6,7 @@
 #include "shell/Session.h"
 #include "synthesis/DesignControls.h"
 #include "synthesis/FamilyRules.h"
+#include "synthesis/modCheckEntries.h"
 
 namespace quilm {
 
@@ -163,7 +164,7 @@ void Validation::RequireCenter() {
 void Validation::RequireInput() {
   const EntryField input = controls_.Input();
   input.Parse();
-  if (record_.Rsource[1] > leastEntry) return;
+  if (HasInputTermination(record_)) return;
   Ask("The filter needs an input termination.\r\n"
       "To avoid a program crash, please enter an input termination value.",
       PageId::EnterInput, input);

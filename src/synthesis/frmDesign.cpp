@@ -8,6 +8,7 @@
 #include "pages/Leaving.h"
 #include "schematic/Icons.h"
 #include "shell/Session.h"
+#include "synthesis/EndSections.h"
 #include "synthesis/FamilyRules.h"
 #include "synthesis/ValidateDesign.h"
 #include "synthesis/modCheckEntries.h"
@@ -71,9 +72,12 @@ void frmDesign::ConnectButtons() {
   for (int number = 1; number <= topologyCount; ++number) {
     controls_.thumbnails.Thumbnail(number).onClick = [this, number] { ShowTopologyHelp(number); };
   }
-  cmdSeeNorms_.onClick = [this] {
-    if (MakeNetwork()) GoTo(PageId::SeeNormalized);
-  };
+  cmdSeeNorms_.onClick = [this] { SeeNormalized(); };
+  controls_.tools.Offer(singlyTerminatedTool, [this] {
+    session_.pages.ShowModal(PageId::SinglyTermCheby);
+    Load();
+  });
+  controls_.tools.Offer(endSectionsTool, [this] { AddEnds(); });
   cmdManual_.onClick = [this] { GoTo(PageId::ManualEntry); };
   cmdTitle_.onClick = [this] { session_.pages.ShowModal(PageId::ChangeTitle); };
   cmdInfo_.onClick = [this] { session_.pages.ShowModal(PageId::AddInfo); };
@@ -187,6 +191,28 @@ void frmDesign::EnterDepth() {
 void frmDesign::ShowTopologyHelp(int number) {
   session_.record.TopologyHelpCode = static_cast<i16>(number);
   if (session_.pages.Has(PageId::Help)) session_.pages.ShowModal(PageId::Help);
+}
+
+void frmDesign::SeeNormalized() {
+  if (!MakeNetwork()) return;
+  if (NetworkStands(session_.record)) {
+    session_.platform.MessageBox(
+        "The parts were entered or changed by hand.\r\nThere are no normalized values that belong to them.",
+        Buttons::Ok, Icon::Information, "");
+    return;
+  }
+  session_.pages.ShowModal(PageId::SeeNormalized);
+}
+
+void frmDesign::AddEnds() {
+  if (!MakeNetwork()) return;
+  const std::string obstacle = EndSectionObstacle(session_.record);
+  if (!obstacle.empty()) {
+    session_.platform.MessageBox(obstacle, Buttons::Ok, Icon::Exclamation, "Error checker");
+    return;
+  }
+  session_.pages.ShowModal(PageId::EndSections);
+  Load();
 }
 
 bool frmDesign::MakeNetwork() {

@@ -33,6 +33,8 @@ class frmDesign : public Page {
   void EnterDepth();
   void ShowTopologyHelp(int number);
   void ShowSettings();
+  void SeeNormalized();
+  void AddEnds();
 
   // What every way to a result does first; false keeps the page, after the user was told why.
   bool MakeNetwork();

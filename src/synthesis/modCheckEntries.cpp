@@ -115,7 +115,7 @@ void RequireWidth(Check& check) {
 }
 
 void RequireSource(Check& check) {
-  if (check.record.Rsource[1] > 0.01F) return;
+  if (HasInputTermination(check.record)) return;
   check.Fail("Error checker 179", "Please enter an input termination greater than .01 ohms", "txtInputTerm");
 }
 
@@ -221,6 +221,11 @@ void ShowEntry(Session& session, const EntryBox& box) {
 }
 
 }  // namespace
+
+bool HasInputTermination(const DesignRecord& record) {
+  constexpr f32 least = 0.01F;  // ohms
+  return record.Rsource[1] > least || (IsEdited(record) && record.Rsource[1] == least);
+}
 
 EntryReport ExamineEntries(DesignRecord& record) {
   Check check{record, {}};

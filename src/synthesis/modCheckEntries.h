@@ -11,6 +11,10 @@ namespace quilm {
 
 class Session;
 
+// Whether the source can drive a network: its resistance is above 0.01 ohm. A network made by hand may have 0.01
+// itself, from which a singly terminated design is driven.
+bool HasInputTermination(const DesignRecord& record);
+
 // A message of the check. With a control to put the focus on, the check has failed; without, it repaired the entry and
 // went on.
 struct EntryFinding {

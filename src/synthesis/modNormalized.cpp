@@ -7,6 +7,7 @@
 #include "shell/Session.h"
 #include "synthesis/PrototypeTables.h"
 #include "synthesis/modCauer.h"
+#include "synthesis/modMderived.h"
 
 namespace quilm {
 
@@ -86,6 +87,8 @@ Messages RunFamily(DesignRecord& record, i16 family) {
       return ComputeGaussian(record);
     case familyConstantK:
       return Quietly(ComputeConstantK, record);
+    case familyMderived:
+      return Quietly(ComputeMderived, record);
     case familyGaussian12:
       return ComputeGaussian12(record);
     default:
@@ -189,8 +192,14 @@ void ComputeNormalized(Session& session) {
   Show(session, HoldOrder(record));
   if (NetworkStands(record)) return;
   if (session.familyOption == familyMderived) {
-    // The user gives the zeros on a page of their own, which fills the prototype when it is accepted.
-    if (session.pages.Has(PageId::Mderived)) session.pages.ShowModal(PageId::Mderived);
+    // The user gives the zeros on a page of their own. Left unaccepted, the prototype is that of the former zeros: the
+    // bandwidth may be another one by now, and a prototype of another family must not stay.
+    session.pages.ShowModal(PageId::Mderived);
+    if (HasMderivedZeros(record)) {
+      ComputePrototype(record, familyMderived);
+    } else {
+      ClearPrototype(record);
+    }
     return;
   }
   if (session.familyOption == familyCauer) {

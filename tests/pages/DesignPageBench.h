@@ -29,7 +29,7 @@ inline PageDirectory DesignDirectory() {
       {PageId::EnterTopology, MakePage<frmEnterTopology>},
   };
   for (const PageId id : {PageId::Plotted, PageId::Help, PageId::ChangeTitle, PageId::AddInfo, PageId::WriteFiles,
-                          PageId::SeeNormalized, PageId::ManualEntry}) {
+                          PageId::SeeNormalized, PageId::ManualEntry, PageId::Mderived}) {
     pages[id] = [id](Session& session) -> std::unique_ptr<Page> { return std::make_unique<PlainPage>(session, id); };
   }
   return pages;

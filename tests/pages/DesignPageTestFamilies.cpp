@@ -72,13 +72,6 @@ TEST_F(DesignFamilies, OddCauerOrdersHaveTheRippleAsAResult) {
   EXPECT_TRUE(Shown("txtStopbandDepth"));
 }
 
-TEST_F(DesignFamilies, MderivedSaysThatItCannotBeDesignedYet) {
-  OpenLowpass();
-  EXPECT_THROW(Press("optMderived"), ActRefused);
-  EXPECT_THAT(Get<Control>("optMderived").toolTip, testing::HasSubstr("cannot be designed yet"));
-  EXPECT_TRUE(Get<Control>("optConstantK").Usable());
-}
-
 TEST_F(DesignFamilies, AllTopologiesAreOpenAsLongAsNoFamilyIsChosen) {
   Open();
   for (const char* name : topologyOptions) EXPECT_TRUE(Get<Control>(name).Usable()) << name;

@@ -1,10 +1,11 @@
 // Synthesis proved by analysis: the ladder of every family, topology and order meets the response that theory gives its
-// prototype. The ladder is evaluated here, lossless and in 64 bits, independent of the program's own analysis.
+// prototype. The ladder is evaluated without losses, independent of the program's own analysis.
 
 #include <cmath>
 #include <complex>
 
 #include "gtest/gtest.h"
+#include "support/LosslessLadder.h"
 #include "synthesis/modComputeReals.h"
 #include "synthesis/modNormalized.h"
 
@@ -13,54 +14,8 @@ namespace {
 
 using Complex = std::complex<f64>;
 
-struct Chain {
-  Complex a = 1, b = 0, c = 0, d = 1;
-};
-
-void Series(Chain& chain, Complex z) {
-  chain.b += chain.a * z;
-  chain.d += chain.c * z;
-}
-
-void Shunt(Chain& chain, Complex y) {
-  chain.a += chain.b * y;
-  chain.c += chain.d * y;
-}
-
-// The element types that synthesis makes; anything else fails the test.
-void Append(Chain& chain, const Stage& stage, f64 omega) {
-  const Complex zl(0, omega * stage.Lval.value);
-  const Complex yc(0, omega * stage.Cval.value);
-  switch (stage.ElementType) {
-    case SeriesL:
-      return Series(chain, zl);
-    case ShuntL:
-      return Shunt(chain, 1.0 / zl);
-    case SeriesC:
-      return Series(chain, 1.0 / yc);
-    case ShuntC:
-      return Shunt(chain, yc);
-    case SeriesSLC:
-      return Series(chain, zl + 1.0 / yc);
-    case ShuntSLC:
-      return Shunt(chain, 1.0 / (zl + 1.0 / yc));
-    case SeriesPLC:
-      return Series(chain, 1.0 / (yc + 1.0 / zl));
-    case ShuntPLC:
-      return Shunt(chain, yc + 1.0 / zl);
-    default:
-      ADD_FAILURE() << "type " << stage.ElementType << " in a synthesised ladder";
-  }
-}
-
-// Available power over the power in the load, dB.
 f64 Loss(const DesignRecord& record, f64 frequency) {
-  Chain chain;
-  for (int s = 1; s <= record.Stages; ++s) Append(chain, record.stage[s], 2 * Pi * frequency);
-  const f64 rs = record.Rsource[1];
-  const f64 rl = record.Rload[1];
-  const Complex sum = chain.a * rl + chain.b + chain.c * rs * rl + chain.d * rs;
-  const f64 loss = 10 * std::log10(std::norm(sum) / (4 * rs * rl));
+  const f64 loss = LosslessLoss(record, frequency);
   EXPECT_TRUE(std::isfinite(loss)) << record.Topology << " at " << frequency << " Hz";
   return loss;
 }

@@ -1,0 +1,42 @@
+// The singly terminated Chebyshev design.
+#pragma once
+
+#include "shell/Page.h"
+#include "synthesis/SinglyTerminated.h"
+
+namespace quilm {
+
+class frmSinglyTermCheby : public Page {
+ public:
+  explicit frmSinglyTermCheby(Session& session);
+  void Load() override;
+  Layout MakeLayout() override;
+
+ private:
+  struct Check;
+
+  void ChooseTopology(const char* letter);
+  bool EntriesAreUsable();
+  void Accept();
+
+  SinglyTerminatedEntries entries_;
+  OptionGroup topologies_;
+  OptionButton Option1_{*this, topologies_, "Option1", "Inductor-input lowpass"};
+  OptionButton Option2_{*this, topologies_, "Option2", "Series-input bandpass"};
+  OptionButton Option3_{*this, topologies_, "Option3", "Capacitor-input highpass"};
+  Label lblOrder_{*this, "lblOrder", "Order (N)"};
+  TextBox txtOrder_{*this, "txtOrder", "Order", "2 to 21"};
+  Label lblRipple_{*this, "lblRipple", "Passband ripple (dB)"};
+  TextBox txtRipple_{*this, "txtRipple", "Passband ripple, dB"};
+  Label lblBandwidth_{*this, "lblBandwidth", "Bandwidth (Hz)"};
+  TextBox txtBandwidth_{*this, "txtBandwidth", "Bandwidth, Hz"};
+  Label lblCenterFrequency_{*this, "lblCenterFrequency", "Center frequency (Hz)"};
+  TextBox txtCenterFrequency_{*this, "txtCenterFrequency", "Center frequency, Hz"};
+  Label lblOutputTermination_{*this, "lblOutputTermination", "Output termination (ohms)"};
+  TextBox txtOutputTermination_{*this, "txtOutputTermination", "Output termination, ohms"};
+  Label lblNote_{*this, "lblNote", "The source has .01 ohm. A relative display shows the passband at 0 dB."};
+  Button cmdExit_{*this, "cmdExit", "Accept and return to Design page", "Make the network of these entries"};
+  Button cmdIgnore_{*this, "cmdIgnore", "Ignore", "Leave the design as it was"};
+};
+
+}  // namespace quilm
