@@ -197,7 +197,7 @@ void AnalyzeSweep(Session& session) {
                                   "\r\nCheck analysis starting and stopping frequencies\r\n"
                                   "and check the network component values.",
                               Buttons::Ok, Icon::Critical, "Error checker");
-  if (session.pages.Has(PageId::Schematic)) session.pages.ShowPage(PageId::Schematic);
+  session.pages.ShowPage(PageId::Schematic);
 }
 
 }  // namespace quilm

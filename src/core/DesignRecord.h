@@ -190,6 +190,9 @@ struct DesignRecord {
 // 4 arctan(1), computed and never typed in.
 extern const f64 Pi;
 
+// "Butterworth", ..., "Manual entry"; empty for a code that is no family.
+std::string FamilyName(i16 family);
+
 // The topologies without a centre frequency: lowpass and highpass.
 inline bool IsLowOrHighpass(const std::string& topology) {
   return topology == "A" || topology == "B" || topology == "I" || topology == "J";

@@ -26,13 +26,14 @@ void TellFailure(Session& session, const ReadOutcome& outcome) {
 void TakeOldLayout(Session& session, FileLayout layout) {
   session.record.DesignChanged = 1;
   if (layout == FileLayout::WithoutZeros) session.record.MarkersShown = 0;
-  if (session.pages.Has(PageId::Schematic)) session.pages.ShowPage(PageId::Schematic);
+  session.record.ResponsesValid = 0;
+  session.pages.ShowPage(PageId::Schematic);
 }
 
 }  // namespace
 
-void modReadQuilmFiles(Session& session, std::string& path) {
-  if (path.empty()) return;
+Got modReadQuilmFiles(Session& session, std::string& path) {
+  if (path.empty()) return Got::Nothing;
   ClearCircuit(session.record, session.responses);
   UnloadDesignPages(session);
   std::ifstream in(path, std::ios::binary);
@@ -41,9 +42,11 @@ void modReadQuilmFiles(Session& session, std::string& path) {
   if (outcome.failed) {
     TellFailure(session, outcome);
     path.clear();
-  } else if (outcome.layout != FileLayout::Current) {
-    TakeOldLayout(session, outcome.layout);
+    return Got::Failure;
   }
+  if (outcome.layout == FileLayout::Current) return Got::Design;
+  TakeOldLayout(session, outcome.layout);
+  return Got::OlderDesign;
 }
 
 Got GetDesign(Session& session, const std::string& title) {
@@ -54,19 +57,24 @@ Got GetDesign(Session& session, const std::string& title) {
     return Got::Nothing;
   }
   std::string path = *chosen;
-  modReadQuilmFiles(session, path);
-  if (path.empty()) return Got::Failure;
+  const Got got = modReadQuilmFiles(session, path);
+  if (got == Got::Failure) return got;
   session.record.DesignFileName = path;
   session.note = "Read " + path;
-  return Got::Design;
+  return got;
 }
 
 void GetDesignFor(Session& session, PageId page) {
   const Got got = GetDesign(session, "Read Quilm File");
   if (got == Got::Nothing) return;
-  session.pages.ShowPage(got == Got::Design ? page : PageId::Design);
+  if (got == Got::Design) {
+    session.pages.ShowPage(page);
+    return;
+  }
+  const PageId instead = got == Got::Failure ? PageId::Design : PageId::Schematic;
+  if (got == Got::Failure) session.pages.ShowPage(instead);
   // The reader takes the pages of the old design away, but for those that it does not know of.
-  if (got == Got::Failure && page != PageId::Design) session.pages.UnloadPage(page);
+  if (page != instead) session.pages.UnloadPage(page);
 }
 
 }  // namespace quilm

@@ -11,24 +11,26 @@ class Session;
 
 inline constexpr const char* quilmFileFilter = "Quilm files (*.QLM)|*.QLM";
 
+enum class Got {
+  Nothing,  // no path, the dialog was cancelled, or the file cannot be opened, of which the user was told: nothing has
+            // changed
+  Design,
+  OlderDesign,  // a file of an older layout: the Schematic page shows what came of it
+  Failure,      // the file could not be read to its end: there is no network
+};
+
 // Replaces the design by the one in the file; an empty path changes nothing. The pages that show the design are
-// unloaded, so that they are rebuilt when they are next shown. A file of an older layout leads to the Schematic page
-// and marks the design as changed.
+// unloaded, so that they are rebuilt when they are next shown. A file of an older layout marks the design as changed.
 //
 // A failure is told in a message and leaves the path empty and the session without a network; what was read so far
 // stays. Reading clears first, so callers make sure beforehand that the file can be opened.
-void modReadQuilmFiles(Session& session, std::string& path);
-
-enum class Got {
-  Nothing,  // the dialog was cancelled, or the file cannot be opened, of which the user was told: nothing has changed
-  Design,
-  Failure,  // the file could not be read to its end: there is no network
-};
+Got modReadQuilmFiles(Session& session, std::string& path);
 
 // Asks for a file and reads it.
 Got GetDesign(Session& session, const std::string& title);
 
-// The same for a main page, which is then loaded afresh; after a failure the Design page takes its place.
+// The same for a main page, which is then loaded afresh. After a failure the Design page takes its place, and the
+// Schematic page for an older design.
 void GetDesignFor(Session& session, PageId page);
 
 }  // namespace quilm

@@ -10,6 +10,8 @@
 #include "pages/frmExit.h"
 #include "pages/frmHelp.h"
 #include "pages/frmOpening.h"
+#include "schematic/frmSchematic.h"
+#include "schematic/frmSchematicSimple.h"
 #include "synthesis/EntryForms.h"
 #include "synthesis/frmBailout.h"
 #include "synthesis/frmDesign.h"
@@ -33,6 +35,8 @@ PageDirectory AllPages() {
   return {
       {PageId::Opening, Make<frmOpening>},
       {PageId::Design, Make<frmDesign>},
+      {PageId::Schematic, Make<frmSchematic>},
+      {PageId::SchematicSimple, Make<frmSchematicSimple>},
       {PageId::Analyze, Make<frmAnalyze>},
       {PageId::Plotted, Make<frmPlotted>},
       {PageId::Tabulated, Make<frmTabulated>},

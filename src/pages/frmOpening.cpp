@@ -18,9 +18,7 @@ frmOpening::frmOpening(Session& session) : Page(session, PageId::Opening, "Quilm
   cmdGoTo.onClick = [this] { session_.platform.ShellOpen(session_.platform.HelpFolder() + "/updates.htm"); };
   cmdExitOpening.onClick = [this] { Leave(); };
   cmdLastSession.onClick = [this] { ContinueLastSession(); };
-  cmdRetrieveOld.onClick = [this] {
-    if (GetDesign(session_, "Get Quilm File") == Got::Design) GoTo(PageId::Design);
-  };
+  cmdRetrieveOld.onClick = [this] { GoOn(GetDesign(session_, "Get Quilm File")); };
   acceptButton = &cmdDesignNew;
 }
 
@@ -42,10 +40,16 @@ void frmOpening::Leave() {
 
 void frmOpening::ContinueLastSession() {
   std::string path = InProgramFolder(session_, lastSessionFile);
-  modReadQuilmFiles(session_, path);
-  if (path.empty()) return;
+  const Got got = modReadQuilmFiles(session_, path);
+  if (got == Got::Failure) return;
   session_.record.DesignFileName = path;
-  GoTo(PageId::Design);
+  GoOn(got);
+}
+
+// An older design has brought up a page of its own.
+void frmOpening::GoOn(Got got) {
+  if (got == Got::Design) GoTo(PageId::Design);
+  if (got == Got::OlderDesign) session_.pages.UnloadPage(Id());
 }
 
 void frmOpening::GoTo(PageId target) {

@@ -1,6 +1,7 @@
 // The opening page: a new design, the last one, an older one, or a network entered by hand.
 #pragma once
 
+#include "files/modReadQuilmFiles.h"
 #include "shell/Page.h"
 
 namespace quilm {
@@ -26,6 +27,7 @@ class frmOpening : public Page {
  private:
   void Leave();
   void ContinueLastSession();
+  void GoOn(Got got);
   void GoTo(PageId target);
 };
 

@@ -37,35 +37,26 @@ StageWidths WidthsOf(i16 elementType) {
 
 class StageDrawing {
  public:
-  StageDrawing(Canvas& canvas, const StageBox& box, Color color) : canvas_(canvas), box_(box), color_(color) {}
+  StageDrawing(Canvas& canvas, const StageBox& box, Color color, RailForm form)
+      : canvas_(canvas), box_(box), color_(color), balanced_(form == RailForm::Balanced) {}
 
   // Parts one behind the other in the line.
   void InLine(Parts parts) const {
     DrawChain(Rail(0), parts, 0, box_.width);
-    LowerRail();
+    balanced_ ? DrawChain(Rail(box_.gap), parts, 0, box_.width) : LowerRail();
   }
 
-  // Branches one below the other in the line, the first on the rail.
+  // Branches side by side in the line, the first on the rail and the others between the rails.
   void InLineParallel(std::initializer_list<Parts> branches) const {
-    constexpr f32 halfFrame = 320;
-    constexpr f32 firstDrop = 210;
-    constexpr f32 nextDrop = 230;
     constexpr f32 mostSpread = 1.25F;
-    const f32 spread = std::fmin(box_.gap / narrowRailGap, mostSpread);
-    const f32 left = box_.width / 2 - halfFrame;
-    const f32 right = box_.width / 2 + halfFrame;
-    f32 drop = 0;
-    f32 last = 0;
-    for (const Parts branch : branches) {
-      DrawChain(Rail(drop), branch, left, right);
-      last = drop;
-      drop += (drop == 0 ? firstDrop : nextDrop) * spread;
+    constexpr f32 sharedSpread = 0.95F;  // both rails' branches share the room between them
+    if (balanced_) {
+      HangBranches(branches, 0, sharedSpread);
+      HangBranches(branches, box_.gap, -sharedSpread);
+    } else {
+      HangBranches(branches, 0, std::fmin(box_.gap / narrowRailGap, mostSpread));
+      LowerRail();
     }
-    const Run rail = Rail(0);
-    rail.Lead(0, left);
-    rail.Lead(right, box_.width);
-    for (const f32 side : {left, right}) rail.Stroke(side, 0, side, -last);
-    LowerRail();
   }
 
   // Parts one below the other from the line to common.
@@ -91,13 +82,8 @@ class StageDrawing {
   }
 
   void LineInLine() const {
-    constexpr f32 half = 300;
-    const f32 left = box_.width / 2 - half;
-    const f32 right = box_.width / 2 + half;
-    Rail(0).Lead(0, left);
-    DrawLine(canvas_, box_.x + left, box_.x + right, box_.y, color_);
-    Rail(0).Lead(right + lineBulge, box_.width);
-    LowerRail();
+    LineOn(0);
+    balanced_ ? LineOn(box_.gap) : LowerRail();
   }
 
   // The line is broken; the stub lies between the rails and has one conductor at each side of the break.
@@ -154,6 +140,35 @@ class StageDrawing {
   void UpperRail() const { Rail(0).Lead(0, box_.width); }
   void LowerRail() const { Rail(box_.gap).Lead(0, box_.width); }
 
+  // Below the rail for a positive spread, above it for a negative one.
+  void HangBranches(std::initializer_list<Parts> branches, f32 rail, f32 spread) const {
+    constexpr f32 halfFrame = 320;
+    constexpr f32 firstDrop = 210;
+    constexpr f32 nextDrop = 230;
+    const f32 left = box_.width / 2 - halfFrame;
+    const f32 right = box_.width / 2 + halfFrame;
+    f32 drop = 0;
+    f32 last = 0;
+    for (const Parts branch : branches) {
+      DrawChain(Rail(rail + drop), branch, left, right);
+      last = drop;
+      drop += (drop == 0 ? firstDrop : nextDrop) * spread;
+    }
+    const Run line = Rail(rail);
+    line.Lead(0, left);
+    line.Lead(right, box_.width);
+    for (const f32 side : {left, right}) line.Stroke(side, 0, side, -last);
+  }
+
+  void LineOn(f32 rail) const {
+    constexpr f32 half = 300;
+    const f32 left = box_.width / 2 - half;
+    const f32 right = box_.width / 2 + half;
+    Rail(rail).Lead(0, left);
+    DrawLine(canvas_, box_.x + left, box_.x + right, box_.y + rail, color_);
+    Rail(rail).Lead(right + lineBulge, box_.width);
+  }
+
   // The conductors go on a little beyond the sheath, so that a short or an open end shows.
   void DrawStub(const Stub& stub, bool shorted) const {
     constexpr f32 beyond = 170;
@@ -181,6 +196,7 @@ class StageDrawing {
   Canvas& canvas_;
   StageBox box_;
   Color color_;
+  bool balanced_;
 };
 
 }  // namespace
@@ -189,8 +205,8 @@ f32 StageWidth(i16 elementType) { return WidthsOf(elementType).schematic; }
 
 f32 SymbolWidth(i16 elementType) { return WidthsOf(elementType).symbol; }
 
-void DrawStage(Canvas& canvas, i16 elementType, const StageBox& box, Color color) {
-  const StageDrawing stage(canvas, box, color);
+void DrawStage(Canvas& canvas, i16 elementType, const StageBox& box, Color color, RailForm form) {
+  const StageDrawing stage(canvas, box, color, form);
   switch (elementType) {
     case SeriesL:
       return stage.InLine(inductor);
@@ -203,7 +219,7 @@ void DrawStage(Canvas& canvas, i16 elementType, const StageBox& box, Color color
     case SeriesPLC:
       return stage.InLineParallel({inductor, capacitor});
     case SeriesRLC:
-      return stage.InLineParallel({inductor, resistor, capacitor});
+      return stage.InLineParallel({inductor, capacitor, resistor});
     case ShuntL:
       return stage.ToCommon(inductor);
     case ShuntC:

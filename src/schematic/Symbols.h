@@ -28,9 +28,12 @@ f32 StageWidth(i16 elementType);
 // The width that the bare symbol needs, for artwork; 0 for codes that draw nothing.
 f32 SymbolWidth(i16 elementType);
 
+// Series elements stand on the upper rail, or in a balanced network on both.
+enum class RailForm { Unbalanced, Balanced };
+
 // Draws a stage of this type in the middle of `box`, which is at least SymbolWidth wide. Codes that are no element draw
-// nothing.
-void DrawStage(Canvas& canvas, i16 elementType, const StageBox& box, Color color);
+// nothing. Stubs and windings are the same in both forms.
+void DrawStage(Canvas& canvas, i16 elementType, const StageBox& box, Color color, RailForm form = RailForm::Unbalanced);
 
 // The same as wide as in the schematic: from x to x + StageWidth.
 void DrawStage(Canvas& canvas, i16 elementType, f32 x, f32 y, f32 gap, Color color);

@@ -48,31 +48,6 @@ std::string FileName(const std::string& path) { return path.substr(path.find_las
 
 }  // namespace
 
-std::string FamilyName(i16 family) {
-  switch (family) {
-    case familyButterworth:
-      return "Butterworth";
-    case familyChebyshev:
-      return "Chebyshev";
-    case familyCauer:
-      return "Cauer";
-    case familyBessel:
-      return "Bessel";
-    case familyGaussian:
-      return "Gaussian";
-    case familyConstantK:
-      return "Constant-K";
-    case familyMderived:
-      return "M-derived";
-    case familyGaussian12:
-      return "Gaussian to 12";
-    case familyManual:
-      return "Manual entry";
-    default:
-      return {};
-  }
-}
-
 std::string TopologyCaption(const std::string& letter) {
   if (letter.size() != 1 || letter[0] < 'A' || letter[0] > 'L') return {};
   return captions[static_cast<std::size_t>(letter[0] - 'A')];

@@ -7,9 +7,6 @@
 
 namespace quilm {
 
-// "Butterworth", ..., "Manual entry"; empty for a code that is no family.
-std::string FamilyName(i16 family);
-
 // "Capacitor-input lowpass", ... for the letters "A" to "L"; empty for any other.
 std::string TopologyCaption(const std::string& letter);
 

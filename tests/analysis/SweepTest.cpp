@@ -6,6 +6,7 @@
 
 #include "analysis/modAnalysis.h"
 #include "shell/HeadlessPlatform.h"
+#include "shell/Page.h"
 #include "shell/Session.h"
 
 namespace quilm {
@@ -198,9 +199,17 @@ TEST_F(Sweep, FailuresOfTheSweepItselfNameTheirStep) {
   EXPECT_EQ(SweepLadder(record, *r), "70");
 }
 
-TEST_F(Sweep, AFailureIsToldInAMessage) {
+class NetworkPage : public Page {
+ public:
+  explicit NetworkPage(Session& session) : Page(session, PageId::Schematic, "Schematic") {}
+  Layout MakeLayout() override { return Column({}); }
+};
+
+TEST_F(Sweep, AFailureIsToldInAMessageAndShowsTheNetwork) {
   HeadlessPlatform platform(std::filesystem::temp_directory_path().string());
-  Session session(platform, {});
+  Session session(platform, {{PageId::Schematic, [](Session& owner) -> std::unique_ptr<Page> {
+                                return std::make_unique<NetworkPage>(owner);
+                              }}});
   session.record = Attenuator();
   session.record.SweepMode = 2;
   session.record.Fstart = 0;
@@ -211,6 +220,7 @@ TEST_F(Sweep, AFailureIsToldInAMessage) {
   EXPECT_EQ(platform.messages[0].text,
             "We had a plotting routine problem.\r\nSee modAnalysis line 48\r\n"
             "Check analysis starting and stopping frequencies\r\nand check the network component values.");
+  EXPECT_EQ(session.pages.Top()->Id(), PageId::Schematic);
 }
 
 TEST_F(Sweep, WithoutStagesAFrequencyChangesNothing) {

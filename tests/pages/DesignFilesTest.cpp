@@ -163,6 +163,43 @@ TEST_F(DesignFiles, TheLastSessionComesBack) {
   EXPECT_EQ(next.familyOption, familyButterworth);
 }
 
+// A file of an older layout ends before the answer on zeros.
+class OlderFiles : public DesignFiles {
+ protected:
+  OlderFiles() {
+    MakeLowpass();
+    platform.files = {Path("older.QLM")};
+    Press("cmdSave");
+    std::string text = File("older.QLM");
+    text.resize(text.find("* M-derived zeros"));
+    std::ofstream(Path("older.QLM"), std::ios::binary) << text;
+    platform.files = {Path("older.QLM")};
+  }
+};
+
+TEST_F(OlderFiles, LeadToTheSchematicPage) {
+  for (const PageId page : {PageId::Design, PageId::Plotted, PageId::Tabulated, PageId::Schematic}) {
+    session.pages.ShowPage(page);
+    platform.files = {Path("older.QLM")};
+    Press("cmdGet");
+    EXPECT_EQ(Top().Id(), PageId::Schematic);
+    EXPECT_EQ(session.record.Stages, 3);
+    EXPECT_EQ(session.record.DesignChanged, 1);
+    EXPECT_EQ(session.record.ResponsesValid, 0);
+    EXPECT_TRUE(page == PageId::Schematic || session.pages.Find(page) == nullptr);
+  }
+}
+
+TEST_F(OlderFiles, LeadFromTheOpeningPageToTheSchematicPage) {
+  HeadlessPlatform other(platform.ProgramFolder());
+  other.files = {Path("older.QLM")};
+  Session next(other, AllPages());
+  StartProgram(next);
+  Click(next, *next.pages.Top()->Find("cmdRetrieveOld"));
+  EXPECT_EQ(next.pages.Top()->Id(), PageId::Schematic);
+  EXPECT_EQ(next.pages.Find(PageId::Opening), nullptr);
+}
+
 TEST_F(DesignFiles, AnOlderDesignIsOpenedFromTheOpeningPage) {
   MakeLowpass();
   platform.files = {Path("old.QLM")};

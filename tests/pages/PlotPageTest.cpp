@@ -275,14 +275,20 @@ TEST_F(PlotPage, AScaleWithoutHeightIsToldFromTheLoad) {
   EXPECT_EQ(MessageTexts(), std::vector<std::string>{"We had a plotting routine problem.\r\nSee frmPlotted line 552"});
 }
 
+// The network that cannot be analysed comes up instead.
 TEST_F(PlotPage, ASweepThatFailsLeavesThePlotAlone) {
   const Picture before = Plot();
+  const Page* page = &Top();
   session.record.Fstart = 0;
   session.record.ResponsesValid = 0;
   Press("cmd2");
   ASSERT_EQ(platform.messages.size(), 1U);
   EXPECT_NE(platform.messages[0].text.find("See modAnalysis line 48"), std::string::npos);
-  EXPECT_EQ(Plot(), before);
+  EXPECT_EQ(Top().Id(), PageId::Schematic);
+  ASSERT_EQ(session.pages.Find(PageId::Plotted), page);
+  session.record.Fstart = 1e5F;
+  session.pages.ShowPage(PageId::Plotted);
+  EXPECT_FALSE(Plot() == before);
 }
 
 TEST_F(PlotPage, AShallowLossScaleIsStoredAsMinus0Point3) {

@@ -149,4 +149,29 @@ TEST_F(Program, TheFirstDesignIsTheOneOfTheory) {
   }
 }
 
+// Both designs come back from their files as they were made.
+TEST_F(Program, TheCauerDesignsAreSavedAndReadAgain) {
+  const Ended ended = Run("'" QUILM_EXAMPLES "/cauer-designs.qsc'");
+  ASSERT_EQ(ended.status, 0) << ended.err;
+  std::vector<json> records;
+  for (const json& event : ended.Events()) {
+    if (event["event"] == "record") records.push_back(event);
+  }
+  ASSERT_EQ(records.size(), 4U);
+  EXPECT_EQ(records[0]["record"]["Order"], 9);
+  EXPECT_EQ(records[0]["record"]["Astop"], 70);
+  EXPECT_EQ(records[1]["stages"].size(), 9U);
+  EXPECT_EQ(records[2]["record"]["CauerTop"], 1);
+  EXPECT_EQ(records[3]["stages"].size(), 6U);
+  for (const char* picture :
+       {"cauer-lowpass-transmission", "cauer-lowpass-return", "cauer-lowpass-delay", "cauer-lowpass-smith",
+        "cauer-lowpass-smith-zoomed", "cauer-lowpass-polar", "cauer-lowpass-schematic", "cauer-lowpass-balanced",
+        "cauer-lowpass-table-1", "zig-zag-bandpass-return", "zig-zag-bandpass-smith", "zig-zag-bandpass-schematic"}) {
+    EXPECT_THAT(ContentOf(folder / "out" / (std::string(picture) + ".svg")), testing::HasSubstr("<text")) << picture;
+  }
+  for (const char* design : {"cauer-lowpass.QLM", "zig-zag-bandpass.QLM"}) {
+    EXPECT_THAT(ContentOf(folder / "out" / design), testing::StartsWith("Quilm circuit file 43")) << design;
+  }
+}
+
 }  // namespace

@@ -1,0 +1,39 @@
+// The key data of a design as text below its schematic.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "core/DesignRecord.h"
+#include "shell/Canvas.h"
+
+namespace quilm {
+
+// The largest and the smallest value of one kind of part in the ladder, by magnitude.
+struct PartRange {
+  f32 largest = 0;
+  f32 smallest = 0;
+};
+
+// Nothing when the ladder has no such part with a value.
+std::optional<PartRange> CapacitorRange(const DesignRecord& record);
+std::optional<PartRange> InductorRange(const DesignRecord& record);
+
+// "Capacitors: 2.5": the largest over the smallest, or "(None)".
+std::string CapacitorRatioText(const DesignRecord& record);
+std::string InductorRatioText(const DesignRecord& record);
+
+// A group of lines, the first of which may be a heading.
+struct DataGroup {
+  std::string heading;
+  std::vector<std::string> rows;
+};
+
+// Entries, Q values, ratios and extremes; none for a record without entries.
+std::vector<DataGroup> DesignData(const DesignRecord& record);
+
+// Prints the groups side by side from (left, top) in user scale.
+void DrawDesignData(const DesignRecord& record, f32 left, f32 top, Canvas& canvas);
+
+}  // namespace quilm

@@ -1,0 +1,42 @@
+// What is written beside a stage: values, tolerances and losses of its parts.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "core/DesignRecord.h"
+
+namespace quilm {
+
+struct StageLabel {
+  std::string text;
+  bool negative = false;  // the value is below 0, which no passive part has
+};
+
+// The values of the parts that the element type gives meaning to, in display format. `share` is the part of a value
+// that each rail carries: series parts of a balanced network show half of it.
+std::vector<StageLabel> ValueLabels(const Stage& stage, f32 share = 1);
+
+// "L: 5%" for each part with a tolerance above 0.
+std::vector<std::string> ToleranceLabels(const Stage& stage);
+
+// The loss of a part as a resistance.
+struct LossLabel {
+  std::string heading;  // "L-rseries:" or "C-rshunt:"
+  std::string value;    // ohms
+};
+
+// Of an inductor 2 Pi Fq L / Qind in series, of a capacitor Qcap / (2 Pi Fq C) across it. Above 10 megohms a
+// capacitor's is left out, as is one that cannot be computed.
+std::vector<LossLabel> LossLabels(const DesignRecord& record, const Stage& stage, f32 Fq);
+
+// Whether the type's parts lie in the line, so that a balanced network has them on both rails.
+bool IsSeriesElement(i16 elementType);
+
+bool HasInductor(i16 elementType);
+bool HasCapacitor(i16 elementType);
+
+// Whether any value of the stage is below 0, in use or not.
+bool HasNegativeValue(const Stage& stage);
+
+}  // namespace quilm

@@ -1,0 +1,274 @@
+#include "schematic/modSchematic.h"
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+#include "analysis/Ladder.h"
+#include "core/modGeneral.h"
+#include "schematic/DesignData.h"
+#include "schematic/PartSymbols.h"
+#include "schematic/StageLabels.h"
+#include "schematic/Symbols.h"
+
+namespace quilm {
+
+namespace {
+
+constexpr Scale pageScale{0, 600, 12000, 6900};
+constexpr f32 pageRight = pageScale.left + pageScale.width;
+constexpr f32 SchemY = 1500;
+constexpr f32 bandTop = 700;
+constexpr f32 bandBottom = 5400;
+constexpr f32 bandEnd = 42500;
+constexpr f32 sourceWidth = 1620;
+constexpr f32 loadWidth = 1300;
+constexpr f32 endLead = 120;  // from the page's edge to the source
+constexpr Color paperColor = 0xFFFFEE;
+constexpr Color stageColor = 0xFFFFF8;
+constexpr Color boundaryColor = 0xBBFF66;
+
+constexpr f32 labelSize = 8;  // points
+constexpr f32 labelPitch = 170;
+constexpr f32 labelsRight = 40;       // clear of the stage's boundary
+constexpr f32 labelsAbove = -330;     // of the upper rail
+constexpr f32 labelsBelow = 1160;     // of the upper rail: just below the lower one
+constexpr std::size_t mostAbove = 2;  // more would run into the stage number
+constexpr f32 numberRight = 280;
+constexpr f32 numberAbove = -700;
+constexpr f32 lossesBelow = 1750;
+constexpr f32 lossPitch = 560;
+constexpr f32 tolerancesRight = 240;
+constexpr f32 tolerancesBelow = 3300;
+constexpr f32 dataLeft = 400;
+constexpr f32 dataTop = 5700;
+
+void PrintAt(Canvas& canvas, f32 x, f32 y, const std::string& text) {
+  canvas.CurrentX = x;
+  canvas.CurrentY = y;
+  canvas.Print(text);
+}
+
+int StagesToDraw(const DesignRecord& record) { return std::min(record.Stages, record.StagesMax); }
+
+void PrintLabel(Canvas& canvas, f32 x, f32 y, const StageLabel& label) {
+  canvas.ForeColor = label.negative ? colorRed : colorBlack;
+  PrintAt(canvas, x, y, label.text);
+  canvas.ForeColor = colorBlack;
+}
+
+// One drawing of a whole schematic.
+class Drawing {
+ public:
+  Drawing(const DesignRecord& record, const SchematicView& view, Canvas& canvas)
+      : record_(record), view_(view), canvas_(canvas), Fq_(QualityFrequency(record)) {}
+
+  void Draw() {
+    const f32 SchemLeft = static_cast<f32>(view_.SchemOffset) + sourceWidth;
+    f32 SchemRight = SchemLeft;
+    for (int s = 1; s <= StagesToDraw(record_); ++s) SchemRight += StageWidth(record_.stage[s].ElementType);
+    DrawBand(SchemLeft, SchemRight);
+    DrawSource(static_cast<f32>(view_.SchemOffset));
+    f32 SchemX = SchemLeft;
+    for (int s = 1; s <= StagesToDraw(record_); ++s) DrawNext(s, SchemX);
+    Boundary(SchemX);
+    DrawLoad(SchemX);
+    if (SchemX + loadWidth > pageRight) PrintMore();
+  }
+
+ private:
+  bool Balanced() const { return view_.mode != SchematicMode::Unbalanced; }
+  RailForm Form() const { return Balanced() ? RailForm::Balanced : RailForm::Unbalanced; }
+  // What each rail shows of a series value.
+  f32 Share() const { return view_.mode == SchematicMode::BalancedA ? 0.5F : 1; }
+
+  void DrawBand(f32 SchemLeft, f32 SchemRight) {
+    canvas_.Rectangle(1, bandTop, bandEnd, bandBottom, paperColor, true);
+    canvas_.Rectangle(SchemLeft, bandTop, SchemRight, bandBottom, stageColor, true);
+    for (const f32 y : {bandTop, bandBottom}) canvas_.Line(SchemLeft, y, SchemRight, y, boundaryColor);
+  }
+
+  void Boundary(f32 x) { canvas_.Line(x, bandTop + 5, x, bandBottom, boundaryColor); }
+
+  // Draws stage s at x and moves x on by its width.
+  void DrawNext(int s, f32& x) {
+    const Stage& stage = record_.stage[s];
+    const f32 width = StageWidth(stage.ElementType);
+    if (width == 0) return;
+    Boundary(x);
+    canvas_.PSet(x + numberRight, SchemY + numberAbove, colorWhite);
+    PrintAt(canvas_, x + numberRight, SchemY + numberAbove, std::to_string(s));
+    DrawStage(canvas_, stage.ElementType, StageBox{x, SchemY, width, railGap}, colorBlack, Form());
+    if (stage.ElementType == CoupledInductors) PrintCoupling(x + width / 2);
+    PrintValues(stage, x);
+    if (view_.ShowQ) PrintLosses(stage, x);
+    f32 y = SchemY + tolerancesBelow;
+    for (const std::string& text : ToleranceLabels(stage)) {
+      PrintAt(canvas_, x + tolerancesRight, y, text);
+      y += labelPitch;
+    }
+    x += width;
+  }
+
+  // The letter between the windings.
+  void PrintCoupling(f32 middle) {
+    constexpr f32 below = 60;
+    PrintAt(canvas_, middle - canvas_.TextWidth("K") / 2, SchemY + below, "K");
+  }
+
+  // Above the upper rail one over the other; the third of a stage stands below the lower rail, as does the second
+  // rail's share of a balanced series part.
+  void PrintValues(const Stage& stage, f32 x) {
+    const bool bothRails = Balanced() && IsSeriesElement(stage.ElementType);
+    const std::vector<StageLabel> labels = ValueLabels(stage, bothRails ? Share() : 1);
+    const std::size_t above = std::min(labels.size(), mostAbove);
+    for (std::size_t i = 0; i < above; ++i) {
+      PrintLabel(canvas_, x + labelsRight, SchemY + labelsAbove - labelPitch * static_cast<f32>(above - 1 - i),
+                 labels[i]);
+    }
+    f32 y = SchemY + labelsBelow;
+    for (std::size_t i = bothRails ? 0 : above; i < labels.size(); ++i) {
+      PrintLabel(canvas_, x + labelsRight, y, labels[i]);
+      y += labelPitch;
+    }
+  }
+
+  void PrintLosses(const Stage& stage, f32 x) {
+    constexpr f32 symbolWidth = 420;
+    constexpr f32 symbolSize = 0.6F;
+    constexpr f32 textBelow = 60;
+    f32 y = SchemY + lossesBelow;
+    for (const LossLabel& label : LossLabels(record_, stage, Fq_)) {
+      const Part resistor = Part::Resistor;
+      DrawChain(Run(canvas_, {x, y}, Run::Way::Right, colorBlack), {&resistor, 1}, 60, 60 + symbolWidth, symbolSize);
+      PrintAt(canvas_, x + 60, y + textBelow, label.heading);
+      PrintAt(canvas_, x + 60, y + textBelow + labelPitch, label.value);
+      y += lossPitch;
+    }
+  }
+
+  // A generator between the rails and its resistance in the line, on both rails of a balanced network.
+  void DrawSource(f32 x) {
+    constexpr f32 generator = 330;  // from the origin to its middle
+    constexpr f32 radius = 150;
+    const f32 middle = SchemY + railGap / 2;
+    const f32 at = x + endLead + generator - radius;
+    canvas_.Line(at, SchemY, at, middle - radius, colorBlack);
+    canvas_.Circle(at, middle, radius, colorBlack);
+    canvas_.Line(at, middle + radius, at, SchemY + railGap, colorBlack);
+    SeriesResistance(at, x + sourceWidth, SchemY);
+    if (Balanced()) {
+      SeriesResistance(at, x + sourceWidth, SchemY + railGap);
+    } else {
+      canvas_.Line(at, SchemY + railGap, x + sourceWidth, SchemY + railGap, colorBlack);
+    }
+    const StageLabel label{Trimmed(FormatResistance(Share() * record_.Rsource[1])), record_.Rsource[1] < 0};
+    PrintLabel(canvas_, at + radius, SchemY + labelsAbove, label);
+    if (Balanced()) PrintLabel(canvas_, at + radius, SchemY + labelsBelow, label);
+  }
+
+  void SeriesResistance(f32 from, f32 to, f32 y) {
+    const Part resistor = Part::Resistor;
+    DrawChain(Run(canvas_, {from, y}, Run::Way::Right, colorBlack), {&resistor, 1}, 0, to - from);
+  }
+
+  void DrawLoad(f32 x) {
+    constexpr f32 resistance = 500;  // from the last stage
+    DrawRails(canvas_, StageBox{x, SchemY, resistance, railGap}, colorBlack);
+    const Part resistor = Part::Resistor;
+    DrawChain(Run(canvas_, {x + resistance, SchemY}, Run::Way::Down, colorBlack), {&resistor, 1}, 0, railGap);
+    PrintLabel(canvas_, x + resistance + 160, SchemY + railGap / 2 - labelPitch / 2,
+               {Trimmed(FormatResistance(record_.Rload[1])), record_.Rload[1] < 0});
+  }
+
+  // There is more at the right than the page shows.
+  void PrintMore() {
+    constexpr f32 edge = 200;
+    constexpr f32 rise = 280;
+    canvas_.FontBold = true;
+    PrintAt(canvas_, pageRight - edge, bandBottom - rise, " >");
+    canvas_.FontBold = false;
+  }
+
+  const DesignRecord& record_;
+  const SchematicView& view_;
+  Canvas& canvas_;
+  f32 Fq_;
+};
+
+void Begin(const Scale& scale, Canvas& canvas) {
+  canvas.SetScale(scale);
+  canvas.Clear();
+  canvas.FontName = "Arial";
+  canvas.FontSize = labelSize;
+  canvas.FontBold = false;
+  canvas.ForeColor = colorBlack;
+  canvas.DrawWidth = 1;
+}
+
+struct ArtworkStage {
+  int number;
+  StageBox box;
+};
+
+// The stages side by side, in as many rows as they need.
+std::vector<ArtworkStage> ArtworkStages(const DesignRecord& record) {
+  constexpr f32 left = 700;
+  constexpr f32 right = 11500;
+  constexpr f32 firstRow = 1000;
+  constexpr f32 rowPitch = 1800;
+  constexpr f32 room = 240;  // beside the symbols
+  std::vector<ArtworkStage> stages;
+  Point pen{left, firstRow};
+  for (int s = 1; s <= StagesToDraw(record); ++s) {
+    const f32 symbol = SymbolWidth(record.stage[s].ElementType);
+    if (symbol == 0) continue;
+    if (pen.x + symbol + room > right) pen = {left, pen.y + rowPitch};
+    stages.push_back({s, StageBox{pen.x, pen.y, symbol + room, railGap}});
+    pen.x += symbol + room;
+  }
+  return stages;
+}
+
+}  // namespace
+
+void DrawSchematic(const DesignRecord& record, const SchematicView& view, Canvas& canvas) {
+  Begin(pageScale, canvas);
+  if (record.Stages < 1) return;
+  Drawing(record, view, canvas).Draw();
+  DrawDesignData(record, dataLeft, dataTop, canvas);
+}
+
+void DrawArtwork(const DesignRecord& record, SchematicMode mode, Canvas& canvas) {
+  constexpr f32 pageWidth = 12000;
+  constexpr f32 leastHeight = 7000;
+  constexpr f32 numberAboveRail = 400;
+  constexpr f32 ratiosBelow = 300;  // of the last row
+  constexpr f32 margin = 500;
+  const std::vector<ArtworkStage> stages = ArtworkStages(record);
+  const f32 lastRail = stages.empty() ? 0 : stages.back().box.y + railGap;
+  Begin(Scale{0, 0, pageWidth, std::max(leastHeight, lastRail + ratiosBelow + margin)}, canvas);
+  if (stages.empty()) return;
+  const RailForm form = mode == SchematicMode::Unbalanced ? RailForm::Unbalanced : RailForm::Balanced;
+  for (const ArtworkStage& stage : stages) {
+    const StageBox& box = stage.box;
+    const std::string number = std::to_string(stage.number);
+    PrintAt(canvas, box.x + (box.width - canvas.TextWidth(number)) / 2, box.y - numberAboveRail, number);
+    DrawStage(canvas, record.stage[stage.number].ElementType, box, colorBlack, form);
+  }
+  const StageBox& first = stages.front().box;
+  const StageBox& last = stages.back().box;
+  DrawTerminals(canvas, first.x - terminalRadius, first.y, railGap, colorBlack);
+  DrawTerminals(canvas, last.x + last.width + terminalRadius, last.y, railGap, colorBlack);
+  PrintAt(canvas, first.x, lastRail + ratiosBelow, CapacitorRatioText(record));
+  PrintAt(canvas, pageWidth / 3, lastRail + ratiosBelow, InductorRatioText(record));
+}
+
+bool HasNegativePart(const DesignRecord& record) {
+  for (int s = 1; s <= StagesToDraw(record); ++s) {
+    if (HasNegativeValue(record.stage[s])) return true;
+  }
+  return false;
+}
+
+}  // namespace quilm

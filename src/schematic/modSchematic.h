@@ -1,0 +1,31 @@
+// Draws the stage list as a circuit diagram, in one pass from left to right: nothing about a stage needs another one.
+//
+// User scale: the page is 12000 wide, the upper rail lies at y = 1500, and the band that holds the stages reaches from
+// 700 to 5400.
+#pragma once
+
+#include "core/DesignRecord.h"
+#include "shell/Canvas.h"
+
+namespace quilm {
+
+enum class SchematicMode : i16 { Unbalanced = 0, BalancedB = 1, BalancedA = 2 };
+
+struct SchematicView {
+  i32 SchemOffset = 0;  // x of the drawing's origin; scrolling moves it, without bounds
+  SchematicMode mode = SchematicMode::Unbalanced;
+  bool ShowQ = false;  // the losses of the parts as resistances
+};
+
+// Draws band, source, stages, load and the design data below them into an emptied canvas. Stages above StagesMax are
+// left out, and with none the canvas stays empty. In both balanced modes series parts stand on both rails; in BalancedA
+// each shows half of its value. A negative value is red.
+void DrawSchematic(const DesignRecord& record, const SchematicView& view, Canvas& canvas);
+
+// Draws the bare ladder: stage numbers and symbols, in as many rows as it needs, and the ratios of its parts below.
+void DrawArtwork(const DesignRecord& record, SchematicMode mode, Canvas& canvas);
+
+// Whether any stage has a value below 0.
+bool HasNegativePart(const DesignRecord& record);
+
+}  // namespace quilm

@@ -1,0 +1,181 @@
+// The Schematic page and its artwork.
+
+#include <algorithm>
+#include <fstream>
+
+#include "pages/PageBench.h"
+#include "pages/PageDirectory.h"
+#include "pages/StartUp.h"
+
+namespace quilm {
+namespace {
+
+class SchematicPage : public PageBench {
+ protected:
+  SchematicPage() : PageBench(AllPages()) {
+    StartProgram(session);
+    Press("cmdDesignNew");
+    Press("optButterworth");
+    Press("optCapInLowpass");
+    Enter("txtBandwidth", "1M");
+    Enter("txtInputTerm", "50");
+    Press("cmdSchematic");
+  }
+
+  const Picture& Drawing() { return Get<PictureBox>("picSchematic").picture; }
+
+  std::vector<std::string> Texts() {
+    std::vector<std::string> texts;
+    for (const PictureOp& operation : Drawing().Operations()) {
+      if (const auto* text = std::get_if<TextOp>(&operation)) texts.push_back(text->text);
+    }
+    return texts;
+  }
+
+  std::ptrdiff_t Count(const std::string& text) {
+    const auto texts = Texts();
+    return std::count(texts.begin(), texts.end(), text);
+  }
+
+  f32 BandLeft() {
+    int seen = 0;
+    for (const PictureOp& operation : Drawing().Operations()) {
+      const auto* box = std::get_if<RectangleOp>(&operation);
+      if (box != nullptr && ++seen == 2) return box->from.x;
+    }
+    return 0;
+  }
+};
+
+// L = 2 * 50 / (2 Pi 1e6) = 15.9155 uH.
+TEST_F(SchematicPage, ShowsTheNetworkOfTheDesign) {
+  EXPECT_EQ(Top().Id(), PageId::Schematic);
+  EXPECT_EQ(Get<Button>("cmdHere").toolTip, "You are at the Schematic page");
+  EXPECT_EQ(Count("15.9155uH"), 1);
+  EXPECT_EQ(Count("Family:  Butterworth"), 1);
+  EXPECT_FALSE(Get<Label>("lblEmptyList").Shown());
+  EXPECT_FALSE(Get<Label>("lblNegativePart").Shown());
+}
+
+TEST_F(SchematicPage, TheFourButtonsScroll) {
+  EXPECT_EQ(BandLeft(), 1620);
+  Press("cmdLeft");
+  EXPECT_EQ(BandLeft(), 1820);
+  Press("cmdLeftLeft");
+  EXPECT_EQ(BandLeft(), 3820);
+  Press("cmdRight");
+  EXPECT_EQ(BandLeft(), 3620);
+  for (int i = 0; i < 5; ++i) Press("cmdRightRight");
+  EXPECT_EQ(BandLeft(), 3620 - 10000);
+  session.pages.ShowPage(PageId::Schematic);
+  EXPECT_EQ(BandLeft(), 1620);
+}
+
+TEST_F(SchematicPage, TheOptionsChooseTheForm) {
+  EXPECT_EQ(Get<Frame>("fraMode").caption, "Unbalanced preview");
+  EXPECT_EQ(Get<OptionButton>("Option0").caption, "Normal - unbalanced");
+  EXPECT_EQ(Get<OptionButton>("Option1").caption, "Balanced - B");
+  EXPECT_EQ(Get<OptionButton>("Option2").caption, "Balanced - A");
+  EXPECT_TRUE(Get<OptionButton>("Option0").Value());
+  Press("Option1");
+  EXPECT_EQ(Count("15.9155uH"), 2);
+  Press("Option2");
+  EXPECT_EQ(Count("7.95775uH"), 2);
+  Press("Option0");
+  EXPECT_EQ(Count("15.9155uH"), 1);
+}
+
+TEST_F(SchematicPage, TheLossesComeAndGo) {
+  EXPECT_EQ(Get<Frame>("fraShowQ").caption, "Show Q-value resistances?");
+  EXPECT_TRUE(Get<OptionButton>("optNo").Value());
+  Press("optYes");
+  EXPECT_EQ(Count("L-rseries:"), 1);
+  Press("optNo");
+  EXPECT_EQ(Count("L-rseries:"), 0);
+}
+
+TEST_F(SchematicPage, ANegativePartIsPointedOut) {
+  session.record.stage[2].Lval.value = -1e-5F;
+  session.pages.ShowPage(PageId::Schematic);
+  EXPECT_TRUE(Get<Label>("lblNegativePart").Shown());
+  EXPECT_EQ(Get<Label>("lblNegativePart").caption, "Negative component");
+  EXPECT_EQ(Count("-10uH"), 1);
+}
+
+TEST_F(SchematicPage, AnEmptyListIsSaidSo) {
+  session.record.Stages = 0;
+  session.pages.ShowPage(PageId::Schematic);
+  EXPECT_TRUE(Get<Label>("lblEmptyList").Shown());
+  EXPECT_EQ(Get<Label>("lblEmptyList").caption, "The parts list is empty");
+  EXPECT_TRUE(Drawing().Empty());
+}
+
+TEST_F(SchematicPage, TooManyStagesAreCutAndToldOf) {
+  session.record.StagesMax = 2;
+  session.pages.ShowPage(PageId::Schematic);
+  EXPECT_EQ(MessageTexts(), std::vector<std::string>{"Only first 2 items used"});
+  EXPECT_EQ(session.record.Stages, 2);
+}
+
+TEST_F(SchematicPage, TheArtworkOpensOverThePage) {
+  platform.modalActs.push_back([this](Page& page) {
+    EXPECT_EQ(page.Id(), PageId::SchematicSimple);
+    EXPECT_FALSE(Get<PictureBox>("picArtwork").picture.Empty());
+    EXPECT_FALSE(Get<Button>("cmdPrint").Active());
+    Press("cmdExit");
+  });
+  Press("cmdSimple");
+  EXPECT_EQ(Top().Id(), PageId::Schematic);
+}
+
+TEST_F(SchematicPage, GetAndSaveHaveTheirDialogs) {
+  const std::string path = platform.ProgramFolder() + "/s.QLM";
+  platform.files.push_back(path);
+  Press("cmdSave");
+  EXPECT_EQ(platform.fileDialogs.back().title, "Write Quilm File");
+  session.record.stage[2].Lval.value = 1;
+  platform.files.push_back(path);
+  Press("cmdGet");
+  EXPECT_EQ(platform.fileDialogs.back().title, "Read Quilm File");
+  EXPECT_EQ(Top().Id(), PageId::Schematic);
+  EXPECT_EQ(Count("15.9155uH"), 1);
+}
+
+TEST_F(SchematicPage, ItsButtonsLeadToTheOtherPages) {
+  for (const auto& [button, page] : {std::pair{"cmdAnalysis", PageId::Analyze},
+                                     {"cmdPlot", PageId::Plotted},
+                                     {"cmdTabulate", PageId::Tabulated},
+                                     {"cmdDesign", PageId::Design}}) {
+    session.pages.ShowPage(PageId::Schematic);
+    Press(button);
+    EXPECT_EQ(Top().Id(), page) << button;
+  }
+}
+
+TEST_F(SchematicPage, TheCloseBoxKeepsTheSession) {
+  EXPECT_NO_THROW(PressCloseBox(session, Top()));
+  EXPECT_TRUE(session.ended);
+  EXPECT_NE(File("LASTSESSION.QLM").find("Quilm circuit file 43"), std::string::npos);
+}
+
+TEST_F(SchematicPage, HelpOpensItsPage) {
+  Press("cmdHelp");
+  EXPECT_TRUE(platform.opened.back().ends_with("/schematic.htm"));
+}
+
+// What cannot be analysed is shown instead, also when it is found while a page loads.
+TEST_F(SchematicPage, ASweepThatFailsLeadsHere) {
+  for (const PageId page : {PageId::Plotted, PageId::Tabulated}) {
+    session.pages.ShowPage(PageId::Design);
+    platform.messages.clear();
+    session.record.Fstart = 0;  // a logarithmic sweep has no such frequency
+    session.record.ResponsesValid = 0;
+    session.pages.ShowPage(page);
+    ASSERT_FALSE(platform.messages.empty());
+    EXPECT_NE(platform.messages[0].text.find("See modAnalysis line 48"), std::string::npos);
+    EXPECT_EQ(Top().Id(), PageId::Schematic);
+  }
+}
+
+}  // namespace
+}  // namespace quilm
