@@ -47,12 +47,13 @@ class Walk {
     Save("design-lowpass");
     Press("cmdPlot");
     Plots();
-    Visit("cmdSchematic", "schematic");
+    Schematic();
     Visit("cmdEdit", "edit");
     Visit("cmdAnalysis", "analysis");
     Visit("cmdTabulate", "tabulated");
     Visit("cmdDesign", "design-return");
     Cauer();
+    Specials();
     Modal("cmdAbout", "about");
     Modal("cmdExit", "exit");
   }
@@ -101,6 +102,25 @@ class Walk {
     Type("txtStopbandDepth", "60");
     StepUp("UpDown1", 1);
     Save("design-cauer");
+  }
+
+  void Schematic() {
+    if (!Press("cmdSchematic")) return;
+    Save("schematic");
+    Press("Option2");
+    Press("optYes");
+    Save("schematic-balanced");
+    Modal("cmdSimple", "artwork");
+  }
+
+  // The small pages that are opened from the Design page.
+  void Specials() {
+    Press("optConstantK");
+    Press("optCapInLowpass");
+    Modal("cmdSeeNorms", "normalized");
+    Modal("Command4", "singly-terminated");
+    Modal("Command11", "end-sections");
+    Modal("optMderived", "m-derived");
   }
 
   void StepUp(const char* name, int count) {

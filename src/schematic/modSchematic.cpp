@@ -240,14 +240,19 @@ void DrawSchematic(const DesignRecord& record, const SchematicView& view, Canvas
 }
 
 void DrawArtwork(const DesignRecord& record, SchematicMode mode, Canvas& canvas) {
-  constexpr f32 pageWidth = 12000;
-  constexpr f32 leastHeight = 7000;
   constexpr f32 numberAboveRail = 400;
   constexpr f32 ratiosBelow = 300;  // of the last row
   constexpr f32 margin = 500;
+  constexpr f32 ratioPitch = 2200;
+  constexpr f32 leastWidth = 5000;  // of the page, for the ratios
   const std::vector<ArtworkStage> stages = ArtworkStages(record);
-  const f32 lastRail = stages.empty() ? 0 : stages.back().box.y + railGap;
-  Begin(Scale{0, 0, pageWidth, std::max(leastHeight, lastRail + ratiosBelow + margin)}, canvas);
+  f32 width = leastWidth;
+  f32 lastRail = 0;
+  for (const ArtworkStage& stage : stages) {
+    width = std::max(width, stage.box.x + stage.box.width + margin);
+    lastRail = stage.box.y + railGap;
+  }
+  Begin(Scale{0, 0, width, lastRail + ratiosBelow + margin}, canvas);
   if (stages.empty()) return;
   const RailForm form = mode == SchematicMode::Unbalanced ? RailForm::Unbalanced : RailForm::Balanced;
   for (const ArtworkStage& stage : stages) {
@@ -261,7 +266,7 @@ void DrawArtwork(const DesignRecord& record, SchematicMode mode, Canvas& canvas)
   DrawTerminals(canvas, first.x - terminalRadius, first.y, railGap, colorBlack);
   DrawTerminals(canvas, last.x + last.width + terminalRadius, last.y, railGap, colorBlack);
   PrintAt(canvas, first.x, lastRail + ratiosBelow, CapacitorRatioText(record));
-  PrintAt(canvas, pageWidth / 3, lastRail + ratiosBelow, InductorRatioText(record));
+  PrintAt(canvas, first.x + ratioPitch, lastRail + ratiosBelow, InductorRatioText(record));
 }
 
 bool HasNegativePart(const DesignRecord& record) {
