@@ -12,8 +12,8 @@
 #include "files/modReadQuilmFiles.h"
 #include "files/modWriteQuilmFile.h"
 #include "pages/Leaving.h"
+#include "shell/EntryText.h"
 #include "shell/Session.h"
-#include "synthesis/EntryText.h"
 #include "synthesis/modCheckEntries.h"
 
 namespace quilm {

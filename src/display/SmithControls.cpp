@@ -6,8 +6,8 @@
 #include "core/modGeneral.h"
 #include "display/PlotKinds.h"
 #include "display/modSmith.h"
+#include "shell/EntryText.h"
 #include "shell/Session.h"
-#include "synthesis/EntryText.h"
 
 namespace quilm {
 

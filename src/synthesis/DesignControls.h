@@ -6,8 +6,8 @@
 
 #include "core/DesignRecord.h"
 #include "shell/Control.h"
+#include "shell/EntryText.h"
 #include "synthesis/DesignTools.h"
-#include "synthesis/EntryText.h"
 #include "synthesis/FamilyOptions.h"
 #include "synthesis/TopologyOptions.h"
 

@@ -16,12 +16,6 @@ constexpr std::array<const char*, 12> captions = {
     "Inductor-input highpass",         "Series-input bandstop",  "Shunt-input bandstop",
 };
 
-std::string Trimmed(const std::string& text) {
-  const auto first = text.find_first_not_of(' ');
-  if (first == std::string::npos) return {};
-  return text.substr(first, text.find_last_not_of(' ') - first + 1);
-}
-
 std::string Hertz(f32 value) { return Trimmed(FormatFrequency(value)) + "Hz"; }
 
 std::string Ohms(f32 value) { return Trimmed(FormatResistance(value)); }

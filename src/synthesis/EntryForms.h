@@ -5,8 +5,8 @@
 // entry meets the check before the analysis, and is asked for again at the next press.
 #pragma once
 
+#include "shell/EntryText.h"
 #include "shell/Page.h"
-#include "synthesis/EntryText.h"
 #include "synthesis/TopologyOptions.h"
 
 namespace quilm {

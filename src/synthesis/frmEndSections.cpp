@@ -2,9 +2,9 @@
 
 #include "core/Fault.h"
 #include "core/modGeneral.h"
+#include "shell/EntryText.h"
 #include "shell/Session.h"
 #include "synthesis/EndSections.h"
-#include "synthesis/EntryText.h"
 
 namespace quilm {
 

@@ -2,8 +2,8 @@
 
 #include "core/NumberText.h"
 #include "core/modGeneral.h"
+#include "shell/EntryText.h"
 #include "shell/Session.h"
-#include "synthesis/EntryText.h"
 
 namespace quilm {
 

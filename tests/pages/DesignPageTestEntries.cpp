@@ -4,8 +4,8 @@
 
 #include "core/modGeneral.h"
 #include "pages/DesignPageBench.h"
+#include "shell/EntryText.h"
 #include "synthesis/DesignControls.h"
-#include "synthesis/EntryText.h"
 
 namespace quilm {
 namespace {

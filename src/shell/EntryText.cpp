@@ -1,19 +1,9 @@
-#include "synthesis/EntryText.h"
+#include "shell/EntryText.h"
 
 #include "core/modGeneral.h"
 #include "shell/Control.h"
 
 namespace quilm {
-
-namespace {
-
-std::string Trimmed(const std::string& text) {
-  const auto first = text.find_first_not_of(' ');
-  if (first == std::string::npos) return {};
-  return text.substr(first, text.find_last_not_of(' ') - first + 1);
-}
-
-}  // namespace
 
 std::string EntryText(f32 value, Formatter format) { return Trimmed(format(value)); }
 
