@@ -149,6 +149,24 @@ TEST_F(Program, TheFirstDesignIsTheOneOfTheory) {
   }
 }
 
+// A zero at 1.25 times the cutoff gives sections of m = 0.6: an end arm of 0.6 henry with (1 - 0.36) / 0.6 farad.
+TEST_F(Program, TheSpecialDesignsAreMade) {
+  const Ended ended = Run("'" QUILM_EXAMPLES "/special-designs.qsc'");
+  ASSERT_EQ(ended.status, 0) << ended.err;
+  std::vector<json> records;
+  for (const json& event : ended.Events()) {
+    EXPECT_NE(event["event"], "message") << event;
+    if (event["event"] == "record") records.push_back(event["record"]);
+  }
+  ASSERT_EQ(records.size(), 3U);
+  EXPECT_EQ(records[0]["Order"], 9);
+  EXPECT_NEAR(records[0]["Hj"][1].get<double>(), 0.6, 1e-6);
+  EXPECT_NEAR(records[0]["Gj"][1].get<double>(), 0.64 / 0.6, 1e-6);
+  EXPECT_EQ(records[1]["NetworkEdited"], 1);
+  EXPECT_NEAR(records[1]["Rsource"][0].get<double>(), 0.01, 1e-9);
+  EXPECT_EQ(records[2]["Stages"], 7);
+}
+
 // Both designs come back from their files as they were made.
 TEST_F(Program, TheCauerDesignsAreSavedAndReadAgain) {
   const Ended ended = Run("'" QUILM_EXAMPLES "/cauer-designs.qsc'");
