@@ -101,9 +101,11 @@ std::vector<DataGroup> DesignData(const DesignRecord& record) {
 }
 
 void DrawDesignData(const DesignRecord& record, f32 left, f32 top, Canvas& canvas) {
-  constexpr f32 columnPitches[] = {3600, 2000, 2800, 2800};
-  constexpr f32 rowPitch = 210;
+  constexpr f32 columnPitches[] = {3600, 2100, 2900, 2900};
+  constexpr f32 rowPitch = 270;
+  constexpr f32 size = 9;  // points
   canvas.ForeColor = colorBlack;
+  canvas.FontSize = size;
   f32 x = left;
   std::size_t column = 0;
   for (const DataGroup& group : DesignData(record)) {

@@ -15,7 +15,7 @@ namespace quilm {
 
 namespace {
 
-constexpr Scale pageScale{0, 600, 12000, 6900};
+constexpr Scale pageScale{0, 600, 12000, 8400};
 constexpr f32 pageRight = pageScale.left + pageScale.width;
 constexpr f32 SchemY = 1500;
 constexpr f32 bandTop = 700;
@@ -41,7 +41,7 @@ constexpr f32 lossPitch = 560;
 constexpr f32 tolerancesRight = 240;
 constexpr f32 tolerancesBelow = 3300;
 constexpr f32 dataLeft = 400;
-constexpr f32 dataTop = 5700;
+constexpr f32 dataTop = 5800;
 
 void PrintAt(Canvas& canvas, f32 x, f32 y, const std::string& text) {
   canvas.CurrentX = x;

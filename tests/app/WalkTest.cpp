@@ -1,4 +1,6 @@
 // The first evening with the program.
+#include <QTimer>
+
 #include "app/WalkBench.h"
 
 namespace quilm {
@@ -72,6 +74,36 @@ TEST_F(Walk, ThePagesHaveTheirKeys) {
   EXPECT_EQ(Top().Id(), PageId::Plotted);
   QTest::keyClick(&desktop_.window, Qt::Key_1, Qt::ControlModifier);
   EXPECT_EQ(Top().Id(), PageId::Design);
+}
+
+// Does `act` on the modal page that the next click opens.
+void OnNextModal(const std::function<void()>& act) {
+  constexpr int milliseconds = 100;
+  QTimer::singleShot(milliseconds, qApp, act);
+}
+
+TEST_F(Walk, AnMderivedDesignAsksForItsZerosAndShowsItsSchematic) {
+  DesignLowpass();
+  OnNextModal([this] {
+    Type("txtZeroFreq1", "1.25M");
+    ClickOn("cmdOk");
+  });
+  ClickOn("optMderived");
+  EXPECT_EQ(Record().Order, 7);
+  OnNextModal([this] { ClickOn("cmdOk"); });
+  ClickOn("cmdSchematic");
+  ASSERT_EQ(Top().Id(), PageId::Schematic);
+  EXPECT_EQ(Record().Stages, 5);
+
+  auto* view = dynamic_cast<PictureView*>(Find("picSchematic"));
+  ASSERT_NE(view, nullptr);
+  QImage before = view->grab().toImage();
+  for (const char* name : {"Option1", "Option2", "optYes", "cmdRight", "cmdLeftLeft"}) {
+    ClickOn(name);
+    const QImage after = view->grab().toImage();
+    EXPECT_NE(after, before) << name;
+    before = after;
+  }
 }
 
 }  // namespace
