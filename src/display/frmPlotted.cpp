@@ -12,7 +12,6 @@
 #include "pages/Leaving.h"
 #include "schematic/Icons.h"
 #include "shell/Session.h"
-#include "synthesis/modCheckEntries.h"
 
 namespace quilm {
 
@@ -34,8 +33,7 @@ bool RippleCanBeTuned(const DesignRecord& record) {
 
 frmPlotted::frmPlotted(Session& session)
     : Page(session, PageId::Plotted, "Plot"),
-      navigation(*this, session,
-                 [&session](PageId target) { return target == PageId::Design || CheckEntries(session); }),
+      navigation(*this, session, NavigationRow::WithSoundEntries(session)),
       smithControls(*this, session, [this] { Draw(session_.record.PlotCode); }),
       mouse_(session, picPlot) {
   navigation.helpFile = "plots.htm";

@@ -10,14 +10,12 @@
 #include "files/modWriteQuilmFile.h"
 #include "pages/Leaving.h"
 #include "shell/Session.h"
-#include "synthesis/modCheckEntries.h"
 
 namespace quilm {
 
 frmTabulated::frmTabulated(Session& session)
-    : Page(session, PageId::Tabulated, "Tabulate"), navigation_(*this, session, [&session](PageId target) {
-        return target == PageId::Design || CheckEntries(session);
-      }) {
+    : Page(session, PageId::Tabulated, "Tabulate"),
+      navigation_(*this, session, NavigationRow::WithSoundEntries(session)) {
   navigation_.helpFile = "tabulate.htm";
   navigation_.onGet = [&session] { GetDesignFor(session, PageId::Tabulated); };
   navigation_.onSave = [&session] { SaveDesign(session, "Save Quilm File"); };

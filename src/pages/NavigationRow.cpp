@@ -2,6 +2,7 @@
 
 #include "schematic/Icons.h"
 #include "shell/Session.h"
+#include "synthesis/modCheckEntries.h"
 
 namespace quilm {
 
@@ -22,6 +23,10 @@ NavigationRow::NavigationRow(Page& page, Session& session, Gate gate)
   AddAction(Sign::About, "cmdAbout", "About", "Details", [this] { session_.pages.ShowModal(PageId::About); });
   AddAction(Sign::Exit, "cmdExit", "Exit", "Exit / quit the program",
             [this] { session_.pages.ShowModal(PageId::Exit); });
+}
+
+NavigationRow::Gate NavigationRow::WithSoundEntries(Session& session) {
+  return [&session](PageId target) { return target == PageId::Design || CheckEntries(session); };
 }
 
 void NavigationRow::AddSegment(PageId target, Sign sign, const char* name, const char* caption, const char* toolTip) {

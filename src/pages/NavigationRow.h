@@ -15,6 +15,10 @@ class NavigationRow {
   // What a page does before it is left for `target`: false keeps it, after the user was told why.
   using Gate = std::function<bool(PageId target)>;
 
+  // The gate of a page that shows a result: the way to the Design page is always open, every other one needs entries
+  // that can be analysed.
+  static Gate WithSoundEntries(Session& session);
+
   // `here` is the page that the row stands on: its own button is cmdHere, pressed and disabled.
   NavigationRow(Page& page, Session& session, Gate gate);
 

@@ -4,7 +4,6 @@
 #include "files/modWriteQuilmFile.h"
 #include "pages/Leaving.h"
 #include "shell/Session.h"
-#include "synthesis/modCheckEntries.h"
 
 namespace quilm {
 
@@ -16,9 +15,9 @@ constexpr i32 longScroll = 2000;
 }  // namespace
 
 frmSchematic::frmSchematic(Session& session)
-    : Page(session, PageId::Schematic, "Schematic"), navigation_(*this, session, [&session](PageId target) {
-        return target == PageId::Design || CheckEntries(session);
-      }) {
+    : Page(session, PageId::Schematic, "Schematic"),
+      view_(session.schematicView),
+      navigation_(*this, session, NavigationRow::WithSoundEntries(session)) {
   navigation_.helpFile = "schematic.htm";
   navigation_.onGet = [&session] { GetDesignFor(session, PageId::Schematic); };
   navigation_.onSave = [&session] { SaveDesign(session, "Write Quilm File"); };
@@ -35,14 +34,15 @@ frmSchematic::frmSchematic(Session& session)
   optNo_.onClick = [this] { ShowLosses(false); };
   fraMode_.Hold({&Option0_, &Option1_, &Option2_});
   fraShowQ_.Hold({&optYes_, &optNo_});
-  Option0_.Set();
-  optNo_.Set();
 }
 
 void frmSchematic::Load() {
   navigation_.Load();
   CutStages();
   view_.SchemOffset = 0;
+  OptionButton* const modes[] = {&Option0_, &Option1_, &Option2_};
+  modes[static_cast<std::size_t>(view_.mode)]->Set();
+  (view_.ShowQ ? optYes_ : optNo_).Set();
   Draw();
 }
 

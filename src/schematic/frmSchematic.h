@@ -21,7 +21,7 @@ class frmSchematic : public Page {
   void CutStages();
   void Draw();
 
-  SchematicView view_;
+  SchematicView& view_;
   NavigationRow navigation_;
   PictureBox picSchematic_{*this, "picSchematic", "Schematic of the design"};
   Label lblEmptyList_{*this, "lblEmptyList", "The parts list is empty"};

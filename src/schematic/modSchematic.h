@@ -5,17 +5,10 @@
 #pragma once
 
 #include "core/DesignRecord.h"
+#include "core/SchematicView.h"
 #include "shell/Canvas.h"
 
 namespace quilm {
-
-enum class SchematicMode : i16 { Unbalanced = 0, BalancedB = 1, BalancedA = 2 };
-
-struct SchematicView {
-  i32 SchemOffset = 0;  // x of the drawing's origin; scrolling moves it, without bounds
-  SchematicMode mode = SchematicMode::Unbalanced;
-  bool ShowQ = false;  // the losses of the parts as resistances
-};
 
 // Draws band, source, stages, load and the design data below them into an emptied canvas. Stages above StagesMax are
 // left out, and with none the canvas stays empty. In both balanced modes series parts stand on both rails; in BalancedA

@@ -8,6 +8,7 @@
 #include "core/Configuration.h"
 #include "core/DesignRecord.h"
 #include "core/Responses.h"
+#include "core/SchematicView.h"
 #include "core/SmithView.h"
 #include "shell/PageDesk.h"
 #include "shell/Platform.h"
@@ -29,7 +30,9 @@ class Session {
   // known when the page is not loaded.
   i16 familyOption = familyNone;
 
-  SmithView smithView;  // stays for the run of the program
+  // How charts and schematic are looked at; stays for the run of the program.
+  SmithView smithView;
+  SchematicView schematicView;
 
   std::mt19937 random;   // all random numbers of the program come from here
   std::string note;      // what the last action did, for the status line

@@ -94,6 +94,17 @@ TEST_F(SchematicPage, TheLossesComeAndGo) {
   EXPECT_EQ(Count("L-rseries:"), 0);
 }
 
+TEST_F(SchematicPage, ItsFormStaysOverAVisitToAnotherPage) {
+  Press("Option2");
+  Press("optYes");
+  Press("cmdPlot");
+  Press("cmdSchematic");
+  EXPECT_TRUE(Get<OptionButton>("Option2").Value());
+  EXPECT_TRUE(Get<OptionButton>("optYes").Value());
+  EXPECT_EQ(Count("7.95775uH"), 2);
+  EXPECT_EQ(Count("L-rseries:"), 1);
+}
+
 TEST_F(SchematicPage, ANegativePartIsPointedOut) {
   session.record.stage[2].Lval.value = -1e-5F;
   session.pages.ShowPage(PageId::Schematic);
