@@ -1,4 +1,4 @@
-// Looking at a response with the mouse: readout and Smith chart.
+// Looking at a response: readout, Smith chart and table.
 #include <QElapsedTimer>
 
 #include "app/WalkBench.h"
@@ -94,6 +94,19 @@ TEST_F(PlotWalk, TheSmithChartIsZoomedByItsButtons) {
   EXPECT_EQ(desktop_.session.smithView.ZoomFactor, 16);
   EXPECT_FALSE(Find("cmdZoomIn")->isEnabled());
   EXPECT_TRUE(Find("cmdZoomOut")->isEnabled());
+}
+
+// From the click to the painted rows, the sweep included. The limit leaves room for a busy machine.
+TEST_F(PlotWalk, TheLongestTableAppearsAtOnce) {
+  ClickOn("cmdAnalysis");
+  Type("txtNrIntervals", "2049");
+  QElapsedTimer clock;
+  clock.start();
+  ClickOn("cmdTabulate");
+  Find("lstTabulatedOutput")->repaint();
+  RecordProperty("milliseconds", std::to_string(clock.elapsed()));
+  EXPECT_LT(clock.elapsed(), 1000);
+  EXPECT_EQ(dynamic_cast<ListBox&>(*Top().Find("lstTabulatedOutput")).items.size(), 2050U);
 }
 
 }  // namespace
