@@ -40,7 +40,8 @@ SmithControls::SmithControls(Page& page, Session& session, std::function<void()>
   cmdZoomIn.onClick = [this] { Zoom(session_.smithView.ZoomFactor * 2); };
   cmdZoomOut.onClick = [this] { Zoom(session_.smithView.ZoomFactor / 2); };
   cmdVSWR.onClick = [this] { ToggleCircle(); };
-  txtVSWR.onChange = [this] { HideCircle(); };
+  txtVSWR.onChange = [this] { EnterVSWR(); };
+  txtVSWR.onLeave = [this] { txtVSWR.text = EntryText(session_.smithView.VSWRCircle, FormatValue); };
   txtAspect.onChange = [this] { EnterAspect(); };
   txtAspect.onLeave = [this] { txtAspect.text = EntryText(session_.record.SmithAspect, FormatValue); };
   UpDown1.onUp = [this] { StepAspect(1); };
@@ -82,9 +83,11 @@ void SmithControls::ToggleCircle() {
 }
 
 // The circle on display is not that of the new figure: it goes, and comes back with the button.
-void SmithControls::HideCircle() {
-  if (session_.smithView.VSWRCircleOn == 0) return;
-  session_.smithView.VSWRCircleOn = 0;
+void SmithControls::EnterVSWR() {
+  SmithView& view = session_.smithView;
+  view.VSWRCircle = Held(txtVSWR, view.VSWRCircle, leastVSWR, mostVSWR);
+  if (view.VSWRCircleOn == 0) return;
+  view.VSWRCircleOn = 0;
   redraw_();
 }
 

@@ -36,7 +36,7 @@ class SmithControls {
   void Zoom(f32 factor);
   void RefreshZoom();
   void ToggleCircle();
-  void HideCircle();
+  void EnterVSWR();
   void EnterAspect();
   void StepAspect(int direction);
 

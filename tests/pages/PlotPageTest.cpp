@@ -130,6 +130,14 @@ TEST_F(SmithPage, TheVSWRButtonTogglesACircleWithinItsLimits) {
   EXPECT_EQ(Get<TextBox>("txtVSWR").text, "1");
 }
 
+TEST_F(SmithPage, TheBoxOfTheVSWRShowsTheHeldFigureWhenItIsLeft) {
+  Type(session, Get<TextBox>("txtVSWR"), "25");
+  EXPECT_EQ(Get<TextBox>("txtVSWR").text, "25");
+  EXPECT_EQ(session.smithView.VSWRCircle, 20);
+  Leave(session, Get<TextBox>("txtVSWR"));
+  EXPECT_EQ(Get<TextBox>("txtVSWR").text, "20");
+}
+
 TEST_F(SmithPage, ANewFigureTakesTheCircleAway) {
   const Picture without = Plot();
   Press("cmdVSWR");
