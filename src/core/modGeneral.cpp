@@ -99,17 +99,6 @@ void TrimAndCut(std::string& text) {
   text.resize(EndOfCharacters(text, longestEntry));
 }
 
-// The number that a text begins with; infinite where it leaves the range of 64 bits, 0 where there is none.
-f64 LeadingNumber(std::string_view text) {
-  if (text.starts_with('+')) text.remove_prefix(1);
-  f64 value = 0;
-  const auto [end, fault] = std::from_chars(text.data(), text.data() + text.size(), value);
-  if (fault != std::errc::result_out_of_range) return value;
-  const std::string_view number(text.data(), static_cast<std::size_t>(end - text.data()));
-  if (number.find("E-") != std::string_view::npos) return 0;
-  return text.front() == '-' ? -HUGE_VAL : HUGE_VAL;
-}
-
 // ---- display --------------------------------------------------------------------------------------------------------
 
 constexpr int byMask = -1;
@@ -222,6 +211,18 @@ std::string PadCell(f32 Value) {
   std::string text = ShortText(Value, LeadingZero::Drop);
   if (text.size() < cellWidth) text.append(cellWidth - text.size(), ' ');
   return text;
+}
+
+f64 LeadingNumber(std::string_view text) {
+  if (text.starts_with('+')) text.remove_prefix(1);
+  f64 value = 0;
+  const auto [end, fault] = std::from_chars(text.data(), text.data() + text.size(), value);
+  // The conversion knows words for what is no number.
+  if (fault != std::errc::result_out_of_range) return std::isfinite(value) ? value : 0;
+  const std::string_view number(text.data(), static_cast<std::size_t>(end - text.data()));
+  const std::size_t exponent = number.find_first_of("eE");
+  if (exponent != std::string_view::npos && number.substr(exponent + 1).starts_with('-')) return 0;
+  return text.front() == '-' ? -HUGE_VAL : HUGE_VAL;
 }
 
 std::string Trimmed(std::string_view text, std::string_view blanks) {

@@ -27,6 +27,10 @@ std::string FormatValue(f32 Value);  // dB figures, scale limits and any general
 // The value as text, filled with blanks to 14 characters.
 std::string PadCell(f32 Value);
 
+// The number that a text begins with, after a plus sign if there is one; 0 where there is none. Infinite where it
+// leaves the range of 64 bits, and 0 where it falls below.
+f64 LeadingNumber(std::string_view text);
+
 // The text without what stands at both its ends of `blanks`.
 std::string Trimmed(std::string_view text, std::string_view blanks = " ");
 

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <charconv>
 #include <cmath>
 #include <span>
 
@@ -43,13 +42,6 @@ void AddDecades(FrequencyGrid& grid, const DesignRecord& record) {
   }
 }
 
-// "15k" begins with 15, whatever the multiplier.
-f64 LeadingNumber(const std::string& text) {
-  f64 number = 0;
-  std::from_chars(text.data(), text.data() + text.size(), number);
-  return number;
-}
-
 // Whether a number is one of `digits` in any of the three decades of a multiplier.
 bool IsMultipleOf(f64 number, std::span<const f64> digits) {
   return std::any_of(digits.begin(), digits.end(),
@@ -60,7 +52,7 @@ bool IsUnnamed(const DesignRecord& record, const std::string& text) {
   static constexpr f64 always[] = {1.5, 7, 9};
   static constexpr f64 overDecades[] = {2, 3, 4, 5, 6, 7, 8, 9};
   static constexpr f64 overOneDecade[] = {3, 4, 6, 7, 8, 9};
-  const f64 number = LeadingNumber(text);
+  const f64 number = LeadingNumber(text);  // "15k" counts as 15, whatever the multiplier
   if (IsMultipleOf(number, always)) return true;
   const f32 ratio = record.Fstop / record.Fstart;
   if (ratio > 1000) return IsMultipleOf(number, overDecades);

@@ -2,20 +2,14 @@
 
 namespace quilm {
 
-void PrintAt(Canvas& canvas, f32 x, f32 y, const std::string& text) {
-  canvas.CurrentX = x;
-  canvas.CurrentY = y;
-  canvas.Print(text);
-}
-
 void PrintEndingAt(Canvas& canvas, f32 x, f32 y, const std::string& text) {
-  PrintAt(canvas, x - canvas.TextWidth(text), y, text);
+  canvas.PrintAt(x - canvas.TextWidth(text), y, text);
 }
 
 void PrintOnPatch(Canvas& canvas, f32 x, f32 y, const std::string& text) {
   constexpr f32 margin = 15;
   canvas.Rectangle(x - margin, y, x + canvas.TextWidth(text) + margin, y + canvas.TextHeight(text), colorWhite, true);
-  PrintAt(canvas, x, y, text);
+  canvas.PrintAt(x, y, text);
 }
 
 void PrintAbout(Canvas& canvas, Point middle, const std::string& text) {
@@ -26,8 +20,8 @@ void DrawFooters(Canvas& canvas) {
   constexpr f32 startLeft = 1400;
   constexpr f32 startRow = 7660;
   canvas.FontSize = labelSize;
-  PrintAt(canvas, footerLeft, footerRow, "Mousedown for data");
-  PrintAt(canvas, startLeft, startRow, "Start");
+  canvas.PrintAt(footerLeft, footerRow, "Mousedown for data");
+  canvas.PrintAt(startLeft, startRow, "Start");
 }
 
 }  // namespace quilm

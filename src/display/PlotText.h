@@ -15,8 +15,7 @@ inline constexpr f32 labelRise = 100;  // from the top of a label's line to the 
 inline constexpr f32 footerRow = 7280;
 inline constexpr f32 footerLeft = 1301;
 
-// A text that begins or ends at x, with its top at y.
-void PrintAt(Canvas& canvas, f32 x, f32 y, const std::string& text);
+// A text that ends at x, with its top at y.
 void PrintEndingAt(Canvas& canvas, f32 x, f32 y, const std::string& text);
 
 // A text on a patch of paper of its own, so that lines below it do not strike it through: with its corner at (x, y), or

@@ -47,12 +47,12 @@ void DrawScale(const DesignRecord& record, const PlotAxis& axis, bool left, Canv
     if (left) {
       PrintEndingAt(canvas, leftLabelsEnd, y, ScaleLabel(scale, part));
     } else {
-      PrintAt(canvas, rightLabelsStart, y, ScaleLabel(scale, part));
+      canvas.PrintAt(rightLabelsStart, y, ScaleLabel(scale, part));
     }
   }
   canvas.FontSize = titleSize;
   if (left) {
-    PrintAt(canvas, leftTitleStart, titleRow, axis.title);
+    canvas.PrintAt(leftTitleStart, titleRow, axis.title);
   } else {
     PrintEndingAt(canvas, rightTitleEnd, titleRow, axis.title);
   }
@@ -63,7 +63,7 @@ void DrawVerticalGrid(const DesignRecord& record, Canvas& canvas) {
   DrawFrequencyLines(grid, canvas);
   canvas.FontSize = labelSize;
   for (const GridLabel& label : LabelsOf(record, grid)) {
-    PrintAt(canvas, 1900 + plotFrame.width * label.fraction, frequencyLabelRow, label.text);
+    canvas.PrintAt(1900 + plotFrame.width * label.fraction, frequencyLabelRow, label.text);
   }
 }
 

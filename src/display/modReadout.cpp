@@ -50,7 +50,7 @@ template <class Texts>
 void PrintColumns(f32 row, const Texts& texts, Canvas& canvas) {
   f32 x = footerLeft;
   for (const auto& text : texts) {
-    PrintAt(canvas, x, row, text);
+    canvas.PrintAt(x, row, text);
     x += ReadoutColumnStep;
   }
 }

@@ -96,9 +96,9 @@ void PrintCornerLabels(const DesignRecord& record, i16 plotCode, Canvas& canvas)
       y += pitch;
     }
   }
-  PrintAt(canvas, corner.left, corner.Bottom() + cornerGap, FormatFrequency(record.Fstart));
+  canvas.PrintAt(corner.left, corner.Bottom() + cornerGap, FormatFrequency(record.Fstart));
   PrintEndingAt(canvas, corner.Right(), corner.Bottom() + cornerGap, FormatFrequency(record.Fstop));
-  PrintAt(canvas, corner.left, cornerTitleRow, "S21");
+  canvas.PrintAt(corner.left, cornerTitleRow, "S21");
   if (plotCode == polarCode) PrintEndingAt(canvas, corner.Right(), cornerTitleRow, "S21 angle");
 }
 

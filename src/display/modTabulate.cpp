@@ -52,9 +52,7 @@ template <class Texts>
 void PrintRow(Canvas& printer, f32 y, const Texts& texts) {
   f32 x = leftMargin;
   for (const std::string_view text : texts) {
-    printer.CurrentX = x;
-    printer.CurrentY = y;
-    printer.Print(text);
+    printer.PrintAt(x, y, text);
     x += columnPitch;
   }
 }
@@ -65,9 +63,7 @@ void PrintHeadings(Canvas& printer) {
 }
 
 void PrintFoot(const DesignRecord& record, Canvas& printer) {
-  printer.CurrentX = leftMargin;
-  printer.CurrentY = footRow;
-  printer.Print(record.DesignFileName);
+  printer.PrintAt(leftMargin, footRow, record.DesignFileName);
 }
 
 }  // namespace
@@ -88,9 +84,7 @@ void PrintTable(const DesignRecord& record, const Responses& responses, Canvas& 
   printer.SetScale(paper);
   printer.FontName = "Courier New";
   printer.FontSize = 9;
-  printer.CurrentX = leftMargin;
-  printer.CurrentY = titleRow;
-  printer.Print("Tabulated Responses");
+  printer.PrintAt(leftMargin, titleRow, "Tabulated Responses");
   const int last = LastPoint(record);
   for (int i = 0; i <= last; ++i) {
     const int line = i % rowsPerSheet;

@@ -1,7 +1,6 @@
 #include "files/ReadDesign.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cmath>
 
 #include "core/NumericFault.h"
@@ -21,20 +20,10 @@ constexpr int mostMarkerWords = 10;
 constexpr int mostZeros = 41;
 constexpr std::size_t longestTitle = 80;
 
-// The leading number of a word; text without one is 0. Conversion stops at a comma.
-f64 LeadingNumber(const std::string& word) {
-  const char* first = word.c_str();
-  const char* last = first + word.size();
-  if (first != last && *first == '+') ++first;
-  if (first == last || !((*first >= '0' && *first <= '9') || *first == '.' || *first == '-')) return 0;
-  f64 value = 0;
-  const auto result = std::from_chars(first, last, value);
-  if (result.ec == std::errc::invalid_argument || std::isnan(value)) return 0;
-  if (result.ec == std::errc::result_out_of_range) {
-    const bool tiny = word.find("E-") != std::string::npos || word.find("e-") != std::string::npos;
-    if (!tiny) throw NumericFault("Overflow");
-    return 0;
-  }
+// Conversion stops at a comma: "1,5" is 1.
+f64 PlainNumber(const std::string& word) {
+  const f64 value = LeadingNumber(word);
+  if (std::isinf(value)) throw NumericFault("Overflow");
   return value;
 }
 
@@ -71,8 +60,8 @@ class Reader {
     marker_ = marker;
     words_.Continue(lines_.Take());
   }
-  f32 Plain() { return Fitting(LeadingNumber(words_.Next())); }
-  f64 PlainWhole() { return std::floor(LeadingNumber(words_.Next())); }
+  f32 Plain() { return Fitting(PlainNumber(words_.Next())); }
+  f64 PlainWhole() { return std::floor(PlainNumber(words_.Next())); }
   f32 Entry() { return Engineering(words_.Next()); }
   bool TakeAnswer() { return UpperCase(lines_.Take()) == "Y"; }
 
@@ -316,7 +305,7 @@ void Reader::LimitsOfPlot(int plot) {
   marker_ = "Plot # " + std::to_string(plot) + " - 545";
   const std::string& countLine = lines_.Take();
   marker_ = "Number of limits:" + countLine + " - 545";
-  const f64 count = LeadingNumber(countLine);
+  const f64 count = PlainNumber(countLine);
   if (count > limitsPerPlot) throw BoundFault();
   record_.LimitCount[plot] = ToI16(count);
   for (int j = 1; j <= record_.LimitCount[plot]; ++j) {

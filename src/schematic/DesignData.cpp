@@ -109,17 +109,11 @@ void DrawDesignData(const DesignRecord& record, f32 left, f32 top, Canvas& canva
   f32 x = left;
   std::size_t column = 0;
   for (const DataGroup& group : DesignData(record)) {
-    canvas.CurrentX = x;
-    canvas.CurrentY = top;
     canvas.FontBold = true;
-    if (!group.heading.empty()) canvas.Print(group.heading);
+    if (!group.heading.empty()) canvas.PrintAt(x, top, group.heading);
     canvas.FontBold = false;
     f32 y = top;
-    for (const std::string& row : group.rows) {
-      canvas.CurrentX = x;
-      canvas.CurrentY = y += rowPitch;
-      canvas.Print(row);
-    }
+    for (const std::string& row : group.rows) canvas.PrintAt(x, y += rowPitch, row);
     x += columnPitches[column++];
   }
 }

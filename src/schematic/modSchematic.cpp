@@ -43,17 +43,11 @@ constexpr f32 tolerancesBelow = 3300;
 constexpr f32 dataLeft = 400;
 constexpr f32 dataTop = 5800;
 
-void PrintAt(Canvas& canvas, f32 x, f32 y, const std::string& text) {
-  canvas.CurrentX = x;
-  canvas.CurrentY = y;
-  canvas.Print(text);
-}
-
 int StagesToDraw(const DesignRecord& record) { return std::min(record.Stages, record.StagesMax); }
 
 void PrintLabel(Canvas& canvas, f32 x, f32 y, const StageLabel& label) {
   canvas.ForeColor = label.negative ? colorRed : colorBlack;
-  PrintAt(canvas, x, y, label.text);
+  canvas.PrintAt(x, y, label.text);
   canvas.ForeColor = colorBlack;
 }
 
@@ -97,14 +91,14 @@ class Drawing {
     if (width == 0) return;
     Boundary(x);
     canvas_.PSet(x + numberRight, SchemY + numberAbove, colorWhite);
-    PrintAt(canvas_, x + numberRight, SchemY + numberAbove, std::to_string(s));
+    canvas_.PrintAt(x + numberRight, SchemY + numberAbove, std::to_string(s));
     DrawStage(canvas_, stage.ElementType, StageBox{x, SchemY, width, railGap}, colorBlack, Form());
     if (stage.ElementType == CoupledInductors) PrintCoupling(x + width / 2);
     PrintValues(stage, x);
     if (view_.ShowQ) PrintLosses(stage, x);
     f32 y = SchemY + tolerancesBelow;
     for (const std::string& text : ToleranceLabels(stage)) {
-      PrintAt(canvas_, x + tolerancesRight, y, text);
+      canvas_.PrintAt(x + tolerancesRight, y, text);
       y += labelPitch;
     }
     x += width;
@@ -113,7 +107,7 @@ class Drawing {
   // The letter between the windings.
   void PrintCoupling(f32 middle) {
     constexpr f32 below = 60;
-    PrintAt(canvas_, middle - canvas_.TextWidth("K") / 2, SchemY + below, "K");
+    canvas_.PrintAt(middle - canvas_.TextWidth("K") / 2, SchemY + below, "K");
   }
 
   // Above the upper rail one over the other; the third of a stage stands below the lower rail, as does the second
@@ -141,8 +135,8 @@ class Drawing {
     for (const LossLabel& label : LossLabels(record_, stage, Fq_)) {
       const Part resistor = Part::Resistor;
       DrawChain(Run(canvas_, {x, y}, Run::Way::Right, colorBlack), {&resistor, 1}, 60, 60 + symbolWidth, symbolSize);
-      PrintAt(canvas_, x + 60, y + textBelow, label.heading);
-      PrintAt(canvas_, x + 60, y + textBelow + labelPitch, label.value);
+      canvas_.PrintAt(x + 60, y + textBelow, label.heading);
+      canvas_.PrintAt(x + 60, y + textBelow + labelPitch, label.value);
       y += lossPitch;
     }
   }
@@ -186,7 +180,7 @@ class Drawing {
     constexpr f32 edge = 200;
     constexpr f32 rise = 280;
     canvas_.FontBold = true;
-    PrintAt(canvas_, pageRight - edge, bandBottom - rise, " >");
+    canvas_.PrintAt(pageRight - edge, bandBottom - rise, " >");
     canvas_.FontBold = false;
   }
 
@@ -258,15 +252,15 @@ void DrawArtwork(const DesignRecord& record, SchematicMode mode, Canvas& canvas)
   for (const ArtworkStage& stage : stages) {
     const StageBox& box = stage.box;
     const std::string number = std::to_string(stage.number);
-    PrintAt(canvas, box.x + (box.width - canvas.TextWidth(number)) / 2, box.y - numberAboveRail, number);
+    canvas.PrintAt(box.x + (box.width - canvas.TextWidth(number)) / 2, box.y - numberAboveRail, number);
     DrawStage(canvas, record.stage[stage.number].ElementType, box, colorBlack, form);
   }
   const StageBox& first = stages.front().box;
   const StageBox& last = stages.back().box;
   DrawTerminals(canvas, first.x - terminalRadius, first.y, railGap, colorBlack);
   DrawTerminals(canvas, last.x + last.width + terminalRadius, last.y, railGap, colorBlack);
-  PrintAt(canvas, first.x, lastRail + ratiosBelow, CapacitorRatioText(record));
-  PrintAt(canvas, first.x + ratioPitch, lastRail + ratiosBelow, InductorRatioText(record));
+  canvas.PrintAt(first.x, lastRail + ratiosBelow, CapacitorRatioText(record));
+  canvas.PrintAt(first.x + ratioPitch, lastRail + ratiosBelow, InductorRatioText(record));
 }
 
 bool HasNegativePart(const DesignRecord& record) {

@@ -31,6 +31,12 @@ void Canvas::Print(std::string_view text) {
   CurrentY += TextHeight(text);
 }
 
+void Canvas::PrintAt(f32 x, f32 y, std::string_view text) {
+  CurrentX = x;
+  CurrentY = y;
+  Print(text);
+}
+
 f32 Canvas::TextWidth(std::string_view text) const {
   return static_cast<f32>(Metrics().WidthInPoints(text, CurrentFont()) * twipsPerPoint);
 }

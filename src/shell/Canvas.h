@@ -82,6 +82,9 @@ class Canvas {
   // of the text.
   void Print(std::string_view text);
 
+  // The same with the corner at (x, y).
+  void PrintAt(f32 x, f32 y, std::string_view text);
+
   f32 TextWidth(std::string_view text) const;
   f32 TextHeight(std::string_view text) const;
 

@@ -120,9 +120,7 @@ void PrintNorms(const DesignRecord& record, Canvas& printer) {
       printer.NewPage();
       y = topMargin;
     }
-    printer.CurrentX = leftMargin;
-    printer.CurrentY = y;
-    printer.Print(text);
+    printer.PrintAt(leftMargin, y, text);
     y += rowPitch;
   };
   print("Normalized values");

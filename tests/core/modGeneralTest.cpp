@@ -174,5 +174,19 @@ TEST(Helpers, SwapValues) {
   EXPECT_EQ(b, 1);
 }
 
+TEST(LeadingNumber, IsWhatATextBeginsWith) {
+  const std::pair<const char*, f64> cases[] = {
+      {"15k", 15}, {"+2.5", 2.5}, {"1,5", 1},          {"-3e2x", -300},      {"x1", 0},
+      {"", 0},     {"+", 0},      {"1e-999", 0},       {"inf", 0},           {"-inf", 0},
+      {"nan", 0},  {".5", 0.5},   {"1e999", HUGE_VAL}, {"-1E999", -HUGE_VAL}};
+  for (const auto& [text, value] : cases) EXPECT_EQ(LeadingNumber(text), value) << text;
+}
+
+TEST(Trimmed, TakesTheBlanksAtBothEnds) {
+  EXPECT_EQ(Trimmed("  a b "), "a b");
+  EXPECT_EQ(Trimmed("   "), "");
+  EXPECT_EQ(Trimmed("\ta \r", " \t\r"), "a");
+}
+
 }  // namespace
 }  // namespace quilm

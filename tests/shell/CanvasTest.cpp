@@ -54,6 +54,13 @@ TEST(Canvas, PrintMovesOneLineDownAndNotAside) {
   EXPECT_FLOAT_EQ(picture.CurrentY, 280);
 }
 
+TEST(Canvas, PrintAtPutsTheCornerOfTheTextThere) {
+  Picture picture;
+  picture.PrintAt(300, 400, "text");
+  EXPECT_EQ(std::get<TextOp>(picture.Operations().front()).at, (Point{300, 400}));
+  EXPECT_EQ(picture.CurrentX, 300);
+}
+
 TEST(Canvas, PrintOfTwoLinesMovesTwoLinesDown) {
   Picture picture;
   picture.FontSize = 10;
