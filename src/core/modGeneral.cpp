@@ -84,20 +84,7 @@ class EntryScanner {
   f32 scale_ = 1;
 };
 
-// Where the first `count` characters of a UTF-8 text end. A cut between the bytes of one would leave a broken text.
-std::size_t EndOfCharacters(std::string_view text, std::size_t count) {
-  const auto begins = [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; };
-  std::size_t seen = 0;
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    if (begins(text[i]) && ++seen > count) return i;
-  }
-  return text.size();
-}
-
-void TrimAndCut(std::string& text) {
-  text = Trimmed(text);
-  text.resize(EndOfCharacters(text, longestEntry));
-}
+void TrimAndCut(std::string& text) { text = FirstCharacters(Trimmed(text), longestEntry); }
 
 // ---- display --------------------------------------------------------------------------------------------------------
 
@@ -223,6 +210,15 @@ f64 LeadingNumber(std::string_view text) {
   const std::size_t exponent = number.find_first_of("eE");
   if (exponent != std::string_view::npos && number.substr(exponent + 1).starts_with('-')) return 0;
   return text.front() == '-' ? -HUGE_VAL : HUGE_VAL;
+}
+
+std::string FirstCharacters(std::string_view text, std::size_t count) {
+  constexpr std::size_t mostBytes = 4;  // of a character
+  const auto begins = [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; };
+  std::size_t seen = 0;
+  std::size_t end = 0;
+  while (end < text.size() && end < mostBytes * count && !(begins(text[end]) && ++seen > count)) ++end;
+  return std::string(text.substr(0, end));
 }
 
 std::string Trimmed(std::string_view text, std::string_view blanks) {

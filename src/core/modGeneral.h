@@ -31,6 +31,10 @@ std::string PadCell(f32 Value);
 // leaves the range of 64 bits, and 0 where it falls below.
 f64 LeadingNumber(std::string_view text);
 
+// The first `count` characters of a UTF-8 text. A cut between the bytes of one would leave a broken text. Of a text in
+// another encoding at least as many bytes stay.
+std::string FirstCharacters(std::string_view text, std::size_t count);
+
 // The text without what stands at both its ends of `blanks`.
 std::string Trimmed(std::string_view text, std::string_view blanks = " ");
 

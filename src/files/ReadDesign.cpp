@@ -97,7 +97,7 @@ void Reader::Identity() {
   marker_ = "42";
   lines_.Take();  // the header is not examined: there is no version test
   marker_ = "46";
-  record_.CircuitTitle = lines_.Take().substr(0, longestTitle);
+  record_.CircuitTitle = FirstCharacters(lines_.Take(), longestTitle);
   marker_ = "52";
   record_.DesignDate = lines_.Take();
   marker_ = "57";

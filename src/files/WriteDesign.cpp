@@ -5,6 +5,7 @@
 #include <initializer_list>
 
 #include "core/NumberText.h"
+#include "core/modGeneral.h"
 
 namespace quilm {
 
@@ -39,7 +40,7 @@ i16 CauerCode(const DesignRecord& record) {
 
 void WriteHead(DesignRecord& record, const std::string& date, Writer& out) {
   out.Line("Quilm circuit file " + std::to_string(record.StagesMax));
-  out.Line(record.CircuitTitle.size() < 2 ? "Untitled" : record.CircuitTitle.substr(0, longestTitle));
+  out.Line(record.CircuitTitle.size() < 2 ? "Untitled" : FirstCharacters(record.CircuitTitle, longestTitle));
   out.Line(date);
   out.Line("* Added Information:");
   if (record.AddedInfo.size() < 2 || record.AddedInfo.front() == '(') record.AddedInfo = " ";

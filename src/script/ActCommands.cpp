@@ -1,6 +1,7 @@
 // What a user does to the page on top.
 #include <limits>
 
+#include "core/modGeneral.h"
 #include "script/Commands.h"
 #include "shell/Acts.h"
 #include "shell/Page.h"
@@ -37,8 +38,9 @@ void TypeKeys(ScriptRun& run, TextBox& box, std::string_view keys) {
   while (!keys.empty()) {
     const std::string_view key = FirstCharacter(keys);
     keys.remove_prefix(key.size());
-    if (before.size() + key.size() > static_cast<std::size_t>(box.maxLength)) return;
-    Type(run.session, box, before + std::string(key));
+    const std::string longer = before + std::string(key);
+    if (FirstCharacters(longer, static_cast<std::size_t>(box.maxLength)) != longer) return;
+    Type(run.session, box, longer);
     if (run.session.ended) return;
     if (run.session.pages.Top() != &page) break;
     before = box.text;

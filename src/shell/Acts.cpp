@@ -2,6 +2,7 @@
 
 #include <exception>
 
+#include "core/modGeneral.h"
 #include "shell/Page.h"
 #include "shell/Session.h"
 
@@ -65,8 +66,7 @@ void Click(Session& session, Control& control) {
 void Type(Session& session, TextBox& box, std::string text) {
   Require(box);
   if (box.readOnly) throw ActRefused(box.name + " cannot be typed in");
-  if (text.size() > static_cast<std::size_t>(box.maxLength)) text.resize(static_cast<std::size_t>(box.maxLength));
-  box.text = std::move(text);
+  box.text = FirstCharacters(text, static_cast<std::size_t>(box.maxLength));
   RunHandler(session, box.onChange);
 }
 

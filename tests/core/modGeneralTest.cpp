@@ -182,6 +182,14 @@ TEST(LeadingNumber, IsWhatATextBeginsWith) {
   for (const auto& [text, value] : cases) EXPECT_EQ(LeadingNumber(text), value) << text;
 }
 
+TEST(FirstCharacters, CountsCharactersAndNotBytes) {
+  EXPECT_EQ(FirstCharacters("abc", 2), "ab");
+  EXPECT_EQ(FirstCharacters("\u03a9\u03a9\u03a9", 2), "\u03a9\u03a9");
+  EXPECT_EQ(FirstCharacters("ab", 5), "ab");
+  EXPECT_EQ(FirstCharacters("ab", 0), "");
+  EXPECT_EQ(FirstCharacters(std::string(100, '\x80'), 3).size(), 12U);
+}
+
 TEST(Trimmed, TakesTheBlanksAtBothEnds) {
   EXPECT_EQ(Trimmed("  a b "), "a b");
   EXPECT_EQ(Trimmed("   "), "");

@@ -89,6 +89,12 @@ TEST_F(ActsTest, ABoxTakesNoMoreThanItsLength) {
   EXPECT_EQ(page.txtValue.text, "123");
 }
 
+TEST_F(ActsTest, ABoxIsCutBetweenCharacters) {
+  page.txtValue.maxLength = 2;
+  Type(session, page.txtValue, "5\u00b5\u03a9");
+  EXPECT_EQ(page.txtValue.text, "5\u00b5");
+}
+
 TEST_F(ActsTest, SpinsGoUpAndDown) {
   page.UpDown1.onUp = [&] { bench.log.push_back("up"); };
   page.UpDown1.onDown = [&] { bench.log.push_back("down"); };
