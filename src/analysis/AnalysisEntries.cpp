@@ -10,20 +10,6 @@ namespace quilm {
 
 namespace {
 
-// Lines of the configuration.
-enum Setting {
-  settingQcap = 1,
-  settingQind = 3,
-  settingXints = 6,
-  settingYints = 7,
-  settingIntervals = 8,
-  settingDelayTop = 9,
-  settingImpedanceTop = 10,
-  settingLossBottom = 11,
-  settingFstart = 13,
-  settingFstop = 14,
-};
-
 constexpr f32 highestDelay = 6;
 constexpr f32 highestImpedance = 600000;
 
@@ -44,18 +30,17 @@ f32 ReferenceOf(const DesignRecord& record) {
 
 void FillMissingEntries(DesignRecord& record, const Configuration& configuration) {
   const auto& configured = configuration.ConfigValue;
-  if (record.Fstart <= 0) record.Fstart = AboveZero(configured[settingFstart], 100);
-  if (record.Fstop <= 0) record.Fstop = AboveZero(configured[settingFstop], 100000000);
-  if (record.NrIntervals <= 0) record.NrIntervals = AboveZero(configured[settingIntervals], 1000);
+  if (record.Fstart <= 0) record.Fstart = AboveZero(configured[lineFstart], 100);
+  if (record.Fstop <= 0) record.Fstop = AboveZero(configured[lineFstop], 100000000);
+  if (record.NrIntervals <= 0) record.NrIntervals = AboveZero(configured[lineNrIntervals], 1000);
   record.SweepMode = std::clamp<i16>(record.SweepMode, 1, 2);
-  if (record.NrXints < 1) record.NrXints = ToI16(static_cast<f64>(AboveZero(configured[settingXints], 10)));
-  if (record.NrYints < 1) record.NrYints = AboveZero(configured[settingYints], 6);
-  if (record.LossBottom >= 0)
-    record.LossBottom = configured[settingLossBottom] < 0 ? configured[settingLossBottom] : -60;
-  if (record.DelayTop == 0) record.DelayTop = DelayOfDesign(record, configured[settingDelayTop], 0.001F);
-  if (record.ImpedanceTop <= 0) record.ImpedanceTop = AboveZero(configured[settingImpedanceTop], 120);
-  if (record.Qind[1] <= 0) record.Qind[1] = AboveZero(configured[settingQind], 200);
-  if (record.Qcap[1] <= 0) record.Qcap[1] = AboveZero(configured[settingQcap], 2000);
+  if (record.NrXints < 1) record.NrXints = ToI16(static_cast<f64>(AboveZero(configured[lineNrXints], 10)));
+  if (record.NrYints < 1) record.NrYints = AboveZero(configured[lineNrYints], 6);
+  if (record.LossBottom >= 0) record.LossBottom = configured[lineLossBottom] < 0 ? configured[lineLossBottom] : -60;
+  if (record.DelayTop == 0) record.DelayTop = DelayOfDesign(record, configured[lineDelayTop], 0.001F);
+  if (record.ImpedanceTop <= 0) record.ImpedanceTop = AboveZero(configured[lineImpedanceTop], 120);
+  if (record.Qind[1] <= 0) record.Qind[1] = AboveZero(configured[lineQind], 200);
+  if (record.Qcap[1] <= 0) record.Qcap[1] = AboveZero(configured[lineQcap], 2000);
   if (record.Rstandard <= 0) record.Rstandard = ReferenceOf(record);
 }
 
@@ -65,7 +50,7 @@ void HoldAnalysisEntries(DesignRecord& record, const Configuration& configuratio
   record.NrIntervals = std::clamp(record.NrIntervals, 4.0F, 2049.0F);
   record.LossBottom = std::clamp(-std::fabs(record.LossBottom), -120.0F, -0.6F);
   if (record.DelayTop <= 0) {
-    record.DelayTop = DelayOfDesign(record, configuration.ConfigValue[settingDelayTop], 0.0012F);
+    record.DelayTop = DelayOfDesign(record, configuration.ConfigValue[lineDelayTop], 0.0012F);
   }
   record.DelayTop = std::min(record.DelayTop, highestDelay);
   record.VSWRTop = std::clamp(record.VSWRTop, 1.05F, 7.0F);

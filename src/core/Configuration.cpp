@@ -40,13 +40,7 @@ constexpr Setting First(const char* label, f32 byDefault) {
           [](DesignRecord& r, f32 x) { (r.*field)[1] = x; }};
 }
 
-constexpr int lineUnits = 2;
-constexpr int lineRsource = 4;
-constexpr int lineNrYints = 7;
-constexpr int lineSmithAspect = 16;
-constexpr int lineLineWidth = 17;
-
-// In the order of the file's lines.
+// In the order of ConfigLine.
 const std::array<Setting, settingCount> settings = {{
     First<&DesignRecord::Qcap>("Capacitor Q values:", 2000),
     Count<&DesignRecord::Units>("EnglishMetric:", 1),

@@ -10,7 +10,28 @@
 
 namespace quilm {
 
-inline constexpr int settingCount = 17;
+// The lines of the file, by which ConfigValue is numbered.
+enum ConfigLine {
+  lineQcap = 1,
+  lineUnits,
+  lineQind,
+  lineRsource,
+  lineSweepMode,
+  lineNrXints,
+  lineNrYints,
+  lineNrIntervals,
+  lineDelayTop,
+  lineImpedanceTop,
+  lineLossBottom,
+  lineRstandard,
+  lineFstart,
+  lineFstop,
+  lineVSWRTop,
+  lineSmithAspect,
+  lineLineWidth,
+};
+
+inline constexpr int settingCount = lineLineWidth;
 
 // The settings as they were read at start, by their line in the file. They stand by for fields that are empty when the
 // file is written.
