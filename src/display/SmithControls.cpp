@@ -105,9 +105,10 @@ void SmithControls::StepAspect(int direction) {
   redraw_();
 }
 
+// They hold their place on the other plots, so that the picture keeps its size from plot to plot.
 Layout SmithControls::MakeLayout() {
-  return Column({Grid(1, {Put(cmdZoomIn), Put(cmdZoomOut), Put(cmdVSWR), Put(txtVSWR)}),
-                 Row({Put(lblAspect), Put(txtAspect), Put(UpDown1)}), Put(txtAspectEntry)});
+  return KeepPlace(Column({Grid(1, {Put(cmdZoomIn), Put(cmdZoomOut), Put(cmdVSWR), Put(txtVSWR)}), Put(lblAspect),
+                           Row({Put(txtAspect), Put(UpDown1)}), Put(txtAspectEntry)}));
 }
 
 }  // namespace quilm
