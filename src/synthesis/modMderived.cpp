@@ -99,7 +99,8 @@ int BuildChain(DesignRecord& record, const Sections& sections) {
 }  // namespace
 
 bool IsInStopband(const DesignRecord& record, f32 zero) {
-  return IsHighpass(record) ? zero < record.Width : zero > record.Width;
+  // The section of a highpass squares the frequency, so that one far below 0 would be as far above the band's end.
+  return IsHighpass(record) ? std::fabs(zero) < record.Width : zero > record.Width;
 }
 
 bool HasMderivedZeros(const DesignRecord& record) {

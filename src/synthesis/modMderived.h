@@ -11,7 +11,8 @@ namespace quilm {
 
 inline constexpr int mostMderivedZeros = 5;
 
-// Whether a zero (Hz) lies in the stopband: above Width, and for a highpass below it.
+// Whether a zero (Hz) lies in the stopband: above Width, and for a highpass below it, where the sign counts for
+// nothing.
 bool IsInStopband(const DesignRecord& record, f32 zero);
 
 // Whether MderivedZero[1..5] holds any zero.

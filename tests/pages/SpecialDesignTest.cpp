@@ -28,6 +28,31 @@ class SpecialDesign : public PageBench {
   }
 
   DesignRecord& Record() { return session.record; }
+
+  // Saves the network and gets it back after another one was made. The families of a network made by hand are open
+  // again when the Design page is next loaded.
+  void SaveAndGet() {
+    const std::string path = platform.ProgramFolder() + "/special.QLM";
+    platform.files.push_back(path);
+    Press("cmdSave");
+    Press("cmdPlot");
+    Press("cmdDesign");
+    Press("optButterworth");
+    Press("cmdPlot");
+    Press("cmdDesign");
+    platform.files.push_back(path);
+    Press("cmdGet");
+  }
+
+  // The design file has seven significant digits.
+  void ExpectStages(const DesignRecord& expected) {
+    ASSERT_EQ(Record().Stages, expected.Stages);
+    for (int s = 1; s <= expected.Stages; ++s) {
+      EXPECT_EQ(Record().stage[s].ElementType, expected.stage[s].ElementType) << s;
+      EXPECT_NEAR(Record().stage[s].Lval.value, expected.stage[s].Lval.value, 1e-6 * expected.stage[s].Lval.value) << s;
+      EXPECT_NEAR(Record().stage[s].Cval.value, expected.stage[s].Cval.value, 1e-6 * expected.stage[s].Cval.value) << s;
+    }
+  }
 };
 
 class MderivedPage : public SpecialDesign {
@@ -93,6 +118,19 @@ TEST_F(MderivedPage, AHighpassHasItsZerosBelow) {
     EnterZeros({"800k"});
   });
   EXPECT_EQ(Record().Order, 7);
+}
+
+TEST_F(MderivedPage, AHighpassTakesNoZeroFarBelowNought) {
+  Press("optCapInHighpass");
+  PressAndThen("optMderived", PageId::Mderived, [this] {
+    const DesignRecord before = Record();
+    Enter("txtZeroFreq1", "-2M");
+    Press("cmdOk");
+    EXPECT_EQ(MessageTexts().back(), "The zero frequency must be lower than 1000000");
+    EXPECT_EQ(Get<TextBox>("txtZeroFreq1").text, "0");
+    EXPECT_EQ(Record(), before);
+    Press("cmdIgnore");
+  });
 }
 
 TEST_F(MderivedPage, IgnoringItLeavesTheRecordAndMakesNoNetworkOfAnotherFamily) {
@@ -172,6 +210,19 @@ TEST_F(SinglyTerminatedPage, AcceptingMakesTheNetwork) {
   Press("cmdPlot");
   EXPECT_EQ(Top().Id(), PageId::Plotted);
   EXPECT_EQ(Record().stage[1].Lval.value, first);
+}
+
+TEST_F(SinglyTerminatedPage, TheNetworkSurvivesTheDesignFile) {
+  Open([this] { Press("cmdExit"); });
+  const DesignRecord made = Record();
+  SaveAndGet();
+  EXPECT_EQ(Record().Family, familyManual);
+  EXPECT_EQ(Record().Rsource[1], 0.01F);
+  EXPECT_EQ(Record().Rload[1], 10000);
+  ExpectStages(made);
+  Press("cmdPlot");
+  EXPECT_EQ(Top().Id(), PageId::Plotted);
+  ExpectStages(made);
 }
 
 TEST_F(SinglyTerminatedPage, TheBandpassHasACentre) {
@@ -255,6 +306,24 @@ TEST_F(EndSectionsPage, AcceptingAddsAStageAtEachEnd) {
   EXPECT_TRUE(Get<OptionButton>("optManual").Value());
   Press("cmdPlot");
   EXPECT_EQ(Top().Id(), PageId::Plotted);
+  EXPECT_EQ(Record().Stages, 5);
+}
+
+TEST_F(EndSectionsPage, TheNetworkSurvivesTheDesignFile) {
+  Open([this] { Press("cmdOk"); });
+  const DesignRecord made = Record();
+  SaveAndGet();
+  EXPECT_EQ(Record().Family, familyManual);
+  ExpectStages(made);
+  Press("cmdPlot");
+  EXPECT_EQ(Top().Id(), PageId::Plotted);
+  ExpectStages(made);
+}
+
+TEST_F(EndSectionsPage, TheyAreNotAddedTwice) {
+  Open([this] { Press("cmdOk"); });
+  Press("Command11");
+  EXPECT_EQ(MessageTexts().back(), "End sections need plain inductors and capacitors at both ends of the network.");
   EXPECT_EQ(Record().Stages, 5);
 }
 

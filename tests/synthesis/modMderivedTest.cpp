@@ -127,12 +127,32 @@ TEST(Mderived, ThePassbandIsFlatWithMatchingEnds) {
 }
 
 TEST(Mderived, EveryZeroIsAPoleOfTheLoss) {
+  const std::initializer_list<f32> sets[] = {
+      {2}, {1.2F, 1.1F}, {1.2F, 1.1F, 1.35F}, {1.1F, 1.35F, 1.6F, 2}, {1.2F, 1.1F, 1.35F, 1.6F, 2}};
   for (const char* topology : topologies) {
-    const DesignRecord record = Network(topology, {1.2F, 1.1F, 1.35F, 1.6F, 2});
-    for (const f64 zero : {1.2, 1.1, 1.35, 1.6, 2.0}) {
-      EXPECT_GT(LosslessLoss(record, Mapped(record, zero)), 100) << topology << " at " << zero;
+    for (const auto& zeros : sets) {
+      const DesignRecord record = Network(topology, zeros);
+      for (const f32 zero : zeros) {
+        EXPECT_GT(LosslessLoss(record, Mapped(record, f64{zero})), 100) << topology << " at " << zero;
+      }
     }
   }
+}
+
+TEST(Mderived, TheStopbandOfAHighpassLiesBelowInMagnitude) {
+  DesignRecord record;
+  record.Width = width;
+  for (const char* topology : {"I", "J"}) {
+    record.Topology = topology;
+    EXPECT_TRUE(IsInStopband(record, 0.8F * width)) << topology;
+    EXPECT_FALSE(IsInStopband(record, width)) << topology;
+    EXPECT_FALSE(IsInStopband(record, 1.2F * width)) << topology;
+    EXPECT_FALSE(IsInStopband(record, -2 * width)) << topology;
+  }
+  record.Topology = "A";
+  EXPECT_TRUE(IsInStopband(record, 1.2F * width));
+  EXPECT_FALSE(IsInStopband(record, width));
+  EXPECT_FALSE(IsInStopband(record, -2 * width));
 }
 
 TEST(Mderived, TheEmptyEndsLeaveNoStages) {
