@@ -12,7 +12,7 @@ endif()
 
 find_program(QUILM_CCACHE ccache)
 if(QUILM_CCACHE)
-  set(CMAKE_CXX_COMPILER_LAUNCHER "${QUILM_CCACHE}")
+  set(CMAKE_CXX_COMPILER_LAUNCHER "${CMAKE_COMMAND}" -E env CCACHE_SLOPPINESS=pch_defines,time_macros "${QUILM_CCACHE}")
 endif()
 
 add_library(quilm-options INTERFACE)
@@ -23,6 +23,8 @@ target_compile_options(quilm-options INTERFACE -ffp-contract=off -Wall -Wextra -
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
   # GCC 12 warns of overlaps and overflows in std::string that cannot happen (GCC bugs 105329 and 105651).
   target_compile_options(quilm-options INTERFACE -Wno-restrict -Wno-stringop-overflow)
+  # Without this the compiler cache cannot see through precompiled headers.
+  target_compile_options(quilm-options INTERFACE -fpch-preprocess)
 endif()
 if(QUILM_STRICT)
   target_compile_options(quilm-options INTERFACE -Werror)

@@ -1,65 +1,96 @@
 """Fails when an include breaks the order in which the folders of src/ may know one another.
 
-Modules go one way between folders (docs/architecture.md). Pages, the files named frm* and those of src/pages, may
-include any module and never another page; the page directory alone knows them all. Only src/app includes Qt, and
-nothing includes src/app or src/script.
+A folder includes what stands before it in ORDER; folders of one set are neighbours that do not know each other
+(docs/architecture.md). Pages never include a page of another area, nor another page of their own: the page directory
+alone knows them all. Only src/app includes Qt, and nothing includes the front ends. What is a page, or belongs to pages,
+stands in src/pages and nowhere else.
 """
 
 import pathlib
 import re
 import sys
 
-ORDER = ["core", "shell", "analysis", "schematic", "synthesis", "files", "display"]
-LAST = ["transforms", "optimize", "timedomain", "editing", "inductors", "diplexer", "guidance"]
-FRONT_ENDS = ["app", "script"]
+ORDER = [
+    {"core"},
+    {"shell"},
+    {"analysis"},
+    {"network"},
+    {"synthesis"},
+    {"diplexer"},
+    {"optimise", "timedomain", "coils"},
+    {"schematic"},
+    {"display"},
+    {"files"},
+    {"reports"},
+    {"desk"},
+    {"pages"},
+    {"app", "script"},
+]
+RANK = {folder: rank for rank, folders in enumerate(ORDER) for folder in folders}
 INCLUDE = re.compile(r'^\s*#\s*include\s+([<"])([^>"]+)[>"]', re.MULTILINE)
 PAGE_DIRECTORY = "src/pages/PageDirectory.cpp"
-# Pages that share one file pair because they share one class.
-PAGE_PAIRS = ("frm", "EntryForms")
-
-
-def rank(folder):
-    return ORDER.index(folder) if folder in ORDER else len(ORDER)
 
 
 def is_page(stem):
-    return stem.startswith(PAGE_PAIRS)
+    return stem.startswith("frm")
+
+
+def is_its_own_page(path, stem):
+    """A page may be spread over sources that bear its name and more: frmDesign and frmDesignLayout."""
+    return path.stem.startswith(stem)
+
+
+def fault_between_pages(path, included):
+    """Says why one file of src/pages must not include another, or returns None."""
+    target = pathlib.PurePath(included)
+    if str(path) == PAGE_DIRECTORY:
+        return None
+    if is_page(target.stem) and not is_its_own_page(path, target.stem):
+        return "pages never include one another"
+    if path.parts[1:3] != ("pages", target.parts[1]) or len(target.parts) != 3:
+        return "areas of pages do not know each other"
+    return None
 
 
 def fault(path, included):
     """Says why `path` must not include `included`, or returns None."""
     folder = path.parts[1]
     target = included.split("/")[0]
-    page_file = is_page(path.stem) or path.stem.endswith("Layout") or folder == "pages"
-    target_stem = pathlib.PurePath(included).stem
-    if target in FRONT_ENDS and folder != target:
+    if target not in RANK:
+        return "there is no such folder in the order of layers"
+    if folder == target:
+        return fault_between_pages(path, included) if folder == "pages" else None
+    if target in ("app", "script"):
         return "nothing includes the front ends"
-    if folder in FRONT_ENDS:
-        return None
-    if is_page(target_stem) and target_stem != path.stem.removesuffix("Layout") and str(path) != PAGE_DIRECTORY:
-        return "pages never include one another"
-    if page_file:
-        return None
-    if target == "pages" or is_page(target_stem):
-        return "modules know no pages"
-    if target in ORDER + LAST and target != folder and rank(target) >= rank(folder):
+    if folder in ("app", "script") and target == "pages" and included != "pages/PageDirectory.h":
+        return "the front ends know the page directory alone"
+    if RANK[target] >= RANK[folder]:
         return f"{folder} may not know {target}"
     return None
+
+
+def faults_of(path, text):
+    """All faults of one file, whose text is given."""
+    folder = path.parts[1]
+    faults = []
+    if folder not in RANK:
+        return [f"{path}: the folder has no place in the order of layers"]
+    if is_page(path.stem) and folder != "pages":
+        faults.append(f"{path}: a page outside src/pages")
+    for bracket, included in INCLUDE.findall(text):
+        if bracket == "<":
+            if included.startswith("Q") and folder != "app":
+                faults.append(f"{path}: includes <{included}>: only src/app includes Qt")
+        elif why := fault(path, included):
+            faults.append(f'{path}: includes "{included}": {why}')
+    return faults
 
 
 def main():
     faults = []
     for path in sorted(pathlib.Path("src").rglob("*")):
-        if path.suffix not in (".h", ".cpp"):
-            continue
-        for bracket, included in INCLUDE.findall(path.read_text(encoding="utf-8")):
-            if bracket == "<":
-                if included.startswith("Q") and path.parts[1] != "app":
-                    faults.append(f"{path}: includes <{included}>: only src/app includes Qt")
-                continue
-            why = fault(path, included)
-            if why:
-                faults.append(f'{path}: includes "{included}": {why}')
+        if path.suffix in (".h", ".cpp"):
+            faults += faults_of(path, path.read_text(encoding="utf-8"))
     for line in faults:
         print(line, file=sys.stderr)
     return 1 if faults else 0

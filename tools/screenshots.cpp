@@ -14,8 +14,8 @@
 
 #include "app/Desktop.h"
 #include "app/Palettes.h"
+#include "desk/StartUp.h"
 #include "pages/PageDirectory.h"
-#include "pages/StartUp.h"
 #include "shell/Page.h"
 #include "synthesis/DesignSummary.h"
 

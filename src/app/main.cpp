@@ -7,8 +7,8 @@
 #include "app/Desktop.h"
 #include "app/EndSignal.h"
 #include "app/Palettes.h"
+#include "desk/StartUp.h"
 #include "pages/PageDirectory.h"
-#include "pages/StartUp.h"
 #include "synthesis/DesignSummary.h"
 
 namespace {

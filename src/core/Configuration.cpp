@@ -22,19 +22,19 @@ struct Setting {
   Write write;
 };
 
-template <f32 DesignRecord::*field>
+template <auto field>
 constexpr Setting Float(const char* label, f32 byDefault) {
   return {label, byDefault, [](const DesignRecord& r) { return r.*field; },
           [](DesignRecord& r, f32 x) { r.*field = x; }};
 }
 
-template <i16 DesignRecord::*field>
+template <auto field>
 constexpr Setting Count(const char* label, f32 byDefault) {
   return {label, byDefault, [](const DesignRecord& r) { return static_cast<f32>(r.*field); },
           [](DesignRecord& r, f32 x) { r.*field = ToI16(static_cast<f64>(x)); }};
 }
 
-template <ValueAndCopy DesignRecord::*field>
+template <auto field>
 constexpr Setting First(const char* label, f32 byDefault) {
   return {label, byDefault, [](const DesignRecord& r) { return (r.*field)[1]; },
           [](DesignRecord& r, f32 x) { (r.*field)[1] = x; }};

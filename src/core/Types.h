@@ -14,4 +14,7 @@ using i32 = std::int32_t;
 
 static_assert(FLT_EVAL_METHOD == 0, "32-bit and 64-bit arithmetic must round at each operation");
 
+// 4 arctan(1), computed and never typed in.
+extern const f64 Pi;
+
 }  // namespace quilm

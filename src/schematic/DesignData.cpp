@@ -49,7 +49,7 @@ void AddStopband(std::vector<std::string>& rows, const DesignRecord& record) {
   if (record.Astop > 0) rows.push_back("Cauer LP stopband depth:  " + Text(record.Astop, FormatValue));
 }
 
-DataGroup Entries(const DesignRecord& record) {
+DataGroup EntryGroup(const DesignRecord& record) {
   std::vector<std::string> rows;
   if (record.Width > 0) rows.push_back("Bandwidth:  " + Text(record.Width, FormatFrequency));
   if (record.Fcenter > 0) rows.push_back("Center:  " + Text(record.Fcenter, FormatFrequency));
@@ -93,7 +93,7 @@ std::string InductorRatioText(const DesignRecord& record) { return "Inductors: "
 
 std::vector<DataGroup> DesignData(const DesignRecord& record) {
   if (!(record.Width > 0 || record.Fcenter > 0 || record.Apass > 0 || record.Family != familyNone)) return {};
-  return {Entries(record),
+  return {EntryGroup(record),
           {"Q values:",
            {"Inductors: " + Text(record.Qind[1], FormatValue), "Capacitors: " + Text(record.Qcap[1], FormatValue)}},
           {"Maximum / minimum ratios:", {CapacitorRatioText(record), InductorRatioText(record)}},

@@ -5,8 +5,8 @@
 #include <iostream>
 #include <memory>
 
+#include "desk/StartUp.h"
 #include "pages/PageDirectory.h"
-#include "pages/StartUp.h"
 #include "script/ScriptRun.h"
 #include "script/TemporaryFolder.h"
 

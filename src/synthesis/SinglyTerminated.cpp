@@ -3,7 +3,7 @@
 #include <cmath>
 
 #include "core/NumericFault.h"
-#include "synthesis/modComputeReals.h"
+#include "synthesis/MakeNetwork.h"
 
 namespace quilm {
 

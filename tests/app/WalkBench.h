@@ -9,8 +9,8 @@
 
 #include "app/Desktop.h"
 #include "app/PictureView.h"
+#include "desk/StartUp.h"
 #include "pages/PageDirectory.h"
-#include "pages/StartUp.h"
 #include "shell/Page.h"
 
 namespace quilm {

@@ -1,6 +1,6 @@
+#include "desk/StartUp.h"
 #include "pages/PageBench.h"
 #include "pages/PageDirectory.h"
-#include "pages/StartUp.h"
 
 namespace quilm {
 namespace {

@@ -1,8 +1,8 @@
 // The Cauer family from the Design page to its ladder, and the failure page of odd orders.
 
+#include "desk/StartUp.h"
 #include "pages/PageBench.h"
 #include "pages/PageDirectory.h"
-#include "pages/StartUp.h"
 
 namespace quilm {
 namespace {

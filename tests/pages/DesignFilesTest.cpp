@@ -1,8 +1,8 @@
 // Designs that survive the day: saved, opened again, and kept as the last session on every way out.
 
+#include "desk/StartUp.h"
 #include "pages/PageBench.h"
 #include "pages/PageDirectory.h"
-#include "pages/StartUp.h"
 #include "shell/modWriteConfig.h"
 
 namespace quilm {

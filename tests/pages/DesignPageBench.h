@@ -2,8 +2,8 @@
 #pragma once
 
 #include "pages/PageBench.h"
-#include "synthesis/EntryForms.h"
-#include "synthesis/frmDesign.h"
+#include "pages/design/EntryForms.h"
+#include "pages/design/frmDesign.h"
 
 namespace quilm {
 

@@ -4,8 +4,8 @@
 
 #include "core/modGeneral.h"
 #include "pages/DesignPageBench.h"
+#include "pages/design/DesignControls.h"
 #include "shell/EntryText.h"
-#include "synthesis/DesignControls.h"
 
 namespace quilm {
 namespace {

@@ -1,7 +1,7 @@
 // Families, topologies and order on the Design page: what is shown, what is offered, what moves.
 
 #include "pages/DesignPageBench.h"
-#include "synthesis/FamilyRules.h"
+#include "pages/design/FamilyRules.h"
 
 namespace quilm {
 namespace {

@@ -1,8 +1,8 @@
 #include <algorithm>
 
+#include "desk/StartUp.h"
 #include "pages/PageBench.h"
 #include "pages/PageDirectory.h"
-#include "pages/StartUp.h"
 #include "shell/modWriteConfig.h"
 
 namespace quilm {

@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <fstream>
 
+#include "desk/StartUp.h"
 #include "pages/PageBench.h"
 #include "pages/PageDirectory.h"
-#include "pages/StartUp.h"
 
 namespace quilm {
 namespace {

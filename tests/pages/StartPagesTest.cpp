@@ -1,8 +1,8 @@
 // The pages around a design: opening, leaving, title, information, About and the guide.
 
+#include "desk/StartUp.h"
 #include "pages/PageBench.h"
 #include "pages/PageDirectory.h"
-#include "pages/StartUp.h"
 #include "shell/Version.h"
 #include "shell/modWriteConfig.h"
 

@@ -2,9 +2,9 @@
 #include <algorithm>
 #include <set>
 
+#include "desk/StartUp.h"
 #include "pages/PageBench.h"
 #include "pages/PageDirectory.h"
-#include "pages/StartUp.h"
 
 namespace quilm {
 namespace {

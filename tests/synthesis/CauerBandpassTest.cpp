@@ -7,7 +7,7 @@
 
 #include "core/Fault.h"
 #include "synthesis/CauerPrototype.h"
-#include "synthesis/modComputeReals.h"
+#include "synthesis/MakeNetwork.h"
 
 namespace quilm {
 namespace {

@@ -6,7 +6,7 @@
 
 #include "gtest/gtest.h"
 #include "support/LosslessLadder.h"
-#include "synthesis/modComputeReals.h"
+#include "synthesis/MakeNetwork.h"
 #include "synthesis/modNormalized.h"
 
 namespace quilm {

@@ -8,7 +8,7 @@
 
 #include "core/Fault.h"
 #include "support/LosslessLadder.h"
-#include "synthesis/modComputeReals.h"
+#include "synthesis/MakeNetwork.h"
 #include "synthesis/modMderived.h"
 #include "synthesis/modNormalized.h"
 

@@ -2,9 +2,8 @@
 
 #include "synthesis/Topologies.h"
 
-#include "synthesis/DesignBench.h"
-#include "synthesis/HandMadeDesign.h"
-#include "synthesis/modComputeReals.h"
+#include "support/HandMadeDesign.h"
+#include "synthesis/MakeNetwork.h"
 
 namespace quilm {
 namespace {
@@ -96,16 +95,6 @@ TEST(Topologies, MeshCapacitorCoupling) {
                        {SeriesSLC, henry, middle},
                        {ShuntC, 0, coupling},
                        {SeriesSLC, henry, end}});
-}
-
-// A third of the centre wide the couplings outgrow the middle node. The negative part stays, without a word.
-TEST(Topologies, WideCoupledFormsKeepNegativeParts) {
-  DesignBench bench;
-  bench.record = HandMade("C", {1, 2, 1});
-  bench.record.Width = 9e6F;
-  EXPECT_TRUE(ComputeReals(bench.session));
-  EXPECT_LT(bench.record.stage[3].Cval.value, 0);
-  EXPECT_THAT(bench.platform.messages, IsEmpty());
 }
 
 // Positions of a prototype with zeros: odd Gj shunt capacitors, even Hj inductors with Gj across them.

@@ -9,7 +9,7 @@
 
 #include "core/Fault.h"
 #include "support/LosslessLadder.h"
-#include "synthesis/modComputeReals.h"
+#include "synthesis/MakeNetwork.h"
 
 namespace quilm {
 namespace {

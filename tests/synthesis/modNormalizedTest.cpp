@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "synthesis/DesignBench.h"
+#include "support/DesignBench.h"
 
 namespace quilm {
 namespace {

@@ -1,0 +1,84 @@
+#include "desk/NavigationRow.h"
+
+#include "desk/modCheckEntries.h"
+#include "schematic/Icons.h"
+#include "shell/Session.h"
+
+namespace quilm {
+
+NavigationRow::NavigationRow(Page& page, Session& session, Gate gate)
+    : page_(page), session_(session), gate_(std::move(gate)) {
+  AddSegment(PageId::Design, Sign::Design, "cmdDesign", "Design", "Go to the Design page");
+  AddSegment(PageId::Schematic, Sign::Schematic, "cmdSchematic", "Schematic", "See the schematic");
+  AddSegment(PageId::Edit, Sign::Edit, "cmdEdit", "Edit", "Edit the design");
+  AddSegment(PageId::Analyze, Sign::Analysis, "cmdAnalysis", "Analysis", "Set up the analysis");
+  AddSegment(PageId::Plotted, Sign::Plot, "cmdPlot", "Plot", "Plot the responses");
+  AddSegment(PageId::Tabulated, Sign::Tabulate, "cmdTabulate", "Tabulate", "Tabulate the responses");
+  cmdGet_ = &AddAction(Sign::Get, "cmdGet", "Get", "Get a design from disk", [this] { onGet(); });
+  cmdSave_ = &AddAction(Sign::Save, "cmdSave", "Save", "Save the design to disk", [this] { onSave(); });
+  cmdSpice_ = &AddAction(Sign::Write, "cmdSpice", "Write", "Write file", [this] { GoTo(PageId::WriteFiles); });
+  cmdPrint_ = &AddAction(Sign::Print, "cmdPrint", "Print", "Print the responses", [this] { onPrint(); });
+  AddAction(Sign::Help, "cmdHelp", "Help", "Help :-)",
+            [this] { session_.platform.ShellOpen(session_.platform.HelpFolder() + "/" + helpFile); });
+  AddAction(Sign::About, "cmdAbout", "About", "Details", [this] { session_.pages.ShowModal(PageId::About); });
+  AddAction(Sign::Exit, "cmdExit", "Exit", "Exit / quit the program",
+            [this] { session_.pages.ShowModal(PageId::Exit); });
+}
+
+NavigationRow::Gate NavigationRow::WithSoundEntries(Session& session) {
+  return [&session](PageId target) { return target == PageId::Design || CheckEntries(session); };
+}
+
+void NavigationRow::AddSegment(PageId target, Sign sign, const char* name, const char* caption, const char* toolTip) {
+  const bool here = target == page_.Id();
+  auto button =
+      here ? std::make_unique<Button>(page_, "cmdHere", caption, std::string("You are at the ") + caption + " page")
+           : std::make_unique<Button>(page_, name, caption, toolTip);
+  button->role = ButtonRole::Segment;
+  button->picture = SignPicture(sign);
+  button->pressed = here;
+  button->enabled = !here;
+  if (!here) button->onClick = [this, target] { GoTo(target); };
+  segments_.push_back({target, std::move(button)});
+}
+
+Button& NavigationRow::AddAction(Sign sign, const char* name, const char* caption, const char* toolTip,
+                                 std::function<void()> act) {
+  actions_.push_back(std::make_unique<Button>(page_, name, caption, toolTip));
+  Button& button = *actions_.back();
+  button.role = ButtonRole::Action;
+  button.picture = SignPicture(sign);
+  button.onClick = std::move(act);
+  return button;
+}
+
+// The target is shown before this page is unloaded, so that its load step sees nothing but the session.
+void NavigationRow::GoTo(PageId target) {
+  if (!gate_(target)) {
+    // A check that led elsewhere, to the entry in question, has left this page.
+    if (session_.pages.Top() != &page_) session_.pages.UnloadPage(page_.Id());
+    return;
+  }
+  session_.pages.ShowPage(target);
+  session_.pages.UnloadPage(page_.Id());
+}
+
+void NavigationRow::Load() {
+  for (const Segment& segment : segments_) {
+    segment.button->enabled = segment.target != page_.Id() && session_.pages.Has(segment.target);
+  }
+  cmdPrint_->enabled = static_cast<bool>(onPrint);
+  cmdSave_->enabled = static_cast<bool>(onSave);
+  cmdGet_->enabled = static_cast<bool>(onGet);
+  cmdSpice_->enabled = session_.pages.Has(PageId::WriteFiles);
+}
+
+Layout NavigationRow::MakeLayout() {
+  std::vector<Layout> pages;
+  for (const Segment& segment : segments_) pages.push_back(Put(*segment.button));
+  std::vector<Layout> row{Row(std::move(pages)), Space()};
+  for (const auto& action : actions_) row.push_back(Put(*action));
+  return Row(std::move(row));
+}
+
+}  // namespace quilm

@@ -1,0 +1,40 @@
+#include "desk/modComputeReals.h"
+
+#include <string_view>
+
+#include "core/Fault.h"
+#include "desk/ReturnToDesign.h"
+#include "shell/Session.h"
+#include "synthesis/MakeNetwork.h"
+#include "synthesis/modNormalized.h"
+
+namespace quilm {
+
+namespace {
+
+bool Refuse(Session& session, const char* text, std::string_view focus) {
+  session.platform.MessageBox(text, Buttons::Ok, Icon::Exclamation, "");
+  ReturnToDesign(session, focus);
+  return false;
+}
+
+}  // namespace
+
+bool ComputeReals(Session& session) {
+  if (NetworkStands(session.record)) return true;
+  if (session.record.Width == 0) {
+    return Refuse(session, "We need a bandwidth entry; please enter the bandwidth", "txtBandwidth");
+  }
+  try {
+    MakeNetwork(session.record);
+    return true;
+  } catch (const Fault&) {
+    return Refuse(session,
+                  "We could not calculate the parts values.\r\n"
+                  "Some critical design item is missing.\r\n"
+                  "Examine the entries on the Design page.",
+                  {});
+  }
+}
+
+}  // namespace quilm

@@ -1,0 +1,159 @@
+#include "pages/design/DesignControls.h"
+
+#include <cmath>
+#include <numbers>
+
+#include "core/NumberText.h"
+#include "core/modGeneral.h"
+#include "pages/design/FamilyRules.h"
+
+namespace quilm {
+
+namespace {
+
+// The stopband edge is no field of its own in a stored design: it follows from the normalised one.
+void DeriveStopband(DesignRecord& record) {
+  if (record.Family != familyCauer || record.FstopNorm <= 0) return;
+  const bool highpass = record.Topology == "I" || record.Topology == "J";
+  record.Fstopband = highpass ? record.Width / record.FstopNorm : record.FstopNorm * record.Width;
+}
+
+void WholeOrder(DesignRecord& record) {
+  record.Order = std::trunc(record.Order);
+  if (record.Order == 0) record.Order = 3;
+}
+
+bool IsTopologyLetter(const std::string& letter) { return letter.size() == 1 && letter >= "A" && letter <= "L"; }
+
+}  // namespace
+
+DesignControls::DesignControls(Page& page, DesignRecord& record)
+    : families(page),
+      fraCauerType(page, "fraCauerType", "Even order"),
+      optCauerTermBest(page, cauerTypes, "optCauerTermBest", "Best selectivity", "Unequal terminations"),
+      optCauerTermsEqual(page, cauerTypes, "optCauerTermsEqual", "Equal terms", "Equal terminations"),
+      fraCauerBPFtop(page, "fraCauerBPFtop", "Bandpass layout"),
+      optCauerTopNormal(page, cauerTops, "optCauerTopNormal", "Normal", "The layout for any order"),
+      optCauerTopZigZag(page, cauerTops, "optCauerTopZigZag", "Zig-zag", "Fewer inductors, for even order only"),
+      topologies(page),
+      thumbnails(page),
+      lblOrder(page, "lblOrder", "Order  (N)"),
+      lblOrderInput(page, "lblOrderInput", ""),
+      UpDown1(page, "UpDown1", "Order"),
+      lblBandwidth(page, "lblBandwidth", "Bandwidth (Hz)  (Fc)"),
+      txtBandwidth(page, "txtBandwidth", "Bandwidth or cutoff, Hz"),
+      lblRipple(page, "lblRipple", ""),
+      lblCenterFrequency(page, "lblCenterFrequency", "Center frequency  (Fo)"),
+      txtCenterFrequency(page, "txtCenterFrequency", "Center frequency, Hz"),
+      lblInputTerm(page, "lblInputTerm", "Input termination  (Rs)"),
+      txtInputTerm(page, "txtInputTerm", "Input termination, ohms"),
+      lblPassbandRipple(page, "lblPassbandRipple", "Passband ripple (Ap)"),
+      txtPassbandRipple(page, "txtPassbandRipple", "Passband ripple, dB"),
+      lblVSWR(page, "lblVSWR", ""),
+      lblStopbandFreq(page, "lblStopbandFreq", "Stopband width  (Fs)"),
+      txtStopbandFreq(page, "txtStopbandFreq", "Stopband width, Hz"),
+      lblStopbandDepth(page, "lblStopbandDepth", "Stopband depth (dB) (As)"),
+      txtStopbandDepth(page, "txtStopbandDepth", "Stopband depth, dB"),
+      txtDesignChange(page, "txtDesignChange", "(or design possibly altered)"),
+      tools(page),
+      record_(record) {
+  fraCauerType.Hold({&optCauerTermBest, &optCauerTermsEqual});
+  fraCauerBPFtop.Hold({&optCauerTopNormal, &optCauerTopZigZag});
+}
+
+std::string DesignControls::Hertz(f32 value) { return FormatFrequency(value); }
+std::string DesignControls::Ohms(f32 value) { return FormatResistance(value); }
+std::string DesignControls::Decibels(f32 value) { return FormatValue(value); }
+
+void DesignControls::Fill() {
+  // A letter that stands for no design is a network entered by hand.
+  if (!record_.Topology.empty() && !IsTopologyLetter(record_.Topology)) {
+    record_.Family = familyManual;
+    record_.NetworkEdited = 1;
+  }
+  WholeOrder(record_);
+  DeriveStopband(record_);
+  restingCenter_ = 0;
+  txtDesignChange.visible = false;
+  lblOrder.caption = "Order (N) [" + std::to_string(record_.OrderMax) + " max]";
+  FillOptions();
+  SettleCauer();
+  FillEntries();
+  Refresh();
+}
+
+void DesignControls::FillOptions() {
+  families.Enable(true);
+  families.Choose(record_.Family);
+  topologies.Choose(record_.Topology);
+  (record_.CauerType == "C" ? optCauerTermsEqual : optCauerTermBest).Set();
+  (record_.CauerTop == 1 ? optCauerTopZigZag : optCauerTopNormal).Set();
+}
+
+void DesignControls::FillEntries() {
+  for (const EntryField& entry : {Width(), Center(), Input(), Ripple(), Stopband(), Depth()}) entry.Fill();
+  lblVSWR.caption = RippleReadout(record_.Apass);
+}
+
+void DesignControls::Refresh() {
+  const DesignView view = ViewOf(record_);
+  lblOrderInput.caption = ShortText(record_.Order, LeadingZero::Keep);
+  fraCauerType.visible = view.cauerType;
+  fraCauerBPFtop.visible = view.cauerTop;
+  optCauerTopZigZag.enabled = view.zigZag;
+  topologies.OfferFor(record_.Family);
+  RefreshEntries(view);
+  tools.Show(view);
+}
+
+void DesignControls::RefreshEntries(const DesignView& view) {
+  lblBandwidth.caption = view.bandwidthCaption;
+  lblRipple.caption = view.edge;
+  lblCenterFrequency.visible = txtCenterFrequency.visible = view.center;
+  lblPassbandRipple.visible = txtPassbandRipple.visible = lblVSWR.visible = view.ripple;
+  lblStopbandFreq.visible = txtStopbandFreq.visible = view.stopband;
+  lblStopbandDepth.visible = txtStopbandDepth.visible = view.stopband;
+}
+
+void DesignControls::TakeTopology(const std::string& letter) {
+  record_.Topology = letter;
+  topologies.Choose(letter);
+  if (IsLowOrHighpass(letter)) {
+    if (record_.Fcenter != 0) restingCenter_ = record_.Fcenter;
+    record_.Fcenter = 0;
+  } else if (record_.Fcenter == 0) {
+    record_.Fcenter = restingCenter_;
+    Center().Fill();
+  }
+}
+
+void DesignControls::SettleCauer() {
+  if (record_.Family != familyCauer) return;
+  if (IsEvenOrder(record_)) {
+    record_.CauerType = optCauerTermsEqual.Value() ? "C" : "B";
+  } else {
+    record_.CauerType = "A";
+    record_.CauerTop = 0;
+    optCauerTopNormal.Set();
+  }
+}
+
+std::string RippleReadout(f32 Apass) {
+  if (!(Apass > 0 && Apass < 10)) return {};
+  // 1 - 10^(-Apass / 10), exact for the smallest ripples too.
+  const f64 reflected = -std::expm1(-f64{Apass} / 10 * std::numbers::ln10);
+  const f64 rho = std::sqrt(reflected);
+  const f64 VSWR = (1 + rho) / (1 - rho);
+  const f64 Return = 20 * std::log10(rho);
+  return "VSWR: " + EntryText(static_cast<f32>(VSWR), FormatValue) +
+         "   Return: " + EntryText(static_cast<f32>(Return), FormatValue) + " dB";
+}
+
+void ForgetNetwork(DesignRecord& record) {
+  record.MatchAccepted = 0;
+  record.NetworkEdited = 0;
+  record.ResponsesValid = 0;
+  record.DesignChanged = 0;
+}
+
+}  // namespace quilm

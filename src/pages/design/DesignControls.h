@@ -1,0 +1,108 @@
+// The entries of the Design page: its options and boxes, what they show of a design, and how they change it.
+#pragma once
+
+#include <array>
+#include <string>
+
+#include "core/DesignRecord.h"
+#include "pages/design/DesignTools.h"
+#include "pages/design/FamilyOptions.h"
+#include "pages/design/TopologyOptions.h"
+#include "shell/Control.h"
+#include "shell/EntryText.h"
+
+namespace quilm {
+
+struct DesignView;
+
+// A box and the field that it enters.
+struct EntryField {
+  TextBox& box;
+  f32& field;
+  Formatter format;
+
+  void Parse() const { ParseBox(box, field, format); }
+  void Fill() const { box.text = FilledText(field, format); }
+  void Echo() const { EchoBox(box, field, format); }
+  // Shows a value that a limit or an entry form put into the field.
+  void Repair() const { box.Repair(FilledText(field, format)); }
+};
+
+class DesignControls {
+ public:
+  DesignControls(Page& page, DesignRecord& record);
+
+  EntryField Width() { return {txtBandwidth, record_.Width, Hertz}; }
+  EntryField Center() { return {txtCenterFrequency, record_.Fcenter, Hertz}; }
+  EntryField Input() { return {txtInputTerm, record_.Rsource[1], Ohms}; }
+  EntryField Ripple() { return {txtPassbandRipple, record_.Apass, Decibels}; }
+  EntryField Stopband() { return {txtStopbandFreq, record_.Fstopband, Hertz}; }
+  EntryField Depth() { return {txtStopbandDepth, record_.Astop, Decibels}; }
+
+  // Rebuilds everything from the record.
+  void Fill();
+
+  // Shows and hides what the design asks for, and the order.
+  void Refresh();
+
+  // Makes `letter` the topology. A lowpass or highpass has no centre frequency; the one that a bandpass had rests here
+  // until the next.
+  void TakeTopology(const std::string& letter);
+
+  // Sets CauerType and CauerTop of a Cauer design by its options and its order: odd orders know one type, and no
+  // zig-zag layout.
+  void SettleCauer();
+
+  FamilyOptions families;
+  Frame fraCauerType;
+  OptionGroup cauerTypes;
+  OptionButton optCauerTermBest;
+  OptionButton optCauerTermsEqual;
+  Frame fraCauerBPFtop;
+  OptionGroup cauerTops;
+  OptionButton optCauerTopNormal;
+  OptionButton optCauerTopZigZag;
+  TopologyOptions topologies;
+  TopologyThumbnails thumbnails;
+  Label lblOrder;
+  Label lblOrderInput;
+  Spin UpDown1;
+  Label lblBandwidth;
+  TextBox txtBandwidth;
+  Label lblRipple;
+  Label lblCenterFrequency;
+  TextBox txtCenterFrequency;
+  Label lblInputTerm;
+  TextBox txtInputTerm;
+  Label lblPassbandRipple;
+  TextBox txtPassbandRipple;
+  Label lblVSWR;
+  Label lblStopbandFreq;
+  TextBox txtStopbandFreq;
+  Label lblStopbandDepth;
+  TextBox txtStopbandDepth;
+  Label txtDesignChange;
+  DesignTools tools;
+
+ private:
+  static std::string Hertz(f32 value);
+  static std::string Ohms(f32 value);
+  static std::string Decibels(f32 value);
+  void FillEntries();
+  void FillOptions();
+  void RefreshEntries(const DesignView& view);
+
+  DesignRecord& record_;
+  f32 restingCenter_ = 0;
+};
+
+// What a ripple in dB means at the input of a lossless filter, "VSWR: 1.3554   Return: -16.428 dB" for 0.1 dB: the
+// reflection is rho = sqrt(1 - 10^(-Apass / 10)) where the ripple is deepest. Empty unless Apass is above 0 and below
+// 10.
+std::string RippleReadout(f32 Apass);
+
+// What every change of the design does: nothing of a network entered by hand, an accepted match or a sweep holds any
+// more.
+void ForgetNetwork(DesignRecord& record);
+
+}  // namespace quilm

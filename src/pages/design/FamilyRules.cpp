@@ -1,0 +1,83 @@
+#include "pages/design/FamilyRules.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace quilm {
+
+namespace {
+
+constexpr std::string_view allPole = "ABCDEFGIJKL";
+constexpr std::string_view withZeros = "ABHIJ";
+
+constexpr FamilyRule rules[] = {
+    {familyButterworth, "optButterworth", "Maximally flat passband", RippleEntry::None, false, false, allPole},
+    {familyChebyshev, "optChebycheff", "Equal ripple in the passband", RippleEntry::Always, false, false, allPole},
+    {familyCauer, "optCauer", "Steepest descent, with a finite stopband depth", RippleEntry::EvenOrder, true, true,
+     withZeros},
+    {familyBessel, "optBessel", "Constant delay in the passband", RippleEntry::None, false, false, allPole},
+    {familyGaussian, "optGaussian", "No overshoot on a pulse", RippleEntry::None, false, false, allPole},
+    {familyGaussian12, "optGaussian12", "Gaussian down to 12 dB, then steeper", RippleEntry::None, false, false,
+     allPole},
+    {familyConstantK, "optConstantK", "Specify the Constant-K family - repetitive component values", RippleEntry::None,
+     false, false, allPole},
+    {familyMderived, "optMderived", "Image-parameter sections with zeros of your choice", RippleEntry::None, true,
+     false, withZeros},
+    {familyManual, "optManual", "Keep the present parts as a network entered by hand", RippleEntry::None, false, false,
+     ""},
+};
+
+bool IsOneOf(std::string_view letter, std::string_view letters) {
+  return letter.size() == 1 && letters.find(letter) != std::string_view::npos;
+}
+
+bool HasRippleEntry(const FamilyRule& rule, const DesignRecord& record) {
+  return rule.ripple == RippleEntry::Always || (rule.ripple == RippleEntry::EvenOrder && IsEvenOrder(record));
+}
+
+void AddFamily(DesignView& view, const FamilyRule& rule, const DesignRecord& record) {
+  view.ripple = HasRippleEntry(rule, record);
+  view.stopband = rule.stopband;
+  view.cauerType = rule.code == familyCauer && IsEvenOrder(record);
+  view.cauerTop = rule.code == familyCauer && record.Topology == "H";
+  view.edge = rule.ripple == RippleEntry::None ? "3 dB" : "Ripple";
+}
+
+}  // namespace
+
+std::span<const FamilyRule> FamilyRules() { return rules; }
+
+const FamilyRule* FindFamily(i16 code) {
+  const auto at =
+      std::find_if(std::begin(rules), std::end(rules), [code](const FamilyRule& r) { return r.code == code; });
+  return at == std::end(rules) ? nullptr : at;
+}
+
+bool Offers(i16 family, std::string_view letter) {
+  const FamilyRule* rule = FindFamily(family);
+  return rule == nullptr || IsOneOf(letter, rule->topologies);
+}
+
+std::string TopologyUnder(i16 family, const std::string& letter) {
+  if (family == familyManual || letter.empty()) return letter;
+  if (family == familyConstantK && letter == "E") return "A";
+  return Offers(family, letter) ? letter : "A";
+}
+
+bool IsEvenOrder(const DesignRecord& record) { return std::fmod(record.Order, 2.0F) == 0; }
+
+bool NeedsCenter(std::string_view letter) { return IsOneOf(letter, "CDEFGHKL"); }
+
+DesignView ViewOf(const DesignRecord& record) {
+  DesignView view;
+  if (const FamilyRule* rule = FindFamily(record.Family)) AddFamily(view, *rule, record);
+  const bool even = IsEvenOrder(record);
+  view.zigZag = even;
+  view.center = !IsLowOrHighpass(record.Topology);
+  view.norton = record.Topology == "E" && !even;
+  view.teeToPi = record.Topology == "G";
+  view.bandwidthCaption = view.center ? "Bandwidth (Hz)  (Fc)" : "Cutoff (Hz)  (Fc)";
+  return view;
+}
+
+}  // namespace quilm

@@ -1,0 +1,232 @@
+#include "pages/design/frmDesign.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "desk/Leaving.h"
+#include "desk/modCheckEntries.h"
+#include "desk/modComputeReals.h"
+#include "files/modReadQuilmFiles.h"
+#include "files/modWriteQuilmFile.h"
+#include "pages/design/FamilyRules.h"
+#include "pages/design/ValidateDesign.h"
+#include "schematic/Icons.h"
+#include "shell/Session.h"
+#include "synthesis/EndSections.h"
+#include "synthesis/modNormalized.h"
+
+namespace quilm {
+
+namespace {
+
+constexpr f32 leastCauerOrder = 3;
+constexpr f32 mostDepth = 180;  // dB
+constexpr i16 mostLineWidth = 6;
+
+}  // namespace
+
+frmDesign::frmDesign(Session& session)
+    : Page(session, PageId::Design, "Design"),
+      navigation_(*this, session, [this](PageId) { return MakeNetwork(); }),
+      controls_(*this, session.record) {
+  navigation_.helpFile = "design.htm";
+  navigation_.onGet = [&session] { GetDesignFor(session, PageId::Design); };
+  // What is saved is a network, so that one is made first.
+  navigation_.onSave = [this, &session] {
+    if (MakeNetwork()) SaveDesign(session, "Save Quilm File");
+  };
+  ConnectEntries();
+  ConnectOptions();
+  ConnectButtons();
+}
+
+void frmDesign::ConnectEntries() {
+  for (const EntryField& entry : {controls_.Width(), controls_.Center(), controls_.Input(), controls_.Ripple(),
+                                  controls_.Stopband(), controls_.Depth()}) {
+    entry.box.onChange = [this, entry] {
+      entry.Parse();
+      MarkChanged();
+    };
+    entry.box.onLeave = [entry] { entry.Echo(); };
+  }
+  controls_.txtPassbandRipple.onChange = [this] { EnterRipple(); };
+  controls_.txtStopbandDepth.onChange = [this] { EnterDepth(); };
+  controls_.UpDown1.onUp = [this] { StepOrder(+1); };
+  controls_.UpDown1.onDown = [this] { StepOrder(-1); };
+  UpDown2_.onUp = [this] { StepLineWidth(+1); };
+  UpDown2_.onDown = [this] { StepLineWidth(-1); };
+}
+
+void frmDesign::ConnectOptions() {
+  controls_.families.OnChoice([this](i16 family) { ChooseFamily(family); });
+  controls_.topologies.OnChoice([this](const std::string& letter) { ChooseTopology(letter); });
+  controls_.optCauerTermBest.onClick = [this] { ChooseCauerType(); };
+  controls_.optCauerTermsEqual.onClick = [this] { ChooseCauerType(); };
+  controls_.optCauerTopNormal.onClick = [this] { ChooseCauerTop(0); };
+  controls_.optCauerTopZigZag.onClick = [this] { ChooseCauerTop(1); };
+  optEnglish_.onClick = [this] { session_.record.Units = 1; };
+  optMetric_.onClick = [this] { session_.record.Units = 2; };
+}
+
+void frmDesign::ConnectButtons() {
+  for (int number = 1; number <= topologyCount; ++number) {
+    controls_.thumbnails.Thumbnail(number).onClick = [this, number] { ShowTopologyHelp(number); };
+  }
+  cmdSeeNorms_.onClick = [this] { SeeNormalized(); };
+  controls_.tools.Offer(singlyTerminatedTool, [this] {
+    session_.pages.ShowModal(PageId::SinglyTermCheby);
+    Load();
+  });
+  controls_.tools.Offer(endSectionsTool, [this] { AddEnds(); });
+  cmdManual_.onClick = [this] { GoTo(PageId::ManualEntry); };
+  cmdTitle_.onClick = [this] { session_.pages.ShowModal(PageId::ChangeTitle); };
+  cmdInfo_.onClick = [this] { session_.pages.ShowModal(PageId::AddInfo); };
+  cmdAssistance_.onClick = [this] { session_.pages.ShowModal(PageId::EntryAssistance); };
+  for (Button* button : {&cmdSeeNorms_, &cmdManual_, &cmdTitle_, &cmdInfo_, &cmdAssistance_}) {
+    button->role = ButtonRole::Tool;
+  }
+  cmdSeeNorms_.picture = SignPicture(Sign::Normalized);
+  cmdManual_.picture = SignPicture(Sign::Manual);
+  cmdTitle_.picture = SignPicture(Sign::Title);
+  cmdInfo_.picture = SignPicture(Sign::Info);
+  cmdAssistance_.picture = SignPicture(Sign::Help);
+}
+
+void frmDesign::Load() {
+  controls_.Fill();
+  session_.familyOption = controls_.families.Chosen();
+  navigation_.Load();
+  ShowSettings();
+  const PageDesk& pages = session_.pages;
+  cmdSeeNorms_.enabled = pages.Has(PageId::SeeNormalized);
+  cmdManual_.enabled = pages.Has(PageId::ManualEntry);
+  cmdTitle_.enabled = pages.Has(PageId::ChangeTitle);
+  cmdInfo_.enabled = pages.Has(PageId::AddInfo);
+  cmdAssistance_.enabled = pages.Has(PageId::EntryAssistance);
+}
+
+void frmDesign::CloseBox() { LeaveByCloseBox(session_); }
+
+void frmDesign::ShowSettings() {
+  (session_.record.Units == 2 ? optMetric_ : optEnglish_).Set();
+  lblLineWidthInput_.caption = std::to_string(session_.record.PlotLineWidth);
+}
+
+void frmDesign::MarkChanged() {
+  ForgetNetwork(session_.record);
+  controls_.txtDesignChange.visible = true;
+}
+
+void frmDesign::ChooseFamily(i16 family) {
+  const FamilyRule* rule = FindFamily(family);
+  DesignRecord& record = session_.record;
+  MarkChanged();
+  record.Family = family;
+  session_.familyOption = family;
+  record.CauerFlag = rule->cauer ? 1 : 0;
+  if (!rule->cauer) record.FstopNorm = 0;
+  if (rule->ripple == RippleEntry::None) {
+    record.Apass = 0;
+    controls_.Ripple().Fill();
+    controls_.lblVSWR.caption.clear();
+  }
+  if (family == familyManual) record.NetworkEdited = 1;
+  if (family == familyCauer) record.Order = std::max(record.Order, leastCauerOrder);
+  controls_.TakeTopology(TopologyUnder(family, record.Topology));
+  controls_.SettleCauer();
+  ComputeNormalized(session_);
+  // The prototype may have held the order to a limit of its own.
+  controls_.Refresh();
+}
+
+void frmDesign::ChooseTopology(const std::string& letter) {
+  MarkChanged();
+  controls_.TakeTopology(letter);
+  controls_.Refresh();
+}
+
+void frmDesign::ChooseCauerType() {
+  MarkChanged();
+  controls_.SettleCauer();
+}
+
+void frmDesign::ChooseCauerTop(i16 layout) {
+  MarkChanged();
+  session_.record.CauerTop = layout;
+}
+
+void frmDesign::StepOrder(int direction) {
+  DesignRecord& record = session_.record;
+  const f32 lowest = record.Family == familyCauer ? leastCauerOrder : 1;
+  const f32 stepped = std::clamp(record.Order + static_cast<f32>(direction), lowest, static_cast<f32>(record.OrderMax));
+  if (stepped == record.Order) return;
+  record.Order = stepped;
+  MarkChanged();
+  controls_.SettleCauer();
+  controls_.Refresh();
+}
+
+void frmDesign::StepLineWidth(int direction) {
+  i16& width = session_.record.PlotLineWidth;
+  width = static_cast<i16>(std::clamp(width + direction, 1, int{mostLineWidth}));
+  ShowSettings();
+}
+
+// The readout under the box follows with the next load of the page, not with the typing.
+void frmDesign::EnterRipple() {
+  controls_.Ripple().Parse();
+  session_.record.Apass = std::fabs(session_.record.Apass);
+  MarkChanged();
+}
+
+void frmDesign::EnterDepth() {
+  controls_.Depth().Parse();
+  if (session_.record.Astop > mostDepth) {
+    session_.record.Astop = mostDepth;
+    controls_.Depth().Repair();
+  }
+  MarkChanged();
+}
+
+void frmDesign::ShowTopologyHelp(int number) {
+  session_.record.TopologyHelpCode = static_cast<i16>(number);
+  if (session_.pages.Has(PageId::Help)) session_.pages.ShowModal(PageId::Help);
+}
+
+void frmDesign::SeeNormalized() {
+  if (!MakeNetwork()) return;
+  if (NetworkStands(session_.record)) {
+    session_.platform.MessageBox(
+        "The parts were entered or changed by hand.\r\nThere are no normalized values that belong to them.",
+        Buttons::Ok, Icon::Information, "");
+    return;
+  }
+  session_.pages.ShowModal(PageId::SeeNormalized);
+}
+
+void frmDesign::AddEnds() {
+  if (!MakeNetwork()) return;
+  const std::string obstacle = EndSectionObstacle(session_.record);
+  if (!obstacle.empty()) {
+    session_.platform.MessageBox(obstacle, Buttons::Ok, Icon::Exclamation, "Error checker");
+    return;
+  }
+  session_.pages.ShowModal(PageId::EndSections);
+  Load();
+}
+
+bool frmDesign::MakeNetwork() {
+  ValidateDesign(session_, controls_);
+  if (!CheckEntries(session_)) return false;
+  ComputeNormalized(session_);
+  controls_.Refresh();
+  return ComputeReals(session_);
+}
+
+// The target is shown before this page is unloaded, so that its load step sees nothing but the session.
+void frmDesign::GoTo(PageId target) {
+  session_.pages.ShowPage(target);
+  session_.pages.UnloadPage(Id());
+}
+
+}  // namespace quilm

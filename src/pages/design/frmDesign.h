@@ -1,0 +1,68 @@
+// The Design page: family, topology, order and entries, and the way to all other pages.
+//
+// There is no button that computes. Every button that leads to a result checks the entries, repairs what is missing and
+// computes the network anew.
+#pragma once
+
+#include "desk/NavigationRow.h"
+#include "pages/design/DesignControls.h"
+#include "shell/Page.h"
+
+namespace quilm {
+
+class frmDesign : public Page {
+ public:
+  explicit frmDesign(Session& session);
+  void Load() override;
+  void CloseBox() override;
+  Layout MakeLayout() override;
+
+ private:
+  void ConnectEntries();
+  void ConnectOptions();
+  void ConnectButtons();
+
+  void MarkChanged();
+  void ChooseFamily(i16 family);
+  void ChooseTopology(const std::string& letter);
+  void ChooseCauerType();
+  void ChooseCauerTop(i16 layout);
+  void StepOrder(int direction);
+  void StepLineWidth(int direction);
+  void EnterRipple();
+  void EnterDepth();
+  void ShowTopologyHelp(int number);
+  void ShowSettings();
+  void SeeNormalized();
+  void AddEnds();
+
+  // What every way to a result does first; false keeps the page, after the user was told why.
+  bool MakeNetwork();
+  void GoTo(PageId target);
+
+  Layout FamilyColumn();
+  Layout TopologyCards();
+  Layout EntryColumn();
+  Layout Entries();
+  Layout Tools();
+
+  NavigationRow navigation_;
+  DesignControls controls_;
+  OptionGroup units_;
+  OptionButton optEnglish_{*this, units_, "optEnglish", "English", "Dimensions in inches"};
+  OptionButton optMetric_{*this, units_, "optMetric", "Metric", "Dimensions in centimeters"};
+  Label lblLineWidth_{*this, "lblLineWidth", "Plot line width"};
+  Label lblLineWidthInput_{*this, "lblLineWidthInput", ""};
+  Spin UpDown2_{*this, "UpDown2", "Plot line width", "Width of the traces of plots, 1 to 6"};
+  Label lblLowpass_{*this, "lblLowpass", "Lowpass"};
+  Label lblBandpass_{*this, "lblBandpass", "Bandpass"};
+  Label lblHighpass_{*this, "lblHighpass", "Highpass"};
+  Label lblBandstop_{*this, "lblBandstop", "Bandstop"};
+  Button cmdSeeNorms_{*this, "cmdSeeNorms", "See normalized values", "See the prototype of the design"};
+  Button cmdManual_{*this, "cmdManual", "Restart: Manual", "Enter a network by hand"};
+  Button cmdTitle_{*this, "cmdTitle", "Title", "Edit the title of the circuit"};
+  Button cmdInfo_{*this, "cmdInfo", "Added info", "Edit the line of information that a design file carries"};
+  Button cmdAssistance_{*this, "cmdAssistance", "Entry assistance"};
+};
+
+}  // namespace quilm

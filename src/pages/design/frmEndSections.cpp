@@ -1,0 +1,62 @@
+#include "pages/design/frmEndSections.h"
+
+#include "core/Fault.h"
+#include "core/modGeneral.h"
+#include "shell/EntryText.h"
+#include "shell/Session.h"
+#include "synthesis/EndSections.h"
+
+namespace quilm {
+
+frmEndSections::frmEndSections(Session& session) : Page(session, PageId::EndSections, "End sections") {
+  txtM_.onChange = [this] {
+    ParseBox(txtM_, m_, FormatValue);
+    ShowZero();
+  };
+  txtM_.onLeave = [this] { EchoBox(txtM_, m_, FormatValue); };
+  cmdOk_.onClick = [this] { Accept(); };
+  cmdIgnore_.onClick = [this] { session_.pages.UnloadPage(Id()); };
+  acceptButton = &cmdOk_;
+  cancelButton = &cmdIgnore_;
+}
+
+void frmEndSections::Load() {
+  constexpr f32 bestMatch = 0.6F;
+  m_ = bestMatch;
+  txtM_.text = EntryText(m_, FormatValue);
+  lblBandwidthValue_.caption = EntryText(session_.record.Width, FormatFrequency);
+  ShowZero();
+  SetFocus(txtM_);
+}
+
+void frmEndSections::ShowZero() {
+  lblZeroValue_.caption.clear();
+  if (!HasSection()) return;
+  try {
+    lblZeroValue_.caption = EntryText(EndSectionZero(session_.record, m_), FormatFrequency);
+  } catch (const Fault&) {
+    // An m so near to 0 or 1 that its parts leave the range of numbers has no zero to show.
+  }
+}
+
+void frmEndSections::Accept() {
+  try {
+    AddEndSections(session_.record, m_);
+  } catch (const Fault&) {
+    session_.platform.MessageBox("Please enter an m above 0 and below 1", Buttons::Ok, Icon::Exclamation,
+                                 "Error checker");
+    SetFocus(txtM_);
+    return;
+  }
+  session_.familyOption = familyManual;
+  session_.pages.UnloadPage(Id());
+}
+
+Layout frmEndSections::MakeLayout() {
+  return Column({Form({{Put(lblBandwidth_), Put(lblBandwidthValue_)},
+                       {Put(lblM_), Put(txtM_)},
+                       {Put(lblZero_), Put(lblZeroValue_)}}),
+                 Row({Space(), Put(cmdOk_), Put(cmdIgnore_)})});
+}
+
+}  // namespace quilm

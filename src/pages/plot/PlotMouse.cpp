@@ -1,0 +1,38 @@
+#include "pages/plot/PlotMouse.h"
+
+#include "display/modReadout.h"
+#include "shell/Session.h"
+
+namespace quilm {
+
+PlotMouse::PlotMouse(Session& session, PictureBox& plot) : session_(session), plot_(plot) {
+  plot.onMouseDown = [this](f32 x, f32 y, MouseButton button) { PlotMouseDown(button, x, y); };
+  plot.onMouseMove = [this](f32 x, f32 y, MouseButton button) { PlotMouseMove(button, x, y); };
+  plot.onMouseUp = [this](f32 x, f32 y, MouseButton /*button*/) { PlotMouseUp(x, y); };
+}
+
+void PlotMouse::PlotMouseDown(MouseButton button, f32 x, f32 y) {
+  if (button != MouseButton::Left) return;
+  MouseIsDown_ = -1;
+  ShowReadout(x, y);
+}
+
+void PlotMouse::PlotMouseMove(MouseButton button, f32 x, f32 y) {
+  if (button == MouseButton::Left && MouseIsDown_ != 0) ShowReadout(x, y);
+}
+
+void PlotMouse::PlotMouseUp(f32 /*x*/, f32 /*y*/) {
+  MouseIsDown_ = 0;
+  plot_.mark.Clear();
+}
+
+// Outside the frame the last readout stays.
+void PlotMouse::ShowReadout(f32 x, f32 y) {
+  const DesignRecord& record = session_.record;
+  if (record.ResponsesValid != 1 || !InReadoutFrame(x, y)) return;
+  plot_.mark.SetScale(plot_.picture.CurrentScale());
+  plot_.mark.Clear();
+  DrawReadout(record, session_.responses, session_.smithView, CursorIndex(record, x), plot_.mark);
+}
+
+}  // namespace quilm

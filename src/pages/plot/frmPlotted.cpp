@@ -1,0 +1,120 @@
+#include "pages/plot/frmPlotted.h"
+
+#include <algorithm>
+
+#include "analysis/modAnalysis.h"
+#include "core/Fault.h"
+#include "desk/Leaving.h"
+#include "display/PlotKinds.h"
+#include "display/modPlot.h"
+#include "display/modSmith.h"
+#include "files/modReadQuilmFiles.h"
+#include "files/modWriteQuilmFile.h"
+#include "schematic/Icons.h"
+#include "shell/Session.h"
+
+namespace quilm {
+
+namespace {
+
+// The mark that a failed plot's message names: 508, 512, ... in the order of the plot codes.
+std::string MarkOf(i16 code) {
+  constexpr i16 codes[] = {1, 2, 3, 4, 5, 6, 7, 9, 10, 11, 12, 13};
+  const auto position = std::find(std::begin(codes), std::end(codes), code) - std::begin(codes);
+  return std::to_string(508 + 4 * position);
+}
+
+bool RippleCanBeTuned(const DesignRecord& record) {
+  if (record.Family == familyChebyshev) return record.Apass > 0;
+  return record.Family == familyCauer && record.Order > 3 && static_cast<int>(record.Order) % 2 == 0;
+}
+
+}  // namespace
+
+frmPlotted::frmPlotted(Session& session)
+    : Page(session, PageId::Plotted, "Plot"),
+      navigation(*this, session, NavigationRow::WithSoundEntries(session)),
+      smithControls(*this, session, [this] { Draw(session_.record.PlotCode); }),
+      mouse_(session, picPlot) {
+  navigation.helpFile = "plots.htm";
+  navigation.onSave = [&session] { SaveDesign(session, "Save Quilm File"); };
+  navigation.onGet = [&session] { GetDesignFor(session, PageId::Plotted); };
+  int number = 0;
+  for (const PlotButton& entry : PlotButtons()) {
+    auto button = std::make_unique<Button>(*this, entry.name, "", entry.toolTip);
+    button->role = ButtonRole::Thumbnail;
+    button->picture = CurvePicture(++number);
+    button->onClick = [this, code = entry.code] { Choose(code); };
+    plotButtons.push_back(std::move(button));
+  }
+  cmdAutoScale.onClick = [this] { ScaleToResponse(); };
+  for (Button* tool : {&cmdLimits, &cmdMarkers, &cmdMonteCarlo, &cmdOptimize, &cmdStepSize, &cmdTunePart, &cmdTuneWidth,
+                       &cmdTuneApass, &cmdGetOverlay, &cmdSaveOverlay}) {
+    tool->enabled = false;
+  }
+  for (Button* stop : {&cmdEnd, &cmdExtremes}) stop->visible = stop->enabled = false;
+}
+
+void frmPlotted::Load() {
+  navigation.Load();
+  smithControls.Load();
+  if (!IsPlot(session_.record.PlotCode)) session_.record.PlotCode = 1;
+  Choose(session_.record.PlotCode);
+}
+
+// The main pages' close box ends the program.
+void frmPlotted::CloseBox() { LeaveByCloseBox(session_); }
+
+// Sweeps, whatever ResponsesValid says, and draws the plot of the code.
+void frmPlotted::Choose(i16 code) {
+  RefreshTools();
+  AnalyzeSweep(session_);
+  if (session_.record.ResponsesValid != 1) return;
+  session_.record.PlotCode = code;
+  for (std::size_t i = 0; i < plotButtons.size(); ++i) plotButtons[i]->pressed = PlotButtons()[i].code == code;
+  cmdLimits.visible = IsRectangular(code);
+  smithControls.ShowFor(code);
+  Draw(code);
+}
+
+void frmPlotted::Draw(i16 code) {
+  try {
+    HoldLossBottom(session_.record, code);
+    if (IsRectangular(code)) {
+      DrawPlot(session_.record, session_.responses, code, TraceColors{}, picPlot.picture);
+    } else {
+      DrawChart(session_.record, session_.responses, code, session_.smithView, TraceColors{}, picPlot.picture);
+    }
+  } catch (const Fault&) {
+    ShowFault(MarkOf(code));
+  }
+}
+
+void frmPlotted::ShowFault(const std::string& mark) {
+  session_.platform.MessageBox("We had a plotting routine problem.\r\nSee frmPlotted line " + mark, Buttons::Ok,
+                               Icon::Critical, "Error checker");
+}
+
+void frmPlotted::RefreshTools() { cmdTuneApass.visible = RippleCanBeTuned(session_.record); }
+
+// The page is taken away and shown again, so that everything on it is rebuilt with the new scales.
+void frmPlotted::ScaleToResponse() {
+  session_.pages.ShowPage(PageId::Blank);
+  AutoScale(session_.record, session_.responses);
+  session_.pages.ShowPage(PageId::Plotted);
+  session_.pages.UnloadPage(PageId::Blank);
+}
+
+Layout frmPlotted::MakeLayout() {
+  std::vector<Layout> strip;
+  for (const auto& button : plotButtons) strip.push_back(Put(*button));
+  strip.push_back(Space());
+  const Layout tools =
+      Column({Grid(1, {Put(cmdAutoScale), KeepPlace(Put(cmdLimits)), Put(cmdMarkers), Put(cmdStepSize),
+                       Put(cmdTunePart), Put(cmdTuneWidth), KeepPlace(Put(cmdTuneApass)), Put(cmdOptimize),
+                       Put(cmdMonteCarlo), Put(cmdGetOverlay), Put(cmdSaveOverlay), Put(cmdEnd), Put(cmdExtremes)}),
+              smithControls.MakeLayout(), Space()});
+  return Column({navigation.MakeLayout(), Row(std::move(strip)), Fill(Row({Fill(Put(picPlot)), tools}))});
+}
+
+}  // namespace quilm

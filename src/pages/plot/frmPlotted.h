@@ -1,0 +1,51 @@
+// The Plot page: the twelve plots, and the tools that work on them.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "desk/NavigationRow.h"
+#include "pages/plot/PlotMouse.h"
+#include "pages/plot/SmithControls.h"
+#include "shell/Page.h"
+
+namespace quilm {
+
+class frmPlotted : public Page {
+ public:
+  explicit frmPlotted(Session& session);
+  void Load() override;
+  void CloseBox() override;
+  Layout MakeLayout() override;
+
+  NavigationRow navigation;
+  std::vector<std::unique_ptr<Button>> plotButtons;  // cmd1 to cmd12
+  PictureBox picPlot{*this, "picPlot", "Plot of the responses"};
+  SmithControls smithControls;
+
+  Button cmdAutoScale{*this, "cmdAutoScale", "AutoScale", "Set the scales from the response"};
+  Button cmdLimits{*this, "cmdLimits", "Limits", "Set limit areas for this plot"};
+  Button cmdMarkers{*this, "cmdMarkers", "Markers", "Set marker frequencies"};
+  Button cmdMonteCarlo{*this, "cmdMonteCarlo", "Monte Carlo", "Try the design with part tolerances"};
+  Button cmdOptimize{*this, "cmdOptimize", "Optimize", "Optimize the parts against the limits"};
+  Button cmdStepSize{*this, "cmdStepSize", "Stepsize %", "Set the step of each part"};
+  Button cmdTunePart{*this, "cmdTunePart", "Tune part", "Tune single parts while the plot follows"};
+  Button cmdTuneWidth{*this, "cmdTuneWidth", "Tune width", "Tune bandwidth and center while the plot follows"};
+  Button cmdTuneApass{*this, "cmdTuneApass", "Tune ripple", "Tune the passband ripple while the plot follows"};
+  Button cmdGetOverlay{*this, "cmdGetOverlay", "Get overlay", "Lay a saved plot over this one"};
+  Button cmdSaveOverlay{*this, "cmdSaveOverlay", "Save overlay", "Save the plots to lay over later ones"};
+  Button cmdEnd{*this, "cmdEnd", "Stop", "Stop the run"};
+  Button cmdExtremes{*this, "cmdExtremes", "Stop / show extremes", "Stop the run and show the extremes"};
+
+ private:
+  void Choose(i16 code);
+  void Draw(i16 code);
+  void ShowFault(const std::string& mark);
+  void RefreshTools();
+  void ScaleToResponse();
+
+  PlotMouse mouse_;
+};
+
+}  // namespace quilm

@@ -1,0 +1,22 @@
+#include "pages/schematic/frmSchematicSimple.h"
+
+#include "shell/Session.h"
+
+namespace quilm {
+
+frmSchematicSimple::frmSchematicSimple(Session& session) : Page(session, PageId::SchematicSimple, "Artwork only") {
+  cmdPrint_.enabled = false;
+  cmdExit_.onClick = [this] { session_.pages.UnloadPage(Id()); };
+  acceptButton = cancelButton = &cmdExit_;
+}
+
+void frmSchematicSimple::Load() {
+  DrawArtwork(session_.record, session_.schematicView.mode, picArtwork_.picture);
+  SetFocus(cmdExit_);
+}
+
+Layout frmSchematicSimple::MakeLayout() {
+  return Column({Fill(Put(picArtwork_)), Row({Space(), Put(cmdPrint_), Put(cmdExit_)})});
+}
+
+}  // namespace quilm

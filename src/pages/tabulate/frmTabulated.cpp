@@ -1,0 +1,72 @@
+#include "pages/tabulate/frmTabulated.h"
+
+#include <cmath>
+
+#include "analysis/modAnalysis.h"
+#include "core/Fault.h"
+#include "core/NumberText.h"
+#include "desk/Leaving.h"
+#include "display/modTabulate.h"
+#include "files/modReadQuilmFiles.h"
+#include "files/modWriteQuilmFile.h"
+#include "shell/Session.h"
+
+namespace quilm {
+
+frmTabulated::frmTabulated(Session& session)
+    : Page(session, PageId::Tabulated, "Tabulate"),
+      navigation_(*this, session, NavigationRow::WithSoundEntries(session)) {
+  navigation_.helpFile = "tabulate.htm";
+  navigation_.onGet = [&session] { GetDesignFor(session, PageId::Tabulated); };
+  navigation_.onSave = [&session] { SaveDesign(session, "Save Quilm File"); };
+  navigation_.onPrint = [this] { PrintResponses(); };
+  lstTabulatedOutput_.table = true;
+  lblHeadings_.fixedPitch = lblUnits_.fixedPitch = true;
+  lblHeadings_.caption = TabulatedHeadings();
+  lblUnits_.caption = TabulatedUnits();
+  SetFocus(lstTabulatedOutput_);
+}
+
+// The table always shows a fresh sweep.
+void frmTabulated::Load() {
+  navigation_.Load();
+  AnalyzeSweep(session_);
+  Fill();
+}
+
+void frmTabulated::Fill() {
+  try {
+    lstTabulatedOutput_.items = TabulatedRows(session_.record, session_.responses);
+  } catch (const Fault& fault) {
+    session_.platform.MessageBox(std::string("Tabulated 126\r\n") + fault.what(), Buttons::Ok, Icon::Critical, "");
+  }
+}
+
+void frmTabulated::CloseBox() { LeaveByCloseBox(session_); }
+
+// More than a sheet is asked for twice.
+bool frmTabulated::PaperIsWanted() {
+  const f32 intervals = session_.record.NrIntervals;
+  if (!(intervals > rowsPerSheet)) return true;
+  session_.platform.Beep();
+  const std::string lines = ShortText(intervals, LeadingZero::Keep);
+  const std::string sheets = std::to_string(static_cast<int>(std::floor(intervals / rowsPerSheet)));
+  return session_.platform.MessageBox("We have " + lines + " lines of data and so will use about " + sheets +
+                                          " sheets of paper. \r\n"
+                                          "Are you sure you want to continue and print out the data?",
+                                      Buttons::YesNo, Icon::Question, "Caution") == Answer::Yes;
+}
+
+// Cancelling the print dialog is quiet.
+void frmTabulated::PrintResponses() {
+  if (!PaperIsWanted()) return;
+  Canvas* printer = session_.platform.PrintDialog();
+  if (printer == nullptr) return;
+  PrintTable(session_.record, session_.responses, *printer);
+}
+
+Layout frmTabulated::MakeLayout() {
+  return Column({navigation_.MakeLayout(), Put(lblHeadings_), Put(lblUnits_), quilm::Fill(Put(lstTabulatedOutput_))});
+}
+
+}  // namespace quilm

@@ -1,0 +1,27 @@
+// The Tabulated page: the sweep as a table of text.
+#pragma once
+
+#include "desk/NavigationRow.h"
+#include "shell/Page.h"
+
+namespace quilm {
+
+class frmTabulated : public Page {
+ public:
+  explicit frmTabulated(Session& session);
+  void Load() override;
+  void CloseBox() override;
+  Layout MakeLayout() override;
+
+ private:
+  void Fill();
+  void PrintResponses();
+  bool PaperIsWanted();
+
+  NavigationRow navigation_;
+  Label lblHeadings_{*this, "lblHeadings", ""};
+  Label lblUnits_{*this, "lblUnits", ""};
+  ListBox lstTabulatedOutput_{*this, "lstTabulatedOutput", "Tabulated responses"};
+};
+
+}  // namespace quilm
