@@ -1,5 +1,6 @@
 #include "analysis/Ladder.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "core/NumericFault.h"
@@ -219,6 +220,13 @@ bool Compiler::Take(CompiledStage& out, const Stage& stage) {
   }
 }
 
+// Signs that hold at every frequency spare the kernel its tests. (A sum of losses can vanish only with a negative
+// part.)
+bool IsLossy(const CompiledStage& s) {
+  if (s.form == StageForm::ShuntSeries) return s.r > 0 && s.rc >= 0;
+  return s.Rs > 0 && s.g >= 0 && s.gc >= 0;
+}
+
 }  // namespace
 
 f32 QualityFrequency(const DesignRecord& record) {
@@ -235,9 +243,11 @@ Ladder Compile(const DesignRecord& record, f32 Fq) {
   ladder.Rsource = record.Rsource[1];
   ladder.Rload = record.Rload[1];
   ladder.Rstandard = record.Rstandard;
+  ladder.stages.reserve(static_cast<std::size_t>(std::max<i16>(record.Stages, 0)));
   for (int s = record.Stages; s >= 1; --s) {
     CompiledStage compiled;
     if (!compiler.Take(compiled, record.stage[s])) continue;
+    compiled.lossy = IsLossy(compiled);
     ladder.failsAtZero = ladder.failsAtZero || compiled.failsAtZero;
     ladder.stages.push_back(compiled);
   }

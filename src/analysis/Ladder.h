@@ -34,6 +34,7 @@ struct CompiledStage {
   bool failsAtZero = false;   // at w = 0
   bool guardsZeroX = false;   // ShuntSeries: a reactance of exactly 0 becomes 1e-10
   bool open = false;          // stubs: without a short at the end
+  bool lossy = false;         // tanks, ShuntSeries: conductance or resistance is above 0 at every frequency
   f64 r = 0, rc = 0;          // ohms, ohms * rad/s
   f64 x = 0, xl = 0, xc = 0;  // ohms, henries, ohms * rad/s
   f64 g = 0, gc = 0;          // siemens, siemens per rad/s

@@ -2,6 +2,8 @@
 // sweeps. All arrays are indexed 0..2049.
 #pragma once
 
+#include <array>
+
 #include "core/BoundedArray.h"
 #include "core/Types.h"
 
@@ -10,6 +12,29 @@ namespace quilm {
 inline constexpr int responseBound = 2049;
 
 using ResponseArray = BoundedArray<f32, 0, responseBound>;
+
+// The settings that the points of a sweep follow from.
+struct SweepSettings {
+  i16 SweepMode = 0;    // 1 linear, any other logarithmic
+  f32 Fstart = 0;       // Hz
+  f32 Fstop = 0;        // Hz
+  f32 NrIntervals = 0;  // N intervals give N + 1 points
+};
+
+// The kernel reads whole groups of points: a multiple of this many, of which the last ones are of no consequence.
+inline constexpr int sweepPadding = 32;
+
+// What of a sweep depends on its settings alone, kept while they stand.
+struct SweepTable {
+  static constexpr int room = (responseBound / sweepPadding + 1) * sweepPadding;
+
+  SweepSettings settings;
+  int points = 0;                                       // 0: nothing is kept
+  std::array<f32, room> frequency{};                    // Hz
+  alignas(64) std::array<f64, room> w{};                // rad/s
+  alignas(64) std::array<f64, room> wInverse{};         // s/rad, 1 where w is 0
+  alignas(64) std::array<f64, room> degreesPerDelay{};  // 360 times the step to each frequency, degrees per second
+};
 
 struct Responses {
   ResponseArray RespFreq;      // Hz
@@ -33,6 +58,8 @@ struct Responses {
   f64 TransPeak = -300;   // dB, absolute
   f64 TransPeakFreq = 0;  // Hz
   f32 Fq = 0;             // Hz, the frequency at which inductor Q is quoted
+
+  SweepTable table;
 };
 
 }  // namespace quilm
