@@ -37,7 +37,7 @@ void DrawTwoTraces(benchmark::State& state) {
   Picture picture;
   for (auto _ : state) {
     DrawPlot(record, *responses, 2, TraceColors{}, picture);
-    benchmark::DoNotOptimize(picture.Revision());
+    benchmark::DoNotOptimize(picture.Operations().size());
   }
 }
 
@@ -47,7 +47,7 @@ void DrawSmith(benchmark::State& state) {
   Picture picture;
   for (auto _ : state) {
     DrawChart(record, *responses, smithCode, SmithView{}, TraceColors{}, picture);
-    benchmark::DoNotOptimize(picture.Revision());
+    benchmark::DoNotOptimize(picture.Operations().size());
   }
 }
 
@@ -60,7 +60,7 @@ void UpdateReadout(benchmark::State& state) {
     mark.Clear();
     DrawReadout(record, *responses, SmithView{}, index, mark);
     index = static_cast<i16>((index + 1) % 2000);
-    benchmark::DoNotOptimize(mark.Revision());
+    benchmark::DoNotOptimize(mark.Operations().size());
   }
 }
 

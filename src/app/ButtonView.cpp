@@ -132,11 +132,12 @@ void ButtonView::ShowValues() {
 }
 
 void ButtonView::ShowPicture() {
-  const bool same = shown_.Revision() == button_.picture.Revision() && shown_ == button_.picture;
-  if (same) return;
-  shown_ = button_.picture;
-  widget_->setIcon(shown_.Empty() ? QIcon() : SignIcon(shown_));
-  if (!shown_.Empty()) widget_->setIconSize(IconSize(button_.role, shown_));
+  const Picture& picture = button_.picture;
+  if (pictureShown_ == picture.Drawing() && operationsShown_ == picture.Operations().size()) return;
+  pictureShown_ = picture.Drawing();
+  operationsShown_ = picture.Operations().size();
+  widget_->setIcon(picture.Empty() ? QIcon() : SignIcon(picture));
+  if (!picture.Empty()) widget_->setIconSize(IconSize(button_.role, picture));
 }
 
 OptionView::OptionView(OptionButton& option, ActSink& sink, QWidget* parent)

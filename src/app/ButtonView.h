@@ -49,7 +49,8 @@ class ButtonView : public ControlView {
   Button& button_;
   QAbstractButton* widget_;
   QChar mnemonic_;
-  Picture shown_;
+  std::shared_ptr<const PictureOps> pictureShown_;
+  std::size_t operationsShown_ = 0;
 };
 
 class OptionView : public ControlView {

@@ -87,7 +87,7 @@ class PictureBoxView : public ControlView {
   PictureBoxView(PictureBox& box, ActSink& sink, QWidget* parent);
 
  protected:
-  void ShowValues() override { view_->Show(box_.picture, box_.mark); }
+  void ShowValues() override { view_->Show(box_.picture, box_.live, box_.mark); }
 
  private:
   PictureBox& box_;

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "shell/LiveLayer.h"
 #include "shell/Picture.h"
 
 namespace quilm {
@@ -148,7 +149,8 @@ class PictureBox : public Control {
  public:
   PictureBox(Page& page, std::string name, std::string accessible);
   Picture picture;
-  Picture mark;  // drawn over the picture and never part of it: the readout under the mouse
+  LiveLayer live;  // the traces of trials, drawn over the picture and not kept for long
+  Picture mark;    // drawn over both and never part of it: the readout under the mouse
   std::function<void(f32 x, f32 y, MouseButton)> onMouseDown;
   std::function<void(f32 x, f32 y, MouseButton)> onMouseMove;
   std::function<void(f32 x, f32 y, MouseButton)> onMouseUp;

@@ -26,7 +26,7 @@ class PictureViewOfASquare : public testing::Test {
  protected:
   PictureViewOfASquare() {
     view.resize(400, 200);
-    view.Show(SquareWithDot(), Picture());
+    view.Show(SquareWithDot(), LiveLayer(), Picture());
     view.show();
   }
   PictureView view;
@@ -48,7 +48,7 @@ TEST_F(PictureViewOfASquare, ItsPaperIsWhite) {
 TEST_F(PictureViewOfASquare, AnotherPictureOfTheSameLengthIsShown) {
   Picture other(Scale{0, 0, 1000, 1000});
   other.Rectangle(400, 400, 600, 600, colorBlue, true);
-  view.Show(other, Picture());
+  view.Show(other, LiveLayer(), Picture());
   EXPECT_EQ(QColor(Shot(view).pixel(200, 100)), QColor(Qt::blue));
 }
 
@@ -58,9 +58,9 @@ TEST_F(PictureViewOfASquare, AMarkIsDrawnOverIt) {
   mark.DrawWidth = 10;
   mark.PSet(200, 200, 0xFF44FF);
   const QImage plain = Shot(view);
-  view.Show(SquareWithDot(), mark);
+  view.Show(SquareWithDot(), LiveLayer(), mark);
   EXPECT_EQ(QColor(Shot(view).pixel(140, 40)), QColor(0x00, 0xBB, 0x00));
-  view.Show(SquareWithDot(), Picture());
+  view.Show(SquareWithDot(), LiveLayer(), Picture());
   EXPECT_EQ(Shot(view), plain);
 }
 
@@ -102,7 +102,7 @@ TEST_F(PictureViewOfASquare, ARepaintWithoutChangeIsFast) {
     picture.Polyline(trace, color);
   }
   view.resize(1040, 640);
-  view.Show(picture, Picture());
+  view.Show(picture, LiveLayer(), Picture());
   Shot(view);
   QElapsedTimer clock;
   clock.start();

@@ -123,18 +123,6 @@ TEST(Picture, ThePenAtRestDoesNotCount) {
   EXPECT_TRUE(picture == Picture());
 }
 
-TEST(Picture, TheRevisionMovesOnWithEveryChange) {
-  Picture picture;
-  i32 last = picture.Revision();
-  for (const Drawing& drawing : Operations()) {
-    drawing.draw(picture);
-    EXPECT_GT(picture.Revision(), last) << drawing.name;
-    last = picture.Revision();
-  }
-  picture.Clear();
-  EXPECT_GT(picture.Revision(), last);
-}
-
 // The scale 100 by 50 from (10, 20) into a box 200 by 200 at (1000, 2000): x doubles, y is four times as large.
 class ReplayInto : public testing::Test {
  protected:
