@@ -51,7 +51,7 @@ void RestoreQuarterWaves(DesignRecord& record) {
 // `mark` names the step for the message of a failure.
 void Sweep(DesignRecord& record, Responses& r, VectorWidth width, const char*& mark) {
   mark = "48";
-  BeginSweep(r, {record.SweepMode, record.Fstart, record.Fstop, record.NrIntervals});
+  BeginSweep(r, record);
   mark = "70";
   r.Fq = QualityFrequency(record);
   mark = "81";

@@ -5,6 +5,7 @@
 #include <array>
 
 #include "core/BoundedArray.h"
+#include "core/Sweep.h"
 #include "core/Types.h"
 
 namespace quilm {
@@ -12,14 +13,6 @@ namespace quilm {
 inline constexpr int responseBound = 2049;
 
 using ResponseArray = BoundedArray<f32, 0, responseBound>;
-
-// The settings that the points of a sweep follow from.
-struct SweepSettings {
-  i16 SweepMode = 0;    // 1 linear, any other logarithmic
-  f32 Fstart = 0;       // Hz
-  f32 Fstop = 0;        // Hz
-  f32 NrIntervals = 0;  // N intervals give N + 1 points
-};
 
 // The kernel reads whole groups of points: a multiple of this many, of which the last ones are of no consequence.
 inline constexpr int sweepPadding = 32;
