@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "core/NumericFault.h"
+#include "core/Topology.h"
 #include "core/modGeneral.h"
 #include "files/LineReader.h"
 
@@ -147,13 +148,9 @@ void Reader::Frequencies() {
   record_.Width = Entry();
   record_.Fcenter = Entry();
   record_.FstopNorm = Entry();
-  const std::string& topology = record_.Topology;
-  if (IsLowOrHighpass(topology)) record_.Fcenter = 0;
+  if (IsLowOrHighpass(record_.Topology)) record_.Fcenter = 0;
   record_.FstopNorm = std::max(record_.FstopNorm, smallestRatio);
-  if (record_.CauerFlag == 1) {
-    const bool highpass = topology == "I" || topology == "J";
-    record_.Fstopband = highpass ? record_.Width / record_.FstopNorm : record_.Width * record_.FstopNorm;
-  }
+  if (record_.CauerFlag == 1) record_.Fstopband = StopbandEdge(record_.Topology, record_.Width, record_.FstopNorm);
   if (record_.CauerFlag == 0) record_.FstopNorm = 0;
 }
 

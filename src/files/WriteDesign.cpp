@@ -5,6 +5,7 @@
 #include <initializer_list>
 
 #include "core/NumberText.h"
+#include "core/Topology.h"
 #include "core/modGeneral.h"
 
 namespace quilm {

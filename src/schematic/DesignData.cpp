@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "core/NumberText.h"
+#include "core/Topology.h"
 #include "core/modGeneral.h"
 #include "schematic/StageLabels.h"
 
@@ -35,16 +36,15 @@ std::string RatioText(const std::optional<PartRange>& range) {
 }
 
 // The stopband's edge follows from the prototype where there is one: an even order has it as a result.
-f32 StopbandEdge(const DesignRecord& record) {
+f32 CauerStopband(const DesignRecord& record) {
   if (!(record.FstopNorm > 0)) return record.Fstopband;
-  const bool highpass = record.Topology == "I" || record.Topology == "J";
-  return highpass ? record.Width / record.FstopNorm : record.Width * record.FstopNorm;
+  return StopbandEdge(record.Topology, record.Width, record.FstopNorm);
 }
 
 // Cauer data of the lowpass that the design is made of.
 void AddStopband(std::vector<std::string>& rows, const DesignRecord& record) {
   if (record.Family != familyCauer) return;
-  const f32 edge = StopbandEdge(record);
+  const f32 edge = CauerStopband(record);
   if (edge > 0) rows.push_back("Cauer LP stopband freq:  " + Text(edge, FormatFrequency));
   if (record.Astop > 0) rows.push_back("Cauer LP stopband depth:  " + Text(record.Astop, FormatValue));
 }

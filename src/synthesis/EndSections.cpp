@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "core/NumericFault.h"
+#include "core/Topology.h"
 
 namespace quilm {
 

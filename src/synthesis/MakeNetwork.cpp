@@ -4,6 +4,7 @@
 #include <array>
 
 #include "core/NumericFault.h"
+#include "core/Topology.h"
 #include "synthesis/Topologies.h"
 
 namespace quilm {
