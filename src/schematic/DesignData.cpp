@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <cmath>
 
+#include "core/ElementCatalogue.h"
 #include "core/NumberText.h"
 #include "core/Topology.h"
 #include "core/modGeneral.h"
-#include "schematic/StageLabels.h"
 
 namespace quilm {
 
@@ -18,15 +18,16 @@ using Formatter = std::string (*)(f32);
 
 std::string Text(f32 value, Formatter format) { return Trimmed(format(value)); }
 
-std::optional<PartRange> RangeOf(const DesignRecord& record, bool (*has)(i16), f32 (*valueOf)(const Stage&)) {
+std::optional<PartRange> RangeOf(const DesignRecord& record, SlotCode part) {
   std::optional<PartRange> range;
   for (int s = 1; s <= record.Stages; ++s) {
-    const Stage& stage = record.stage[s];
-    const f32 value = std::fabs(valueOf(stage));
-    if (!has(stage.ElementType) || value == 0) continue;
-    if (!range) range = PartRange{value, value};
-    range->largest = std::max(range->largest, value);
-    range->smallest = std::min(range->smallest, value);
+    for (const Slot& slot : SlotsOf(record.stage[s].ElementType)) {
+      const f32 value = std::fabs(slot.value(record.stage[s]));
+      if (slot.code != part || value == 0) continue;
+      if (!range) range = PartRange{value, value};
+      range->largest = std::max(range->largest, value);
+      range->smallest = std::min(range->smallest, value);
+    }
   }
   return range;
 }
@@ -77,13 +78,9 @@ DataGroup Extremes(const DesignRecord& record) {
 
 }  // namespace
 
-std::optional<PartRange> CapacitorRange(const DesignRecord& record) {
-  return RangeOf(record, HasCapacitor, [](const Stage& stage) { return stage.Cval.value; });
-}
+std::optional<PartRange> CapacitorRange(const DesignRecord& record) { return RangeOf(record, SlotCode::Capacitance); }
 
-std::optional<PartRange> InductorRange(const DesignRecord& record) {
-  return RangeOf(record, HasInductor, [](const Stage& stage) { return stage.Lval.value; });
-}
+std::optional<PartRange> InductorRange(const DesignRecord& record) { return RangeOf(record, SlotCode::Inductance); }
 
 std::string CapacitorRatioText(const DesignRecord& record) {
   return "Capacitors: " + RatioText(CapacitorRange(record));
