@@ -5,6 +5,7 @@
 #include "analysis/Kernel.h"
 #include "analysis/SweepPoints.h"
 #include "analysis/SweepTable.h"
+#include "core/ElementCatalogue.h"
 #include "core/NumericFault.h"
 #include "shell/Session.h"
 
@@ -43,8 +44,8 @@ void SubtractPeak(Responses& r) {
 void RestoreQuarterWaves(DesignRecord& record) {
   for (int s = 1; s <= record.Stages; ++s) {
     Stage& stage = record.stage[s];
-    const bool line = stage.ElementType >= TransLine && stage.ElementType <= ShuntOpenStub;
-    if (line && stage.TLval.degrees == 90.0001F) stage.TLval.degrees = 90;
+    f32& degrees = stage.TLval.degrees;
+    if (degrees == 90.0001F && HasSlot(stage.ElementType, SlotCode::LineLength)) degrees = 90;
   }
 }
 

@@ -3,15 +3,18 @@
 #include <algorithm>
 #include <array>
 #include <initializer_list>
+#include <span>
+#include <vector>
 
 #include "core/NumberText.h"
+#include "core/Topology.h"
 #include "core/modGeneral.h"
+#include "files/StageLine.h"
 
 namespace quilm {
 
 namespace {
 
-constexpr f32 shortestStub = 1E-06F;  // degrees
 constexpr f32 highestVSWR = 7;
 constexpr std::size_t longestTitle = 80;
 
@@ -21,7 +24,8 @@ class Writer {
     text_ += text;
     text_ += "\r\n";
   }
-  void Numbers(std::initializer_list<f32> values) {
+  void Numbers(std::initializer_list<f32> values) { Numbers(std::span(values.begin(), values.size())); }
+  void Numbers(std::span<const f32> values) {
     for (const f32 value : values) text_ += NumText(value);
     Line({});
   }
@@ -78,46 +82,14 @@ bool Holds(const DesignRecord& record, std::initializer_list<i16> types) {
   return false;
 }
 
+// An empty place and a form of entry have no line.
 void WriteStage(Stage& stage, Writer& out) {
-  const f32 type = stage.ElementType;
-  const auto& [L, Ltol] = stage.Lval;
-  const auto& [C, Ctol] = stage.Cval;
-  const auto& [R, Rtol] = stage.Rval;
-  LineValue& line = stage.TLval;
-  const CoupledValue& pair = stage.CoupledVal;
-  switch (stage.ElementType) {
-    case SeriesL:
-    case ShuntL:
-    case SeriesC:
-    case ShuntC:
-    case SeriesSLC:
-    case ShuntSLC:
-    case SeriesPLC:
-    case ShuntPLC:
-      return out.Numbers({type, L, Ltol, C, Ctol});
-    case SeriesR:
-    case ShuntR:
-      return out.Numbers({type, R, Rtol});
-    case SeriesOpenStub:
-    case ShuntShortStub:
-      line.degrees = std::max(line.degrees, shortestStub);
-      [[fallthrough]];
-    case TransLine:
-    case SeriesShortStub:
-    case ShuntOpenStub:
-      return out.Numbers(
-          {type, line.degrees, line.freq, line.impedance, line.degreesTolerance, line.impedanceTolerance});
-    case Transformer:
-      return out.Numbers({type, stage.XfmrVal.value, stage.XfmrVal.tolerance});
-    case CoupledInductors:
-      return out.Numbers({type, pair.primary, pair.secondary, pair.k, pair.primaryTolerance, pair.secondaryTolerance,
-                          pair.kTolerance});
-    case ShuntRLC:
-    case SeriesRLC:
-      return out.Numbers({type, L, Ltol, C, Ctol, R, Rtol});
-    default:
-      return;  // an empty place has no line
-  }
+  const std::vector<StageNumber> numbers = StageLine(stage.ElementType);
+  if (numbers.empty()) return;
+  HoldStubLength(stage);
+  std::vector<f32> line = {static_cast<f32>(stage.ElementType)};
+  for (const StageNumber& number : numbers) line.push_back(number.field(stage));
+  out.Numbers(line);
 }
 
 void WriteStages(DesignRecord& record, Writer& out) {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "core/Topology.h"
 #include "core/modGeneral.h"
 
 namespace quilm {
@@ -26,10 +27,6 @@ struct Check {
 };
 
 bool IsEdited(const DesignRecord& record) { return record.NetworkEdited == 1 || record.Family == familyManual; }
-
-bool HasCenter(const DesignRecord& record) {
-  return record.Topology.size() == 1 && std::string_view("CDEFGHKL").find(record.Topology) != std::string_view::npos;
-}
 
 bool IsEven(f32 order) { return static_cast<int>(order) % 2 == 0; }
 
@@ -117,7 +114,7 @@ void RequireSource(Check& check) {
 }
 
 void RequireCenter(Check& check) {
-  if (!HasCenter(check.record) || check.record.Fcenter > 0) return;
+  if (!NeedsCenter(check.record.Topology) || check.record.Fcenter > 0) return;
   check.Fail("Error checker 199", "Please enter a center frequency", "txtCenterFrequency");
 }
 
@@ -133,14 +130,14 @@ void HoldSweepLimit(Check& check, f32& limit, f64 unsetValue, f32 lowest, f32 hi
 void HoldStart(Check& check) {
   DesignRecord& record = check.record;
   const f64 width = record.Width;
-  const f64 unsetValue = HasCenter(record) ? record.Fcenter - 2 * width : width / 2;
+  const f64 unsetValue = NeedsCenter(record.Topology) ? record.Fcenter - 2 * width : width / 2;
   HoldSweepLimit(check, record.Fstart, unsetValue, 0.01F, 9e9F, "txtFstart");
 }
 
 void HoldStop(Check& check) {
   DesignRecord& record = check.record;
   const f64 width = record.Width;
-  const f64 unsetValue = HasCenter(record) ? record.Fcenter + 2 * width : 2 * width;
+  const f64 unsetValue = NeedsCenter(record.Topology) ? record.Fcenter + 2 * width : 2 * width;
   HoldSweepLimit(check, record.Fstop, unsetValue, 0.02F, 1e10F, "txtFstop");
 }
 

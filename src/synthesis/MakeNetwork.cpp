@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <array>
 
+#include "core/ElementCatalogue.h"
 #include "core/NumericFault.h"
+#include "core/Topology.h"
 #include "synthesis/Topologies.h"
 
 namespace quilm {
@@ -82,12 +84,7 @@ void SetLoad(Scales& scales, Load rule) {
 // Tolerances and element types stay.
 void ClearStages(DesignRecord& record) {
   for (Stage& stage : record.stage) {
-    stage.Cval.value = 0;
-    stage.Lval.value = 0;
-    stage.Rval.value = 0;
-    stage.XfmrVal.value = 0;
-    stage.CoupledVal.primary = stage.CoupledVal.secondary = stage.CoupledVal.k = 0;
-    stage.TLval.degrees = stage.TLval.freq = stage.TLval.impedance = 0;
+    for (const Slot& slot : AllSlots()) slot.value(stage) = 0;
   }
 }
 

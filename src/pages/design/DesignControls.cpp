@@ -4,6 +4,7 @@
 #include <numbers>
 
 #include "core/NumberText.h"
+#include "core/Topology.h"
 #include "core/modGeneral.h"
 #include "pages/design/FamilyRules.h"
 
@@ -14,16 +15,13 @@ namespace {
 // The stopband edge is no field of its own in a stored design: it follows from the normalised one.
 void DeriveStopband(DesignRecord& record) {
   if (record.Family != familyCauer || record.FstopNorm <= 0) return;
-  const bool highpass = record.Topology == "I" || record.Topology == "J";
-  record.Fstopband = highpass ? record.Width / record.FstopNorm : record.FstopNorm * record.Width;
+  record.Fstopband = StopbandEdge(record.Topology, record.Width, record.FstopNorm);
 }
 
 void WholeOrder(DesignRecord& record) {
   record.Order = std::trunc(record.Order);
   if (record.Order == 0) record.Order = 3;
 }
-
-bool IsTopologyLetter(const std::string& letter) { return letter.size() == 1 && letter >= "A" && letter <= "L"; }
 
 }  // namespace
 

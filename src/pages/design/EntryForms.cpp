@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "core/Fault.h"
+#include "core/Topology.h"
 #include "core/modGeneral.h"
 #include "shell/Session.h"
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "core/Topology.h"
 #include "pages/design/DesignControls.h"
 #include "pages/design/FamilyRules.h"
 #include "shell/Session.h"
@@ -123,9 +124,9 @@ void Validation::RequireCauerStopband() {
   controls_.Stopband().Parse();
   controls_.Width().Parse();
   const std::string& letter = record_.Topology;
-  if (letter == "A" || letter == "B") RequireStopbandAbove(cauerLowpassLine);
+  if (IsLowpass(letter)) RequireStopbandAbove(cauerLowpassLine);
   if (letter == "H") RequireStopbandAbove(cauerBandpassLine);
-  if (letter == "I" || letter == "J") RequireStopbandBelow();
+  if (IsHighpass(letter)) RequireStopbandBelow();
 }
 
 void Validation::RequireStopbandAbove(const char* firstLine) {

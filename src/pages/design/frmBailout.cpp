@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "core/NumberText.h"
+#include "core/Topology.h"
 #include "core/modGeneral.h"
 #include "shell/EntryText.h"
 #include "shell/Session.h"
@@ -58,8 +59,6 @@ frmBailout::frmBailout(Session& session) : Page(session, PageId::Bailout, "Cauer
   acceptButton = &cmdExitCauer;
 }
 
-bool frmBailout::IsHighpass() const { return session_.record.Topology == "I" || session_.record.Topology == "J"; }
-
 void frmBailout::Load() {
   ShowAdvice();
   ShowEntries();
@@ -67,7 +66,7 @@ void frmBailout::Load() {
 }
 
 void frmBailout::ShowAdvice() {
-  const bool highpass = IsHighpass();
+  const bool highpass = IsHighpass(session_.record.Topology);
   lblRipple.caption = ShortText(session_.record.Apass, LeadingZero::Drop);
   lblAdvice.caption = Advice(highpass, session_.record.Order == leastOrder);
   lblTopology.caption = TopologySentence(session_.record.Topology);
@@ -94,7 +93,7 @@ void frmBailout::Retry() {
 
 void frmBailout::MoveStopband() {
   DesignRecord& record = session_.record;
-  if (IsHighpass()) {
+  if (IsHighpass(session_.record.Topology)) {
     if (record.Fstopband < record.Width) record.Fstopband *= stopbandStep;
   } else if (record.Fstopband > record.Width) {
     record.Fstopband /= stopbandStep;
@@ -118,7 +117,7 @@ void frmBailout::ReduceOrder() {
 }
 
 bool frmBailout::EdgesAreInOrder(f32 pass, f32 stop) {
-  if (IsHighpass()) {
+  if (IsHighpass(session_.record.Topology)) {
     if (stop < pass) return true;
     lblPassbandHint.caption = "Passband is less than stopband";
     lblStopbandHint.caption = "Stopband is greater than passband";

@@ -39,7 +39,6 @@ class frmBailout : public Page {
   Button cmdExitCauer{*this, "cmdExitCauer", "Re-enter these new Cauer values", "Try again with the values above"};
 
  private:
-  bool IsHighpass() const;
   void ShowEntries();
   void ShowAdvice();
   void MoveStopband();

@@ -1,6 +1,7 @@
 #include "pages/design/frmMderived.h"
 
 #include "core/NumberText.h"
+#include "core/Topology.h"
 #include "core/modGeneral.h"
 #include "shell/EntryText.h"
 #include "shell/Session.h"
@@ -46,7 +47,7 @@ bool frmMderived::ZerosAreInStopband() {
   const DesignRecord& record = session_.record;
   for (Entry& entry : entries_) {
     if (entry.zero == 0 || IsInStopband(record, entry.zero)) continue;
-    const bool highpass = record.Topology == "I" || record.Topology == "J";
+    const bool highpass = IsHighpass(record.Topology);
     session_.platform.MessageBox(std::string("The zero frequency must be ") + (highpass ? "lower" : "greater") +
                                      " than " + ShortText(record.Width, LeadingZero::Keep),
                                  Buttons::Ok, Icon::Exclamation, "");
