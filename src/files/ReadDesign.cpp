@@ -107,7 +107,7 @@ void Reader::DesignLine() {
   TakeWords("63");
   marker_ = "71";
   const i16 family = ToI16(PlainWhole());
-  // Family 8 returns as a manual network too: deliberate, its ladder is what counts.
+  // Family 8 returns as a manual network too: its ladder is what counts.
   record_.Family = family < familyButterworth || family > familyMderived ? i16{familyManual} : family;
   marker_ = "78";
   promisedOrder_ = PlainWhole();

@@ -103,7 +103,7 @@ void WriteStages(DesignRecord& record, Writer& out) {
 // The last field of the sweep line: a step for a linear sweep, a number of intervals for a logarithmic one.
 std::string SweepField(const DesignRecord& record) {
   if (record.SweepMode == 1) {
-    // Below 8 intervals the step is written as 0, which reads back as 4 intervals: deliberate, part of the format.
+    // Below 8 intervals the step is written as 0, which every reader of the format takes for 4 intervals.
     return NumText(record.NrIntervals >= 8 ? (record.Fstop - record.Fstart) / record.NrIntervals : 0.0F);
   }
   if (record.SweepMode == 2) return record.NrIntervals <= 10 ? NumText(i16{10}) : NumText(record.NrIntervals);
@@ -123,7 +123,8 @@ void WriteSweepAndScales(const DesignRecord& record, Writer& out) {
 constexpr std::array<const char*, plotTypes> plotNames = {"transmission plot", "return plot", "transmission angle plot",
                                                           "group delay plot",  "VSWR plot",   "input impedance plot"};
 
-// Rows are counted, then numbered from 1 to the count: a gap in the table loses the rows behind it. Required.
+// Rows are counted, then numbered from 1 to the count: a gap in the table loses the rows behind it. The numbering is
+// the format's, and its other readers count on it.
 void WriteLimitsOfPlot(const DesignRecord& record, int plot, Writer& out) {
   const int count = record.LimitCount[plot];
   out.Line(std::to_string(count) + " limits for " + plotNames[static_cast<std::size_t>(plot - 1)] +

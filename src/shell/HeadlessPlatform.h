@@ -31,6 +31,8 @@ struct FileAsked {
 // The printer of a machine without one: keeps the sheets of the document.
 class SheetPrinter : public Picture {
  public:
+  // The paper is US letter, in twips.
+  SheetPrinter() : Picture({0, 0, 12240, 15840}) {}
   void NewPage() override;
   void EndDoc() override;
   // The finished document, valid after EndDoc.

@@ -38,7 +38,8 @@ class Platform {
   virtual std::optional<std::string> SaveDialog(const std::string& title, const std::string& filter,
                                                 const std::string& defaultName) = 0;
 
-  // Offers a printer. The canvas is valid until its EndDoc; nullptr when the user cancels.
+  // Offers a printer. The canvas is valid until its EndDoc, and its scale is the paper's own in twips; nullptr when the
+  // user cancels. A printer that fails, here or at the ends of sheets and of the document, throws a Fault.
   virtual Canvas* PrintDialog() = 0;
 
   virtual void Beep() = 0;

@@ -88,8 +88,8 @@ void HoldStages(Check& check) {
                      std::to_string(check.record.StagesMax));
 }
 
-// The limit of the prototype routine, 10, lies below the Bessel limit here: an order of 11 to 17 passes and is cut
-// there. Meant.
+// The limit of the prototype routine, 10, lies below the Bessel limit here: a design of order 11 to 17 is cut there,
+// when it is computed, while a network of such an order that came from a file can be analysed as it stands.
 void HoldOrderToFamily(Check& check) {
   switch (check.record.Family) {
     case familyBessel:
