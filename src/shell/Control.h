@@ -36,13 +36,18 @@ class Control {
   Color foreColor = colorBlack;  // black stands for the palette's own text colour
   Frame* container = nullptr;    // a hidden or disabled frame hides or disables what it holds
 
-  // Whether the user sees it, and whether the user can act on it.
+  // Whether the user sees it, and whether the user can act on it: it is enabled, and no lock of its page is on it.
   bool Shown() const;
   bool Usable() const { return Shown() && Active(); }
   bool Active() const;
 
   // The name that assistive tools speak: accessibleName, else the caption, else the tool tip, else the name.
   std::string SpokenName() const;
+
+ private:
+  bool EnabledWithContainer() const;
+
+  const Page& page_;
 };
 
 // How a button looks, by what it is for.

@@ -1,7 +1,9 @@
 #include "shell/Page.h"
 
+#include <algorithm>
 #include <utility>
 
+#include "shell/PageLock.h"
 #include "shell/Session.h"
 
 namespace quilm {
@@ -19,6 +21,11 @@ Control* Page::Find(std::string_view name) const {
 }
 
 bool Page::IsOpen() const { return session_.pages.Find(id_) == this; }
+
+bool Page::Locks(const Control& control) const {
+  return std::any_of(locks_.begin(), locks_.end(),
+                     [&control](const PageLock* lock) { return !lock->LeavesFree(control); });
+}
 
 Control* Page::TakeFocusWish() { return std::exchange(focusWish_, nullptr); }
 

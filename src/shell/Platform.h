@@ -51,6 +51,10 @@ class Platform {
   // Lets pending events run: the one way in which a long routine sees a press of its Stop button.
   virtual void Yield() = 0;
 
+  // Seconds that a long run may go on between two yields: too short to be noticed, long enough that yields cost little.
+  // 0 asks for one at each step.
+  virtual f64 YieldInterval() const = 0;
+
   // Waits while the page stays visible, as the notes of the exit page do.
   virtual void Pause(f64 seconds) = 0;
 
