@@ -11,7 +11,8 @@ namespace quilm {
 
 inline constexpr int responseBound = 2049;
 
-using ResponseArray = BoundedArray<f32, 0, responseBound>;
+// Aligned for the vectors of the sweep.
+struct alignas(64) ResponseArray : BoundedArray<f32, 0, responseBound> {};
 
 // The settings that the points of a sweep follow from.
 struct SweepSettings {
