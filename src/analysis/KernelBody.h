@@ -10,9 +10,8 @@ namespace quilm {
 
 template <class Target, int N, int K>
 struct KernelBody {
-  using P = Pack<Target, N, K>;
   using Got = Results<Target, N, K>;
-  static constexpr int points = P::points;
+  static constexpr int points = N * K;
   static_assert(sweepPadding % points == 0);
 
   static bool Evaluate(const PointRange& range, const PointArrays& out, bool* doubtful) {
@@ -37,12 +36,9 @@ struct KernelBody {
   }
 
   static void Steps(const StepRange& range) { TakeSteps<Target>(range); }
-  static void WidenExtremes(const f32* values, f32* high, f32* low, int count) {
-    Widen<Target>(values, high, low, count);
-  }
-  static f32 LargestOf(const f32* values, int count) { return Largest<Target>(values, count); }
+  static void Sums(SumRange& range) { TakeSums<Target, 2 * N>(range); }
 
-  static constexpr Kernel kernel = {Evaluate, EvaluateFigures, Steps, WidenExtremes, LargestOf};
+  static constexpr Kernel kernel = {Evaluate, EvaluateFigures, Steps, Sums};
 
  private:
   [[gnu::always_inline]] static inline int CountAt(const PointRange& range, int at) {

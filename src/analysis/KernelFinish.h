@@ -1,5 +1,5 @@
 // What a sweep draws from its figures: steps of the phase, delays, extremes. Included once by each implementation (see
-// LaneMath.h): plain loops, which the compiler turns into vectors of the including source's processor.
+// LaneMath.h).
 #pragma once
 
 #include "analysis/KernelVariants.h"
@@ -23,20 +23,52 @@ template <class Target>
   }
 }
 
-template <class Target>
-[[gnu::always_inline]] inline void Widen(const f32* __restrict value, f32* __restrict high, f32* __restrict low,
-                                         int count) {
-  for (int i = 0; i < count; ++i) {
-    high[i] = value[i] > high[i] ? value[i] : high[i];
-    low[i] = value[i] < low[i] ? value[i] : low[i];
-  }
-}
+// Vectors of N numbers of 32 bits.
+template <class Target, int N>
+struct Narrow {
+  using V [[gnu::vector_size(4 * N)]] = f32;
 
-template <class Target>
-[[gnu::always_inline]] inline f32 Largest(const f32* __restrict value, int count) {
-  f32 largest = value[0];
-  for (int i = 1; i < count; ++i) largest = value[i] > largest ? value[i] : largest;
-  return largest;
+  [[gnu::always_inline]] static inline V Load(const f32* from) {
+    V v;
+    __builtin_memcpy(&v, from, sizeof v);
+    return v;
+  }
+  [[gnu::always_inline]] static inline void Store(V v, f32* to) { __builtin_memcpy(to, &v, sizeof v); }
+
+  [[gnu::always_inline]] static inline void Widen(const ExtremesRange& range, int at) {
+    const V value = Load(range.value + at);
+    const V high = Load(range.high + at);
+    const V low = Load(range.low + at);
+    Store(value > high ? value : high, range.high + at);
+    Store(value < low ? value : low, range.low + at);
+  }
+};
+
+// The running sum waits for itself at each point; meanwhile the extremes, which do not need it, fill the processor.
+template <class Target, int N>
+[[gnu::always_inline]] inline void TakeSums(SumRange& range) {
+  using Points = Narrow<Target, N>;
+  using Point = Narrow<Target, 1>;
+  f64 phase = range.phase;
+  typename Points::V largest = typename Points::V{} + range.largest;
+  int at = 0;
+  for (; at + N <= range.count; at += N) {
+    for (int i = at; i < at + N; ++i) {
+      phase += range.phaseStep[i];
+      range.phaseSum[i] = static_cast<f32>(phase);
+    }
+    for (const ExtremesRange& extremes : range.extremes) Points::Widen(extremes, at);
+    const typename Points::V trans = Points::Load(range.trans + at);
+    largest = trans > largest ? trans : largest;
+  }
+  for (int i = 0; i < N; ++i) range.largest = largest[i] > range.largest ? largest[i] : range.largest;
+  for (; at < range.count; ++at) {
+    phase += range.phaseStep[at];
+    range.phaseSum[at] = static_cast<f32>(phase);
+    for (const ExtremesRange& extremes : range.extremes) Point::Widen(extremes, at);
+    range.largest = range.trans[at] > range.largest ? range.trans[at] : range.largest;
+  }
+  range.phase = phase;
 }
 
 }  // namespace quilm

@@ -43,6 +43,23 @@ struct StepRange {
   f32* delay;                  // seconds
 };
 
+struct ExtremesRange {
+  const f32* value;
+  f32* high;
+  f32* low;
+};
+
+// What is summed up and compared over a range.
+struct SumRange {
+  int count;
+  const f64* phaseStep;  // degrees
+  f64 phase;             // the sum before the range, then after it
+  f32* phaseSum;         // the sum at each point
+  const f32* trans;      // dB
+  f32 largest;           // of what was before the range, then with it
+  ExtremesRange extremes[7];
+};
+
 struct Kernel {
   // Fills the arrays. Points that may fail, or that need more care than many lanes can give, become true in `doubtful`:
   // their figures are not valid, and they must be evaluated singly. Says whether there are any.
@@ -50,9 +67,7 @@ struct Kernel {
   // The same with all of each point, doubtful ones having reached nothing.
   void (*evaluateFigures)(const PointRange& range, Figures* figures);
   void (*takeSteps)(const StepRange& range);
-  // Raises `high` and lowers `low` to the values.
-  void (*widen)(const f32* values, f32* high, f32* low, int count);
-  f32 (*largest)(const f32* values, int count);
+  void (*takeSums)(SumRange& range);  // raises each `high` and lowers each `low` to the values
 };
 
 const Kernel& KernelFor(VectorWidth width);

@@ -54,6 +54,12 @@ struct Walk {
     Ii += g * Vi + b * Vr;
   }
 
+  // The same with the admittance g - jb.
+  [[gnu::always_inline]] inline void ShuntLagging(const P& g, const P& b) {
+    Ir += g * Vr + b * Vi;
+    Ii += g * Vi - b * Vr;
+  }
+
   [[gnu::always_inline]] inline P ArmResistance(const CompiledStage& s) const { return s.r + s.rc * wInverseAbs; }
   [[gnu::always_inline]] inline P ArmReactance(const CompiledStage& s) const {
     return s.x + s.xl * w + s.xc * wInverse;
@@ -62,7 +68,7 @@ struct Walk {
   // The reciprocal of R + jX in a shunt arm.
   [[gnu::always_inline]] inline void ShuntReciprocal(const P& r, const P& x) {
     const P inverse = 1 / (r * r + x * x);
-    Shunt(r * inverse, -(x * inverse));
+    ShuntLagging(r * inverse, x * inverse);
   }
 
   [[gnu::always_inline]] inline void ShuntSeriesPair(const CompiledStage& s) {
@@ -121,7 +127,7 @@ struct Walk {
   [[gnu::always_inline]] inline void ShuntTank(const CompiledStage& s) {
     const TankArm arm = TankOf(s);
     const P inverse = 1 / arm.D;
-    Shunt(arm.gD * inverse, -(arm.bD * inverse));
+    ShuntLagging(arm.gD * inverse, arm.bD * inverse);
   }
 
   // Angles beyond what the polynomials take are left to the library, one by one.
@@ -155,7 +161,7 @@ struct Walk {
     } else {
       const P x = s.z * tangent;
       Doubt(x == 0);
-      Shunt(0, -1 / x);
+      ShuntLagging(0, 1 / x);
     }
   }
 
@@ -198,6 +204,18 @@ struct Walk {
     switch (s.form) {
       case StageForm::SeriesArm:
         Series(ArmResistance(s), ArmReactance(s));
+        break;
+      case StageForm::SeriesInductor:
+        Series(s.r, s.xl * w);
+        break;
+      case StageForm::SeriesCapacitor:
+        Series(s.rc * wInverseAbs, s.xc * wInverse);
+        break;
+      case StageForm::ShuntCapacitor:
+        Shunt(s.gc * wAbs, s.bc * w);
+        break;
+      case StageForm::ShuntInductor:
+        ShuntReciprocal(s.r, s.xl * w);
         break;
       case StageForm::ShuntArm:
         Shunt(s.g + s.gc * wAbs, s.b + s.bc * w);

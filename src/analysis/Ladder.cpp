@@ -219,6 +219,16 @@ bool Compiler::Take(CompiledStage& out, const Stage& stage) {
   return true;
 }
 
+StageForm Simplest(const CompiledStage& s) {
+  const bool inductor = s.rc == 0 && s.x == 0 && s.xc == 0;
+  const bool capacitor = s.r == 0 && s.x == 0 && s.xl == 0;
+  if (s.form == StageForm::SeriesArm && inductor) return StageForm::SeriesInductor;
+  if (s.form == StageForm::SeriesArm && capacitor) return StageForm::SeriesCapacitor;
+  if (s.form == StageForm::ShuntArm && s.g == 0 && s.b == 0) return StageForm::ShuntCapacitor;
+  if (s.form == StageForm::ShuntSeries && inductor && !s.guardsZeroX) return StageForm::ShuntInductor;
+  return s.form;
+}
+
 // Signs that hold at every frequency spare the kernel its tests. (A sum of losses can vanish only with a negative
 // part.)
 bool IsLossy(const CompiledStage& s) {
@@ -247,6 +257,7 @@ Ladder Compile(const DesignRecord& record, f32 Fq) {
     CompiledStage compiled;
     if (!compiler.Take(compiled, record.stage[s])) continue;
     compiled.lossy = IsLossy(compiled);
+    compiled.form = Simplest(compiled);
     ladder.failsAtZero = ladder.failsAtZero || compiled.failsAtZero;
     ladder.stages.push_back(compiled);
   }

@@ -14,16 +14,21 @@
 
 namespace quilm {
 
-// The 19 element types come down to these forms.
+// The 19 element types come down to these forms. Single inductors and capacitors have forms of their own, which spare
+// the kernel the sums with zeros.
 enum class StageForm : i16 {
-  SeriesArm,    // Z = r + rc |1/w| + j (x + xl w + xc / w) in the line
-  ShuntArm,     // Y = g + gc |w| + j (b + bc w) to common
-  ShuntSeries,  // the reciprocal of such a Z to common
-  SeriesTank,   // a lossy inductor beside conductances and a capacitor, in the line
-  ShuntTank,    // the same to common
-  Line,         // a piece of transmission line
-  SeriesStub,   // j z tan t, or -j z / tan t when open, in the line
-  ShuntStub,    // j tan t / z, or -j / (z tan t) when shorted, to common
+  SeriesArm,        // Z = r + rc |1/w| + j (x + xl w + xc / w) in the line
+  SeriesInductor,   // r + j xl w
+  SeriesCapacitor,  // rc |1/w| + j xc / w
+  ShuntArm,         // Y = g + gc |w| + j (b + bc w) to common
+  ShuntCapacitor,   // gc |w| + j bc w
+  ShuntSeries,      // the reciprocal of such a Z to common
+  ShuntInductor,
+  SeriesTank,  // a lossy inductor beside conductances and a capacitor, in the line
+  ShuntTank,   // the same to common
+  Line,        // a piece of transmission line
+  SeriesStub,  // j z tan t, or -j z / tan t when open, in the line
+  ShuntStub,   // j tan t / z, or -j / (z tan t) when shorted, to common
   Transformer,
   Coupled,
 };

@@ -26,6 +26,22 @@ struct Block {
   std::array<Reached, blockPoints> reached;  // where doubtful
 };
 
+SumRange SumsOf(Responses& r, int first, int count) {
+  const auto range = [first](const ResponseArray& values, ResponseArray& high, ResponseArray& low) {
+    return ExtremesRange{values.data() + first, high.data() + first, low.data() + first};
+  };
+  return {count,
+          nullptr,
+          0,
+          r.RespPhase.data() + first,
+          r.RespTrans.data() + first,
+          0,
+          {range(r.RespTrans, r.MaxTrans, r.MinTrans), range(r.RespAngle, r.MaxAngle, r.MinAngle),
+           range(r.RespDelay, r.MaxDelay, r.MinDelay), range(r.RespReturn, r.MaxReturn, r.MinReturn),
+           range(r.RespVSWR, r.MaxVSWR, r.MinVSWR), range(r.RespZin, r.MaxZin, r.MinZin),
+           range(r.RespZinAngle, r.MaxZinAngle, r.MinZinAngle)}};
+}
+
 // A sweep of a ladder, block by block.
 class PointSweep {
  public:
@@ -39,7 +55,7 @@ class PointSweep {
     } else {
       StepTogether();
     }
-    SumPhase();
+    Finish();
   }
 
  private:
@@ -54,7 +70,7 @@ class PointSweep {
   void StepTogether();
   void StepByStep();
   void StepAt(int i, Reached reached);
-  void SumPhase();
+  void Finish();
 
   const Ladder& ladder_;
   Responses& r_;
@@ -146,35 +162,18 @@ void PointSweep::StepAt(int i, Reached reached) {
   }
 }
 
-void PointSweep::SumPhase() {
-  f32* phase = r_.RespPhase.data() + block_.first;
-  for (int i = 0; i < block_.count; ++i) {
-    phase_ += block_.phaseStep[static_cast<std::size_t>(i)];
-    phase[i] = static_cast<f32>(phase_);
-  }
-}
-
-// The first of equal peaks.
-void RaisePeak(Responses& r, int first, int count, const Kernel& kernel) {
-  const f32* trans = r.RespTrans.data() + first;
-  const f32 largest = kernel.largest(trans, count);
-  if (!(largest > static_cast<f32>(r.TransPeak))) return;
-  const auto at = std::find(trans, trans + count, largest) - trans;
-  r.TransPeak = static_cast<f64>(trans[at]);
-  r.TransPeakFreq = static_cast<f64>(r.RespFreq.data()[first + at]);
-}
-
-void WidenExtremes(Responses& r, int first, int count, const Kernel& kernel) {
-  const auto widen = [&](const ResponseArray& values, ResponseArray& high, ResponseArray& low) {
-    kernel.widen(values.data() + first, high.data() + first, low.data() + first, count);
-  };
-  widen(r.RespTrans, r.MaxTrans, r.MinTrans);
-  widen(r.RespAngle, r.MaxAngle, r.MinAngle);
-  widen(r.RespDelay, r.MaxDelay, r.MinDelay);
-  widen(r.RespReturn, r.MaxReturn, r.MinReturn);
-  widen(r.RespVSWR, r.MaxVSWR, r.MinVSWR);
-  widen(r.RespZin, r.MaxZin, r.MinZin);
-  widen(r.RespZinAngle, r.MaxZinAngle, r.MinZinAngle);
+// Sums up the phase, widens the extremes, and keeps the first of equal peaks.
+void PointSweep::Finish() {
+  SumRange sums = SumsOf(r_, block_.first, block_.count);
+  sums.phaseStep = block_.phaseStep.data();
+  sums.phase = phase_;
+  sums.largest = static_cast<f32>(r_.TransPeak);
+  kernel_.takeSums(sums);
+  phase_ = sums.phase;
+  if (!(sums.largest > static_cast<f32>(r_.TransPeak))) return;
+  const auto at = std::find(sums.trans, sums.trans + sums.count, sums.largest) - sums.trans;
+  r_.TransPeak = static_cast<f64>(sums.trans[at]);
+  r_.TransPeakFreq = static_cast<f64>(r_.RespFreq.data()[block_.first + at]);
 }
 
 }  // namespace
@@ -190,19 +189,20 @@ void SweepPoints(const Ladder& ladder, Responses& responses, VectorWidth width) 
   const Kernel& kernel = KernelFor(width);
   PointSweep sweep(ladder, responses, kernel);
   for (int first = 0; first < responses.table.points; first += blockPoints) {
-    const int count = std::min(blockPoints, responses.table.points - first);
-    sweep.Take(first, count);
-    RaisePeak(responses, first, count, kernel);
-    WidenExtremes(responses, first, count, kernel);
+    sweep.Take(first, std::min(blockPoints, responses.table.points - first));
   }
 }
 
 void SweepNothing(Responses& r, VectorWidth width) {
-  for (ResponseArray* array : {&r.RespTrans, &r.RespAngle, &r.RespDelay, &r.RespPhase, &r.RespReturn, &r.RespVSWR,
-                               &r.RespZin, &r.RespZinAngle}) {
-    std::fill_n(array->data(), r.table.points, 0.0F);
+  const int points = r.table.points;
+  for (ResponseArray* array :
+       {&r.RespTrans, &r.RespAngle, &r.RespDelay, &r.RespReturn, &r.RespVSWR, &r.RespZin, &r.RespZinAngle}) {
+    std::fill_n(array->data(), points, 0.0F);
   }
-  WidenExtremes(r, 0, r.table.points, KernelFor(width));
+  SumRange sums = SumsOf(r, 0, points);
+  static constexpr std::array<f64, responseBound + 1> noSteps{};
+  sums.phaseStep = noSteps.data();
+  KernelFor(width).takeSums(sums);
 }
 
 }  // namespace quilm
