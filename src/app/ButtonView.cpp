@@ -126,9 +126,17 @@ void ButtonView::ShowValues() {
   const QSignalBlocker quiet(widget_);
   const QString text = MarkedCaption(button_.caption, mnemonic_);
   if (button_.role != ButtonRole::Thumbnail && widget_->text() != text) widget_->setText(text);
-  if (widget_->isCheckable() != button_.pressed) widget_->setCheckable(button_.pressed);
-  if (widget_->isChecked() != button_.pressed) widget_->setChecked(button_.pressed);
+  ShowPressed();
   ShowPicture();
+}
+
+// Only what is pressed can be checked, so that a click changes nothing by itself. The toolkit repaints a button for its
+// check alone, not when it ceases to be checkable.
+void ButtonView::ShowPressed() {
+  if (widget_->isChecked() == button_.pressed) return;
+  widget_->setCheckable(true);
+  widget_->setChecked(button_.pressed);
+  widget_->setCheckable(button_.pressed);
 }
 
 void ButtonView::ShowPicture() {

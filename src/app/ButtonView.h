@@ -44,6 +44,7 @@ class ButtonView : public ControlView {
   void ShowValues() override;
 
  private:
+  void ShowPressed();
   void ShowPicture();
 
   Button& button_;

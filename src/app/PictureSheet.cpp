@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "app/QtCanvas.h"
+#include "app/QtText.h"
 
 namespace quilm {
 
@@ -29,8 +30,8 @@ Surface SurfaceOf(const QRectF& target, f64 density) {
 
 bool PictureSheet::Take(const Picture& picture, const LiveLayer& live, const Picture& mark) {
   const bool other = picture.CurrentScale() != scale_ || picture.BackColor != paper_;
-  if (other || picture.Drawing() != picture_) sheet_ = QImage();
-  if (other || live.Drawing() != live_) layer_ = QImage();
+  if (other || picture.Drawing() != picture_) sheetStands_ = false;
+  if (other || live.Drawing() != live_) layerStands_ = false;
   scale_ = picture.CurrentScale();
   paper_ = picture.BackColor;
   const bool drawn = TakeDrawing(picture.Drawing(), picture.Operations().size(), picture_, pictureTaken_);
@@ -43,37 +44,36 @@ void PictureSheet::SetPaper(QSize size, f64 density) {
   if (size == size_ && density == density_) return;
   size_ = size;
   density_ = density;
-  sheet_ = QImage();
-  layer_ = QImage();
+  sheetStands_ = false;
+  layerStands_ = false;
 }
 
-QImage PictureSheet::Blank(QImage::Format format) const {
-  QImage image(size_ * density_, format);
+// An image that is there already is used again: the system hands out fresh memory page by page.
+void PictureSheet::MakeBlank(QImage& image, QImage::Format format, const QColor& color) const {
+  if (image.size() != size_ * density_) image = QImage(size_ * density_, format);
   image.setDevicePixelRatio(density_);
-  image.fill(format == QImage::Format_RGB32 ? Qt::white : Qt::transparent);
-  return image;
+  image.fill(color);
 }
 
 void PictureSheet::CatchUpWithPicture() {
-  const bool anew = sheet_.isNull();
-  if (anew) {
-    sheet_ = Blank(QImage::Format_RGB32);
+  if (!sheetStands_) {
+    MakeBlank(sheet_, QImage::Format_RGB32, ToQt(paper_));
+    sheetStands_ = true;
     picturePainted_ = 0;
   }
-  if (!anew && picturePainted_ == picture_->size()) return;
+  if (picturePainted_ == picture_->size()) return;
   QPainter painter(&sheet_);
   QtCanvas canvas(painter, SurfaceOf(QRectF(QPointF(0, 0), size_), density_));
   canvas.SetScale(scale_);
-  canvas.BackColor = paper_;
-  if (anew) canvas.Clear();
   for (; picturePainted_ < picture_->size(); ++picturePainted_) DrawOperation((*picture_)[picturePainted_], canvas);
 }
 
 void PictureSheet::CatchUpWithLive() {
   if (size_.isEmpty()) return;
-  if (layer_.isNull()) {
+  if (!layerStands_) {
     if (live_->kept.empty()) return;
-    layer_ = Blank(QImage::Format_ARGB32_Premultiplied);
+    MakeBlank(layer_, QImage::Format_ARGB32_Premultiplied, Qt::transparent);
+    layerStands_ = true;
     livePainted_ = 0;
   }
   livePainted_ = std::max(livePainted_, live_->dropped);
@@ -93,7 +93,7 @@ void PictureSheet::Paint(QPainter& painter, QPointF corner) {
   CatchUpWithPicture();
   CatchUpWithLive();
   painter.drawImage(corner, sheet_);
-  if (!layer_.isNull()) painter.drawImage(corner, layer_);
+  if (layerStands_) painter.drawImage(corner, layer_);
   if (!mark_->empty()) PaintMark(painter, corner);
 }
 

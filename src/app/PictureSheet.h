@@ -34,7 +34,7 @@ class PictureSheet {
   Picture Whole() const;
 
  private:
-  QImage Blank(QImage::Format format) const;
+  void MakeBlank(QImage& image, QImage::Format format, const QColor& color) const;
   void CatchUpWithPicture();
   void PaintMark(QPainter& painter, QPointF corner) const;
 
@@ -52,8 +52,10 @@ class PictureSheet {
   std::size_t markTaken_ = 0;
 
   QImage sheet_;  // the first picturePainted_ operations of the picture
+  bool sheetStands_ = false;
   std::size_t picturePainted_ = 0;
-  QImage layer_;  // the live layer up to operation livePainted_; null while it is empty
+  QImage layer_;  // the live layer up to operation livePainted_
+  bool layerStands_ = false;
   std::size_t livePainted_ = 0;
 };
 

@@ -7,6 +7,7 @@
 #include <QMenu>
 #include <QMouseEvent>
 #include <cmath>
+#include <utility>
 
 #include "app/PictureFiles.h"
 
@@ -91,7 +92,9 @@ void PictureView::paintEvent(QPaintEvent* /*event*/) {
 // Hands a mouse event to the page. False when the page is not concerned: outside the paper it gets nothing but the
 // release of a button that went down on it, without which it would take the button for held.
 bool PictureView::Pass(MouseAct act, QMouseEvent* event) {
-  const bool right = event->button() == Qt::RightButton || (event->buttons() & Qt::RightButton) != 0;
+  // A press or a release is of one button, whichever others are held.
+  const bool right =
+      act == MouseAct::Move ? (event->buttons() & Qt::RightButton) != 0 : event->button() == Qt::RightButton;
   bool& down = right ? rightDown_ : leftDown_;
   const bool release = act == MouseAct::Up && down;
   if (!onMouse || !(release || Paper().contains(event->position()))) return false;
@@ -111,12 +114,12 @@ void PictureView::mouseReleaseEvent(QMouseEvent* event) {
   if (!Pass(MouseAct::Up, event)) QWidget::mouseReleaseEvent(event);
 }
 
-// The menu takes the release of the button that opens it; the page must not wait for that.
+// The menu takes the release of the button that opens it, and of one that was held before; the page must not wait for
+// either.
 void PictureView::ReleaseForMenu(QPointF place) {
-  if (!rightDown_) return;
-  rightDown_ = false;
   const Point at = ToUser(place);
-  onMouse(MouseAct::Up, at.x, at.y, MouseButton::Right);
+  if (std::exchange(leftDown_, false)) onMouse(MouseAct::Up, at.x, at.y, MouseButton::Left);
+  if (std::exchange(rightDown_, false)) onMouse(MouseAct::Up, at.x, at.y, MouseButton::Right);
 }
 
 void PictureView::contextMenuEvent(QContextMenuEvent* event) {
