@@ -4,7 +4,7 @@
 #include <string_view>
 
 #include "core/modGeneral.h"
-#include "display/PlotFrame.h"
+#include "display/ResponseCurves.h"
 
 namespace quilm {
 

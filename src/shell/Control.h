@@ -147,11 +147,16 @@ enum class MouseButton { Left, Right };
 class PictureBox : public Control {
  public:
   PictureBox(Page& page, std::string name, std::string accessible);
-  Picture picture;
+  // Shows a picture that stands elsewhere and outlives the page.
+  PictureBox(Page& page, std::string name, std::string accessible, Picture& shown);
+  Picture& picture;
   Picture mark;  // drawn over the picture and never part of it: the readout under the mouse
   std::function<void(f32 x, f32 y, MouseButton)> onMouseDown;
   std::function<void(f32 x, f32 y, MouseButton)> onMouseMove;
   std::function<void(f32 x, f32 y, MouseButton)> onMouseUp;
+
+ private:
+  Picture own_;
 };
 
 }  // namespace quilm

@@ -12,6 +12,7 @@
 #include "core/SmithView.h"
 #include "shell/PageDesk.h"
 #include "shell/Platform.h"
+#include "shell/PlotSheet.h"
 
 namespace quilm {
 
@@ -33,6 +34,8 @@ class Session {
   // How charts and schematic are looked at; stays for the run of the program.
   SmithView smithView;
   SchematicView schematicView;
+
+  PlotSheet plot;  // the plot on display
 
   std::mt19937 random;   // all random numbers of the program come from here
   std::string note;      // what the last action did, for the status line
