@@ -1,7 +1,7 @@
 #include "display/modTabulate.h"
 
 #include "core/modGeneral.h"
-#include "display/PlotFrame.h"
+#include "display/ResponseCurves.h"
 
 namespace quilm {
 

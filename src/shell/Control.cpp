@@ -121,7 +121,10 @@ Timer::Timer(Page& page, std::string timerName, i32 milliseconds)
 }
 
 PictureBox::PictureBox(Page& page, std::string boxName, std::string accessible)
-    : Control(page, ControlKind::Picture, std::move(boxName)) {
+    : PictureBox(page, std::move(boxName), std::move(accessible), own_) {}
+
+PictureBox::PictureBox(Page& page, std::string boxName, std::string accessible, Picture& shown)
+    : Control(page, ControlKind::Picture, std::move(boxName)), picture(shown) {
   accessibleName = std::move(accessible);
 }
 

@@ -11,6 +11,7 @@
 #include "core/SmithView.h"
 #include "shell/PageDesk.h"
 #include "shell/Platform.h"
+#include "shell/PlotSheet.h"
 #include "shell/UniformNumbers.h"
 
 namespace quilm {
@@ -35,6 +36,8 @@ class Session {
   // How charts and schematic are looked at; stays for the run of the program.
   SmithView smithView;
   SchematicView schematicView;
+
+  PlotSheet plot;  // the plot on display
 
   UniformNumbers random;   // all random numbers of the program come from here
   LongRun* run = nullptr;  // the long run in progress

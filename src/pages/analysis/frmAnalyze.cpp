@@ -10,7 +10,7 @@
 #include "core/modGeneral.h"
 #include "desk/Leaving.h"
 #include "desk/modCheckEntries.h"
-#include "display/modPlot.h"
+#include "display/PlotScaling.h"
 #include "files/modReadQuilmFiles.h"
 #include "files/modWriteQuilmFile.h"
 #include "shell/EntryText.h"
@@ -167,7 +167,7 @@ bool frmAnalyze::MayGoTo(PageId target) {
 // The page is taken away and shown again, so that it reads the new scales; the responses are taken as they stand.
 void frmAnalyze::ScaleToResponse() {
   session_.pages.ShowPage(PageId::Blank);
-  AutoScale(session_.record, session_.responses);
+  AutoScale(session_.record, SpansOf(session_.responses, LastPoint(session_.record)));
   session_.pages.ShowPage(PageId::Analyze);
   session_.pages.UnloadPage(PageId::Blank);
 }
