@@ -167,6 +167,11 @@ void ParseEntry(std::string& Text, f32& Result) {
   Result = std::clamp(number * scanner.Scale(), -largestEntry, largestEntry) + 0.0F;
 }
 
+std::optional<f32> MultiplierOf(char letter) {
+  const Multiplier* multiplier = FindMultiplier(letter);
+  return multiplier == nullptr ? std::nullopt : std::optional<f32>(multiplier->scale);
+}
+
 std::string FormatFrequency(f32 Value) {
   if (Value == 0) return "0.0 ";
   // The sign counts here: a negative value falls to the last row.

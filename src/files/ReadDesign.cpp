@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "core/EntryLimits.h"
 #include "core/NumericFault.h"
 #include "core/Topology.h"
 #include "core/modGeneral.h"
@@ -14,9 +15,6 @@ namespace quilm {
 namespace {
 
 constexpr f32 smallestRatio = 1.001F;  // of stopband to passband edge
-constexpr f32 smallestRipple = 0.0001F;
-constexpr f32 fewestIntervals = 4;
-constexpr f32 mostIntervals = 2049;
 constexpr int mostMarkerWords = 10;
 constexpr int mostZeros = 41;
 constexpr std::size_t longestTitle = 80;
@@ -155,7 +153,7 @@ void Reader::Attenuations() {
   TakeWords("178");
   record_.Apass = Entry();
   record_.Astop = Entry();
-  if (record_.Family == familyCauer) record_.Apass = std::max(record_.Apass, smallestRipple);
+  if (record_.Family == familyCauer) record_.Apass = std::max(record_.Apass, limitsOf::Apass.lowest);
 }
 
 void Reader::Terminations() {
@@ -207,10 +205,10 @@ void Reader::ReadStage(Stage& stage) {
 // The number of intervals that a linear sweep's step stands for. The step is written with seven digits, so a quotient
 // that misses a whole number by a thousandth is that number.
 f32 IntervalsOfStep(f32 span, f32 step) {
-  if (!(step > 0)) return fewestIntervals;
+  if (!(step > 0)) return limitsOf::NrIntervals.lowest;
   const f32 quotient = Fitting(static_cast<f64>(span) / static_cast<f64>(step));
   const f32 whole = std::round(quotient);
-  return std::min(std::fabs(quotient - whole) <= 0.001F ? whole : quotient, mostIntervals);
+  return std::min(std::fabs(quotient - whole) <= 0.001F ? whole : quotient, limitsOf::NrIntervals.highest);
 }
 
 void Reader::Sweep() {
@@ -224,7 +222,7 @@ void Reader::Sweep() {
   if (record_.SweepMode == 1) {
     record_.NrIntervals = IntervalsOfStep(record_.Fstop - record_.Fstart, Plain());
   } else if (record_.SweepMode == 2) {
-    record_.NrIntervals = std::clamp(Plain(), fewestIntervals, mostIntervals);
+    record_.NrIntervals = limitsOf::NrIntervals.Held(Plain());
   }
 }
 

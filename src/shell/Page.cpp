@@ -9,7 +9,7 @@
 namespace quilm {
 
 Page::Page(Session& session, PageId id, std::string pageTitle)
-    : title(std::move(pageTitle)), session_(session), id_(id) {}
+    : title(std::move(pageTitle)), entries(session), session_(session), id_(id) {}
 
 void Page::CloseBox() { session_.pages.UnloadPage(id_); }
 

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "shell/Control.h"
+#include "shell/Entry.h"
 #include "shell/Layout.h"
 #include "shell/PageId.h"
 
@@ -50,6 +51,7 @@ class Page {
   bool Locks(const Control& control) const;
 
   std::string title;
+  EntryList entries;               // its boxes with the fields behind them
   Button* acceptButton = nullptr;  // pressed by Enter
   Button* cancelButton = nullptr;  // pressed by Escape
 
