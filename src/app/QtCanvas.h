@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QFont>
+#include <QImage>
 #include <QPainter>
 #include <QPen>
 #include <QRectF>
@@ -23,6 +24,7 @@ struct Surface {
 class QtCanvas : public Canvas {
  public:
   // Draws with `painter` for as long as both live. The clip becomes the surface's target.
+  // Solid traces on an image are set pixel by pixel, past the painter.
   QtCanvas(QPainter& painter, const Surface& surface);
 
  protected:
@@ -45,10 +47,13 @@ class QtCanvas : public Canvas {
   f64 OntoPixel(f64 coordinate) const;
   QPointF OntoPixels(QPointF point) const;
   bool Prepare(const QColor& ink, bool smooth);
+  bool SetsPixels(const QColor& ink) const;
   void StrokeTrace(std::span<const Point> points, const QColor& ink);
+  void SetTrace(std::span<const Point> points, const QColor& ink);
   void DrawTextLine(const QString& line, QPointF topLeft, f64 emHeight);
 
   QPainter& painter_;
+  QImage* image_;  // that is painted on; nullptr for anything else
   Surface surface_;
 };
 

@@ -29,6 +29,7 @@ class WindowPlatform : public Platform {
   void ShellOpen(const std::string& path) override;
   bool ShowSystemInformation() override;
   void Yield() override { stage_.RunEvents(); }
+  f64 YieldInterval() const override { return 0.01; }
   void Pause(f64 seconds) override;
   std::string ProgramFolder() override { return folder_.toStdString(); }
   std::string HelpFolder() override;

@@ -38,7 +38,7 @@ std::vector<std::string> Arguments(const std::string& arguments, std::size_t lea
 }
 
 std::string WholeArgument(const std::string& arguments, std::string_view form) {
-  std::string text = Trimmed(arguments);
+  std::string text = WithoutBlanksAtEnd(arguments);
   if (text.empty()) throw CommandFailure{"the form is: " + std::string(form)};
   return text;
 }

@@ -1,9 +1,9 @@
 // What a script prints and writes.
 #include <filesystem>
-#include <fstream>
 #include <limits>
 
 #include "core/NumberText.h"
+#include "core/TextFile.h"
 #include "core/modGeneral.h"
 #include "script/Commands.h"
 #include "script/Json.h"
@@ -56,10 +56,7 @@ void PrintCanvas(ScriptRun& run, const std::string& arguments) {
 void WriteFile(const std::filesystem::path& path, const std::string& text) {
   std::error_code failed;
   if (path.has_parent_path()) std::filesystem::create_directories(path.parent_path(), failed);
-  std::ofstream file(path, std::ios::binary | std::ios::trunc);
-  file << text;
-  file.close();
-  if (!file) throw CommandFailure{path.string() + " cannot be written"};
+  if (!WriteTextFile(path.string(), text)) throw CommandFailure{path.string() + " cannot be written"};
 }
 
 void WritePicture(ScriptRun& run, const std::string& arguments) {

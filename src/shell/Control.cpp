@@ -31,13 +31,17 @@ std::string_view KindName(ControlKind kind) {
 }
 
 Control::Control(Page& page, ControlKind kindOfControl, std::string nameOfControl)
-    : kind(kindOfControl), name(std::move(nameOfControl)) {
+    : kind(kindOfControl), name(std::move(nameOfControl)), page_(page) {
   page.Register(*this);
 }
 
 bool Control::Shown() const { return visible && (container == nullptr || container->Shown()); }
 
-bool Control::Active() const { return enabled && (container == nullptr || container->Active()); }
+bool Control::EnabledWithContainer() const {
+  return enabled && (container == nullptr || container->EnabledWithContainer());
+}
+
+bool Control::Active() const { return EnabledWithContainer() && !page_.Locks(*this); }
 
 std::string Control::SpokenName() const {
   if (!accessibleName.empty()) return accessibleName;

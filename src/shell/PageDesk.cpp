@@ -26,6 +26,12 @@ Page* PageDesk::Find(PageId id) const {
 
 Page* PageDesk::Top() const { return open_.empty() ? nullptr : open_.back().get(); }
 
+std::vector<Page*> PageDesk::OpenPages() const {
+  std::vector<Page*> pages;
+  for (const auto& page : open_) pages.push_back(page.get());
+  return pages;
+}
+
 // Makes the page, or brings it to the top if it is open, and runs its load step.
 Page& PageDesk::Open(PageId id) {
   const auto at = std::find_if(open_.begin(), open_.end(), [id](const auto& page) { return page->Id() == id; });

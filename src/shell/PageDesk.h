@@ -39,6 +39,7 @@ class PageDesk {
   // The page on top, modal ones included; nullptr before the first.
   Page* Top() const;
   Page* Find(PageId id) const;
+  std::vector<Page*> OpenPages() const;  // bottom to top
 
   // Destroys the pages that were unloaded. Called when no handler runs.
   void Sweep();

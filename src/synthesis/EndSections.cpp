@@ -2,7 +2,9 @@
 
 #include <cmath>
 
+#include "core/ElementCatalogue.h"
 #include "core/NumericFault.h"
+#include "core/Topology.h"
 
 namespace quilm {
 
@@ -20,11 +22,9 @@ struct EndSection {
   f32 endValue;
 };
 
-bool IsCapacitor(i16 type) { return type == ShuntC || type == SeriesC; }
-PartValue& ValueOf(Stage& stage) { return IsCapacitor(stage.ElementType) ? stage.Cval : stage.Lval; }
-f64 ValueOf(const Stage& stage) {
-  return IsCapacitor(stage.ElementType) ? f64{stage.Cval.value} : f64{stage.Lval.value};
-}
+// The one value of a stage that is a single part.
+f32& ValueOf(Stage& stage) { return SlotsOf(stage.ElementType).front().value(stage); }
+f64 ValueOf(const Stage& stage) { return SlotsOf(stage.ElementType).front().value(stage); }
 
 // The element that alternates with `type` in a ladder; 0 for one that no all-pole lowpass or highpass has.
 i16 PartnerOf(i16 type) {
@@ -107,8 +107,8 @@ void AddEndSections(DesignRecord& record, f32 m) {
   const int last = record.Stages;
   const EndSection atSource = SectionAt(record.stage[1], record.stage[2], m, scope);
   const EndSection atLoad = SectionAt(record.stage[last], record.stage[last - 1], m, scope);
-  ValueOf(record.stage[1]).value = atSource.endValue;
-  ValueOf(record.stage[last]).value = atLoad.endValue;
+  ValueOf(record.stage[1]) = atSource.endValue;
+  ValueOf(record.stage[last]) = atLoad.endValue;
   for (int s = last; s >= 1; --s) record.stage[s + 1] = record.stage[s];
   record.stage[1] = StageOf(atSource.arm);
   record.stage[last + 2] = StageOf(atLoad.arm);

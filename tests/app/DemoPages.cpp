@@ -42,6 +42,9 @@ DemoPage::DemoPage(Session& session) : Page(session, PageId::Design, "Demo") {
   picPlot.onMouseDown = [this](f32 x, f32 y, MouseButton) {
     log.push_back("down " + std::to_string(std::lround(x / 100)) + " " + std::to_string(std::lround(y / 100)));
   };
+  picPlot.onMouseUp = [this](f32, f32, MouseButton button) {
+    log.push_back(button == MouseButton::Left ? "up left" : "up right");
+  };
 }
 
 void DemoPage::CloseBox() {
@@ -58,6 +61,8 @@ Layout DemoPage::MakeLayout() {
 }
 
 OtherPage::OtherPage(Session& session) : Page(session, PageId::Plotted, "Other") {
+  lstTable.table = true;
+  lstTable.items = {"row 1", "row 2", "row 3"};
   cmdDesign.onClick = [this] {
     session_.pages.ShowPage(PageId::Design);
     session_.pages.UnloadPage(Id());

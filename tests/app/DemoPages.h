@@ -49,8 +49,9 @@ class DemoPage : public Page {
 class OtherPage : public Page {
  public:
   explicit OtherPage(Session& session);
-  Layout MakeLayout() override { return Column({Put(cmdDesign)}); }
+  Layout MakeLayout() override { return Column({Put(cmdDesign), Put(lstTable)}); }
   Button cmdDesign{*this, "cmdDesign", "Design"};
+  ListBox lstTable{*this, "lstTable", "Table"};
 };
 
 class DemoForm : public Page {

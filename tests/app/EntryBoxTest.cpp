@@ -1,5 +1,6 @@
 // Typing in real entry boxes.
 #include <QLineEdit>
+#include <QMenu>
 #include <QWheelEvent>
 
 #include "DemoPages.h"
@@ -59,6 +60,37 @@ TEST_F(EntryBoxInWindow, AShortcutLeavesTheBoxFirst) {
   QTest::keyClicks(Box(), "7");
   QTest::keyClick(Box(), Qt::Key_O, Qt::ControlModifier);
   EXPECT_THAT(Demo().log, ElementsAre("change 7", "leave", "get"));
+}
+
+// A menu takes the keyboard for a while and gives it back.
+class EntryBoxUnderAPopup : public EntryBoxInWindow {
+ protected:
+  void OpenAndCloseAMenu() {
+    QMenu menu;
+    menu.addAction(QStringLiteral("nothing"));
+    menu.popup(Box()->mapToGlobal(QPoint()));
+    ASSERT_EQ(QApplication::activePopupWidget(), &menu);
+    QApplication::processEvents();
+    menu.close();
+    QApplication::processEvents();
+  }
+};
+
+TEST_F(EntryBoxUnderAPopup, APopupIsNoLeavingOfTheBox) {
+  Enter("1");
+  QTest::keyClicks(Box(), "7");
+  OpenAndCloseAMenu();
+  EXPECT_THAT(Demo().log, ElementsAre("change 7"));
+  Widget("txtRipple")->setFocus(Qt::TabFocusReason);
+  EXPECT_THAT(Demo().log, ElementsAre("change 7", "leave"));
+}
+
+TEST_F(EntryBoxUnderAPopup, APopupIsNoEnteringOfTheBoxEither) {
+  Enter("100");
+  QTest::keyClicks(Box(), "77");
+  OpenAndCloseAMenu();
+  QTest::keyClick(Box(), Qt::Key_Escape);
+  EXPECT_EQ(Demo().txtWidth.text, "100");
 }
 
 TEST_F(EntryBoxInWindow, EscapeBringsBackTheTextFromBefore) {

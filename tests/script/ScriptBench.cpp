@@ -49,7 +49,7 @@ void BenchPage::ConnectDialogs() {
 void BenchPage::ConnectPlatform() {
   cmdBeep.onClick = [this] { session_.platform.Beep(); };
   cmdHelp.onClick = [this] { session_.platform.ShellOpen("help.htm"); };
-  cmdRandom.onClick = [this] { log.push_back(std::to_string(session_.random())); };
+  cmdRandom.onClick = [this] { log.push_back(std::to_string(session_.random.Next())); };
   cmdClock.onClick = [this] {
     const DateTime now = session_.platform.Now();
     log.push_back(std::to_string(now.year) + " " + std::to_string(now.month) + " " + std::to_string(now.day) + " " +
