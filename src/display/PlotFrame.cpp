@@ -33,7 +33,10 @@ std::vector<Point> Points(std::span<const f64> fractions, const ValueScale& scal
                           const PlotBox& box) {
   std::vector<Point> points(values.size());
   const Rise rise(scale, box);
-  for (std::size_t i = 0; i < points.size(); ++i) points[i] = {FrameX(fractions[i], box), rise(values[i])};
+  for (std::size_t i = 0; i < points.size(); ++i) {
+    const f32 x = std::clamp(FrameX(fractions[i], box), box.left, box.Right());
+    points[i] = {x, rise(values[i])};
+  }
   return points;
 }
 

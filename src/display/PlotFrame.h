@@ -30,15 +30,15 @@ struct ValueScale {
   f32 bottom = 0;
 };
 
-// The x of a place along the axis, 0 at its start and 1 at its stop (see HorizontalAxis).
+// The x of a place along the axis, 0 at its start and 1 at its stop (see HorizontalAxis); not held within the frame.
 f32 FrameX(f64 fraction, const PlotBox& box = plotFrame);
 
 // The y of a value in a frame, held within it: a trace rides along the edge where it leaves the scale. Throws
 // NumericFault when the scale has no height.
 f32 FrameY(const ValueScale& scale, f64 value, const PlotBox& box = plotFrame);
 
-// The places of many points at once, as the two above give them; `fractions` and `values` are of the same length.
-// Throws like FrameY.
+// The places of the points of a curve, held within the frame on all sides: what lies before or behind the axis stands
+// on its edge. `fractions` and `values` are of the same length. Throws like FrameY.
 std::vector<Point> FramePoints(std::span<const f64> fractions, const ValueScale& scale, std::span<const f32> values,
                                const PlotBox& box = plotFrame);
 std::vector<Point> FramePoints(std::span<const f64> fractions, const ValueScale& scale, std::span<const f64> values,

@@ -44,6 +44,12 @@ TEST(FramePoints, AreThoseOfTheirPlacesAndValuesOneByOne) {
   }
 }
 
+TEST(FramePoints, WhatLiesBeyondTheAxisStandsOnItsEdge) {
+  const std::array<f64, 3> places = {-0.1, 0.5, 1.1};
+  const std::array<f32, 3> values = {0, -30, -60};
+  EXPECT_EQ(FramePoints(places, {0, -60}, values), (std::vector<Point>{{2000, 1000}, {6500, 4000}, {11000, 7000}}));
+}
+
 // A third is not a number of 32 bits: 1000 + 6000 / 3 is met only when it has not been rounded to one before.
 TEST(FramePoints, ValuesIn64BitsAreNotRoundedBefore) {
   const std::array<f64, 1> places = {0};
