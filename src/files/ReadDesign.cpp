@@ -335,6 +335,9 @@ void ClearCircuit(DesignRecord& record, Responses& responses) {
   }
   record.LimitsShown = 0;
   record.MarkerFreq.Fill(0);
+  record.MderivedZero.Fill(0);
+  record.Gj.Fill(0);
+  record.Hj.Fill(0);
   record.Apass = record.Astop = record.Width = record.Fcenter = record.Fstopband = 0;
   record.Family = familyNone;
   record.SweepMode = 0;

@@ -63,7 +63,7 @@ void Click(Session& session, Control& control) {
   RunHandler(session, handler);
 }
 
-void Type(Session& session, TextBox& box, std::string text) {
+void Type(Session& session, TextBox& box, const std::string& text) {
   Require(box);
   if (box.readOnly) throw ActRefused(box.name + " cannot be typed in");
   box.text = FirstCharacters(text, static_cast<std::size_t>(box.maxLength));

@@ -20,11 +20,11 @@ class ActRefused : public Fault {
 // Each runs the control's handler and returns when it is done. A fault that leaves a handler is told to the user in a
 // message box and ends that handler alone; ProgramEnd marks the session as ended. Acts on a control that the user
 // could not use throw ActRefused.
-void Click(Session& session, Control& control);               // a button or an option
-void Type(Session& session, TextBox& box, std::string text);  // one change that leaves `text` in the box
-void Leave(Session& session, TextBox& box);                   // the focus goes elsewhere
-void Step(Session& session, Spin& spin, int direction);       // +1 up, -1 down
-void Choose(Session& session, ListBox& list, int line);       // line from 1
+void Click(Session& session, Control& control);                      // a button or an option
+void Type(Session& session, TextBox& box, const std::string& text);  // one change that leaves `text` in the box
+void Leave(Session& session, TextBox& box);                          // the focus goes elsewhere
+void Step(Session& session, Spin& spin, int direction);              // +1 up, -1 down
+void Choose(Session& session, ListBox& list, int line);              // line from 1
 void Tick(Session& session, Timer& timer);
 void PressCloseBox(Session& session, Page& page);
 
