@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "core/modGeneral.h"
+#include "network/DesignStanding.h"
 
 namespace quilm {
 
@@ -21,11 +22,9 @@ struct Check {
 
   void Repaired(PageId page, std::string control, std::string text) {
     report.boxes.push_back({page, std::move(control), std::move(text)});
-    record.ResponsesValid = 0;
+    ForgetResponses(record);
   }
 };
-
-bool IsEdited(const DesignRecord& record) { return record.NetworkEdited == 1 || record.Family == familyManual; }
 
 bool HasCenter(const DesignRecord& record) {
   return record.Topology.size() == 1 && std::string_view("CDEFGHKL").find(record.Topology) != std::string_view::npos;
@@ -86,7 +85,7 @@ void HoldOrderToProgram(Check& check) {
 void HoldStages(Check& check) {
   if (check.record.Stages <= check.record.StagesMax) return;
   check.record.Stages = check.record.StagesMax;
-  check.record.ResponsesValid = 0;
+  ForgetResponses(check.record);
   check.Tell("", "The number of stages has been reset to the\r\nupper allowed limit of " +
                      std::to_string(check.record.StagesMax));
 }
@@ -107,7 +106,7 @@ void HoldOrderToFamily(Check& check) {
 }
 
 void RequireWidth(Check& check) {
-  if (IsEdited(check.record) || check.record.Width > 0) return;
+  if (IsByHand(check.record) || check.record.Width > 0) return;
   check.Fail("Error checker 53", "Please enter a bandwidth", "txtBandwidth");
 }
 
@@ -213,7 +212,7 @@ constexpr Rule rules[] = {
 
 bool HasInputTermination(const DesignRecord& record) {
   constexpr f32 least = 0.01F;  // ohms
-  return record.Rsource[1] > least || (IsEdited(record) && record.Rsource[1] == least);
+  return record.Rsource[1] > least || (IsByHand(record) && record.Rsource[1] == least);
 }
 
 EntryReport ExamineEntries(DesignRecord& record) {

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "core/NumericFault.h"
+#include "network/DesignStanding.h"
 
 namespace quilm {
 
@@ -117,7 +118,7 @@ void ComputeMderived(DesignRecord& record) {
   record.FstopNorm = 0;
   record.Rratio = 1;
   record.CauerFlag = 1;
-  record.ResponsesValid = 0;
+  ForgetResponses(record);
 }
 
 }  // namespace quilm

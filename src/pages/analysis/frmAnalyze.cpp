@@ -13,6 +13,7 @@
 #include "display/modPlot.h"
 #include "files/modReadQuilmFiles.h"
 #include "files/modWriteQuilmFile.h"
+#include "network/DesignStanding.h"
 #include "shell/EntryText.h"
 #include "shell/Session.h"
 
@@ -109,27 +110,27 @@ void frmAnalyze::Take(const Entry& entry) {
   f32& field = entry.field(record);
   ParseBox(*entry.box, field, entry.format);
   field = entry.hold(field);
-  if (entry.sweeps) record.ResponsesValid = 0;
+  if (entry.sweeps) ForgetResponses(record);
   if (record.NrXints < 1) record.NrXints = 10;
   ShowLabels();
 }
 
 void frmAnalyze::SetSweepMode(i16 mode) {
   session_.record.SweepMode = mode;
-  session_.record.ResponsesValid = 0;
+  ForgetResponses(session_.record);
   ShowLabels();
 }
 
 void frmAnalyze::SetRelative(bool relative) {
   session_.record.RelativeMode = relative ? 1 : 0;
   session_.record.AbsoluteMode = relative ? 0 : 1;
-  session_.record.ResponsesValid = 0;
+  ForgetResponses(session_.record);
 }
 
 void frmAnalyze::StepXints(int direction) {
   i16& intervals = session_.record.NrXints;
   intervals = static_cast<i16>(std::clamp(intervals + direction, 1, mostXints));
-  session_.record.ResponsesValid = 0;
+  ForgetResponses(session_.record);
   ShowLabels();
 }
 
@@ -158,7 +159,7 @@ bool frmAnalyze::CheckAll() {
 bool frmAnalyze::MayGoTo(PageId target) {
   if (target == PageId::Design) return true;
   if (!CheckAll()) return false;
-  if (target == PageId::Tabulated) session_.record.ResponsesValid = 0;
+  if (target == PageId::Tabulated) ForgetResponses(session_.record);
   if (target != PageId::Plotted) return true;
   AnalyzeSweep(session_);
   return session_.record.ResponsesValid == 1;

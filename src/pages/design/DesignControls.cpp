@@ -5,6 +5,7 @@
 
 #include "core/NumberText.h"
 #include "core/modGeneral.h"
+#include "network/DesignStanding.h"
 #include "pages/design/FamilyRules.h"
 
 namespace quilm {
@@ -68,8 +69,7 @@ std::string DesignControls::Decibels(f32 value) { return FormatValue(value); }
 void DesignControls::Fill() {
   // A letter that stands for no design is a network entered by hand.
   if (!record_.Topology.empty() && !IsTopologyLetter(record_.Topology)) {
-    record_.Family = familyManual;
-    record_.NetworkEdited = 1;
+    SettleByHand(record_);
   }
   WholeOrder(record_);
   DeriveStopband(record_);
@@ -147,13 +147,6 @@ std::string RippleReadout(f32 Apass) {
   const f64 Return = 20 * std::log10(rho);
   return "VSWR: " + EntryText(static_cast<f32>(VSWR), FormatValue) +
          "   Return: " + EntryText(static_cast<f32>(Return), FormatValue) + " dB";
-}
-
-void ForgetNetwork(DesignRecord& record) {
-  record.MatchAccepted = 0;
-  record.NetworkEdited = 0;
-  record.ResponsesValid = 0;
-  record.DesignChanged = 0;
 }
 
 }  // namespace quilm

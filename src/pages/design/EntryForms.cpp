@@ -4,6 +4,7 @@
 
 #include "core/Fault.h"
 #include "core/modGeneral.h"
+#include "network/DesignStanding.h"
 #include "shell/Session.h"
 
 namespace quilm {
@@ -53,7 +54,7 @@ void EntryForm::Load() {
 
 void EntryForm::Accept() {
   question_.field(session_.record) = value_;
-  session_.record.ResponsesValid = 0;
+  ForgetNetwork(session_.record);
   session_.pages.UnloadPage(Id());
 }
 
@@ -80,7 +81,7 @@ void frmEnterTopology::Accept() {
   if (chosen_ != record.Topology) {
     record.Topology = chosen_;
     if (IsLowOrHighpass(chosen_)) record.Fcenter = 0;
-    record.ResponsesValid = 0;
+    ForgetNetwork(record);
   }
   session_.pages.UnloadPage(Id());
 }

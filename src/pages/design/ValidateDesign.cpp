@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "network/DesignStanding.h"
 #include "pages/design/DesignControls.h"
 #include "pages/design/FamilyRules.h"
 #include "shell/Session.h"
@@ -82,7 +83,7 @@ void Validation::Run() {
 }
 
 void Validation::Tell(const std::string& text) {
-  record_.ResponsesValid = 0;
+  ForgetResponses(record_);
   controls_.Refresh();
   session_.platform.MessageBox(text, Buttons::Ok, Icon::Exclamation, "");
 }
@@ -192,9 +193,9 @@ void Validation::ChooseMissingOrder() {
 }
 
 void Validation::SettleManualNetwork() {
-  if (record_.Family != familyManual && record_.NetworkEdited != 1) return;
+  if (!IsByHand(record_)) return;
+  SettleByHand(record_);
   TakeFamily(familyManual);
-  record_.NetworkEdited = 1;
   controls_.families.Enable(false);
 }
 
@@ -230,7 +231,7 @@ void Validation::HoldRipple() {
   if (record_.Apass > mostRipple) record_.Apass = mostRipple;
   if (!(record_.Apass > leastRipple)) record_.Apass = leastRipple;
   if (record_.Apass == entered) return;
-  record_.ResponsesValid = 0;
+  ForgetResponses(record_);
   ripple.Repair();
 }
 
