@@ -9,6 +9,7 @@
 #include "core/modGeneral.h"
 #include "files/LineReader.h"
 #include "files/StageLine.h"
+#include "network/DesignStanding.h"
 
 namespace quilm {
 
@@ -356,18 +357,12 @@ ReadOutcome ReadDesign(std::istream& in, DesignRecord& record) {
   Reader reader(in, record);
   try {
     reader.ReadAll(outcome.layout);
-    // A file is read as it stands; a hand-made network in it is known by its family.
-    record.NetworkEdited = 0;
-    record.MatchAccepted = 0;
-    record.ResponsesValid = 0;
   } catch (const Fault& fault) {
     outcome = {true, outcome.layout, reader.LastLine(), reader.Marker(), fault.what()};
     record.Stages = 0;
-    record.NetworkEdited = 0;
-    record.MatchAccepted = 0;
-    record.DesignChanged = 0;
-    record.ResponsesValid = 0;
   }
+  // A file is read as it stands; a hand-made network in it is known by its family.
+  ForgetNetwork(record);
   return outcome;
 }
 
