@@ -29,7 +29,15 @@ void Tick(Session& session, Timer& timer);
 void PressCloseBox(Session& session, Page& page);
 
 enum class MouseAct { Down, Move, Up };
+// A left press on an area with a handler of its own goes to that handler, and to none when the area is disabled; all
+// else goes to the handlers of the box.
 void Mouse(Session& session, PictureBox& box, MouseAct act, f32 x, f32 y, MouseButton button);
+
+// Whether that would run a handler: moves over a picture that listens to none cost nothing.
+bool HearsMouse(const PictureBox& box, MouseAct act, f32 x, f32 y, MouseButton button);
+
+// Presses a named area of a picture, however the user got there.
+void PressArea(Session& session, PictureBox& box, std::string_view name);
 
 // Runs anything as a handler runs: for the start of the program and for what is no control.
 void RunHandler(Session& session, const std::function<void()>& handler);
