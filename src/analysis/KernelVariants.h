@@ -64,7 +64,7 @@ struct Kernel {
   // Fills the arrays. Points that may fail, or that need more care than many lanes can give, become true in `doubtful`:
   // their figures are not valid, and they must be evaluated singly. Says whether there are any.
   bool (*evaluate)(const PointRange& range, const PointArrays& out, bool* doubtful);
-  // The same with all of each point, doubtful ones having reached nothing.
+  // All of each point in full; a doubtful one may have reached less than it does alone.
   void (*evaluateFigures)(const PointRange& range, Figures* figures);
   void (*takeSteps)(const StepRange& range);
   void (*takeSums)(SumRange& range);  // raises each `high` and lowers each `low` to the values

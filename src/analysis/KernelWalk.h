@@ -54,7 +54,18 @@ struct Walk {
     Ii += g * Vi + b * Vr;
   }
 
-  // The same with the admittance g - jb.
+  // Without a resistance or conductance.
+  [[gnu::always_inline]] inline void SeriesReactance(const P& x) {
+    Vr = Vr - x * Ii;
+    Vi += x * Ir;
+  }
+
+  [[gnu::always_inline]] inline void ShuntSusceptance(const P& b) {
+    Ir = Ir - b * Vi;
+    Ii += b * Vr;
+  }
+
+  // A shunt admittance g - jb.
   [[gnu::always_inline]] inline void ShuntLagging(const P& g, const P& b) {
     Ir += g * Vr + b * Vi;
     Ii += g * Vi - b * Vr;
@@ -91,7 +102,7 @@ struct Walk {
     arm.gD = s.Rs + (s.g + s.gc * wAbs) * arm.D;
     arm.bD = XL + (s.capacitiveOffset + s.capacitive * w) * arm.D;
     if (!s.lossy) Doubt(arm.gD == 0);
-    const M near = Abs(arm.bD) <= nearResonance * Abs(XL);
+    const M near = Abs(arm.bD) <= (nearResonance * __builtin_fabs(s.L)) * wAbs;
     if constexpr (alone) {
       if (near.At(0)) arm.bD = ResonantSusceptance(s, w.At(0), arm.D.At(0));
     } else {
@@ -148,20 +159,20 @@ struct Walk {
     const P tangent = TangentOf(s);
     if (s.open) {
       Doubt(tangent == 0);
-      Series(0, -(s.z / tangent));
+      SeriesReactance(-(s.z / tangent));
     } else {
-      Series(0, s.z * tangent);
+      SeriesReactance(s.z * tangent);
     }
   }
 
   [[gnu::always_inline]] inline void ShuntStub(const CompiledStage& s) {
     const P tangent = TangentOf(s);
     if (s.open) {
-      Shunt(0, tangent / s.z);
+      ShuntSusceptance(tangent / s.z);
     } else {
       const P x = s.z * tangent;
       Doubt(x == 0);
-      ShuntLagging(0, 1 / x);
+      ShuntSusceptance(-1 / x);
     }
   }
 

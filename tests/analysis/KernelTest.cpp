@@ -63,6 +63,30 @@ TEST(Kernel, AFailingPointLeavesItsNeighboursAlone) {
   }
 }
 
+TEST(Kernel, AForcedWidthIsTakenWhereTheProcessorHasIt) {
+  EXPECT_EQ(WidthFor("128"), VectorWidth::Baseline);
+  const VectorWidth widest = WidthFor(nullptr);
+  EXPECT_TRUE(HasVectors(widest));
+  EXPECT_EQ(WidthFor("256"), HasVectors(VectorWidth::Bits256) ? VectorWidth::Bits256 : widest);
+  EXPECT_EQ(WidthFor("512"), HasVectors(VectorWidth::Bits512) ? VectorWidth::Bits512 : widest);
+}
+
+TEST(Kernel, AnythingElseWishesNothing) {
+  for (const char* wish : {"", "64", "1024", " 128", "128 ", "wide", "-1"}) {
+    EXPECT_EQ(WidthFor(wish), WidthFor(nullptr)) << wish;
+  }
+}
+
+TEST(Kernel, WithoutAWishTheWidestIsTaken) {
+  for (const VectorWidth width : widths) {
+    if (HasVectors(width)) {
+      EXPECT_GE(WidthFor(nullptr), width);
+    }
+  }
+  EXPECT_TRUE(HasVectors(VectorWidth::Baseline));
+  EXPECT_TRUE(HasVectors(DefaultWidth()));
+}
+
 // Two ways to the same figure round differently in 64 bits; of the 32-bit results a few in a million may fall to the
 // neighbouring number.
 TEST(Kernel, AgreesWithTheFormulasAsTheyStand) {
