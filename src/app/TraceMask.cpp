@@ -76,6 +76,7 @@ struct TraceMask::Line {
   f32 reach;          // no pixel farther away is touched
   f32 inverseSquare;  // of its length; 0 for a point
   f32 slant;          // half the length of a row's cut through the endless line
+  f32 inverseRise;    // 1 / dy
   bool flat;          // so that rows do not cut it
 
   // Widens [least, most] to where the line comes within reach of row `row`; false when it does not.
@@ -86,8 +87,8 @@ bool TraceMask::Line::Span(f32 row, f32& least, f32& most) const {
   f32 first = 0;
   f32 last = 1;
   if (!flat) {
-    const f32 a = (row - reach - y) / dy;
-    const f32 b = (row + reach - y) / dy;
+    const f32 a = (row - reach - y) * inverseRise;
+    const f32 b = (row + reach - y) * inverseRise;
     first = std::max(first, std::min(a, b));
     last = std::min(last, std::max(a, b));
     if (first > last) return false;
@@ -97,7 +98,7 @@ bool TraceMask::Line::Span(f32 row, f32& least, f32& most) const {
   least = std::min(from, to) - reach;
   most = std::max(from, to) + reach;
   if (flat) return true;
-  const f32 crossing = x + (row - y) / dy * dx;
+  const f32 crossing = x + (row - y) * inverseRise * dx;
   least = std::max(least, crossing - slant);
   most = std::min(most, crossing + slant);
   return true;
@@ -142,13 +143,17 @@ void TraceMask::AddLine(Point from, Point to, f32 width) {
             .reach = halfPixel * width + halfPixel,
             .inverseSquare = 0,
             .slant = 0,
+            .inverseRise = 0,
             .flat = true};
   const f32 square = line.dx * line.dx + line.dy * line.dy;
   constexpr f32 noLength = 1e-12F;
   if (square > noLength) line.inverseSquare = 1 / square;
   constexpr f32 noRise = 1e-4F;
   line.flat = std::fabs(line.dy) < noRise;
-  if (!line.flat) line.slant = line.reach * std::sqrt(square) / std::fabs(line.dy);
+  if (!line.flat) {
+    line.inverseRise = 1 / line.dy;
+    line.slant = line.reach * std::sqrt(square) * std::fabs(line.inverseRise);
+  }
   const int top = FirstPixel(std::min(line.y, line.y + line.dy) - line.reach, room_.top);
   const int bottom = LastPixel(std::max(line.y, line.y + line.dy) + line.reach, room_.bottom - 1);
   for (int row = top; row <= bottom; ++row) AddRow(line, row);

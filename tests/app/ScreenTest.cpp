@@ -15,13 +15,31 @@ class OnTheScreen : public Walk {
     ClickOn("cmdPlot");
   }
 
+  // The widget's part of the screen, when nothing changes there any more.
   QImage Seen(const char* name) {
     constexpr int untilDrawn = 100;
-    QTest::qWait(untilDrawn);
-    QWidget* widget = Find(name);
-    const QPoint corner = widget->mapTo(&desktop_.window, QPoint());
+    constexpr int mostWaits = 30;
+    QImage seen;
+    for (int i = 0; i < mostWaits; ++i) {
+      QTest::qWait(untilDrawn);
+      const QImage now = Shot(*Find(name));
+      if (now == seen) break;
+      seen = now;
+    }
+    return seen;
+  }
+
+  // Whether it comes to look like that, on a busy machine too.
+  bool ComesToLook(const char* name, const QImage& image) {
+    constexpr int milliseconds = 5000;
+    return QTest::qWaitFor([&] { return Shot(*Find(name)) == image; }, milliseconds);
+  }
+
+ private:
+  QImage Shot(const QWidget& widget) {
+    const QPoint corner = widget.mapTo(&desktop_.window, QPoint());
     return desktop_.window.screen()
-        ->grabWindow(desktop_.window.winId(), corner.x(), corner.y(), widget->width(), widget->height())
+        ->grabWindow(desktop_.window.winId(), corner.x(), corner.y(), widget.width(), widget.height())
         .toImage()
         .convertToFormat(QImage::Format_RGB32);
   }
@@ -32,7 +50,7 @@ TEST_F(OnTheScreen, APlotButtonRisesWhenAnotherIsPressed) {
   ClickOn("cmd3");
   EXPECT_NE(Seen("cmd3"), risen);
   ClickOn("cmd4");
-  EXPECT_EQ(Seen("cmd3"), risen);
+  EXPECT_TRUE(ComesToLook("cmd3", risen));
 }
 
 TEST_F(OnTheScreen, ThePlotIsWhatThePageHasDrawn) {
@@ -45,7 +63,7 @@ TEST_F(OnTheScreen, AReadoutGoesWithTheButton) {
   QTest::mousePress(&Plot(), Qt::LeftButton, {}, PlaceOf(4000, 4000));
   EXPECT_NE(Seen("picPlot"), before);
   QTest::mouseRelease(&Plot(), Qt::LeftButton, {}, PlaceOf(4000, 4000));
-  EXPECT_EQ(Seen("picPlot"), before);
+  EXPECT_TRUE(ComesToLook("picPlot", before));
 }
 
 TEST_F(OnTheScreen, TracesOfTrialsAppearAndGo) {
@@ -59,7 +77,7 @@ TEST_F(OnTheScreen, TracesOfTrialsAppearAndGo) {
   EXPECT_NE(Seen("picPlot"), one);
   PlotBox().live.Clear();
   desktop_.platform.Stage().Sync();
-  EXPECT_EQ(Seen("picPlot"), before);
+  EXPECT_TRUE(ComesToLook("picPlot", before));
 }
 
 }  // namespace
