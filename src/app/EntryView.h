@@ -3,6 +3,7 @@
 
 #include <QLineEdit>
 #include <QPalette>
+#include <QTimer>
 #include <functional>
 
 #include "app/ControlView.h"
@@ -38,6 +39,7 @@ class EntryBox : public QLineEdit {
   bool StepAtCursor(int direction);
   bool Restore();
 
+  QTimer warmth_;   // runs as long as a repair shows
   QString before_;  // when the box was entered
   bool touched_ = false;
   int wheelTurned_ = 0;  // eighths of a degree not yet stepped

@@ -127,13 +127,13 @@ void TimerView::ShowValues() {
 }
 
 PictureBoxView::PictureBoxView(PictureBox& box, ActSink& sink, QWidget* parent)
-    : ControlView(box), box_(box), view_(new PictureView(parent)) {
+    : ControlView(box), box_(box), view_(new PictureView(parent)), areas_(new PictureAreas(*view_)) {
   view_->onMouse = [this, &sink](MouseAct act, f32 x, f32 y, MouseButton button) {
-    const auto& handler = act == MouseAct::Down   ? box_.onMouseDown
-                          : act == MouseAct::Move ? box_.onMouseMove
-                                                  : box_.onMouseUp;
-    if (!handler) return;
+    if (!HearsMouse(box_, act, x, y, button)) return;
     sink.Perform([=, this](Session& session) { Mouse(session, box_, act, x, y, button); });
+  };
+  areas_->onPress = [this, &sink](const std::string& name) {
+    sink.Press([this, name](Session& session) { PressArea(session, box_, name); });
   };
   QObject::connect(view_, &PictureView::SaveRequested, view_, [this, &sink] {
     sink.Perform([view = view_](Session& session) {
@@ -145,6 +145,13 @@ PictureBoxView::PictureBoxView(PictureBox& box, ActSink& sink, QWidget* parent)
     });
   });
   SetWidget(view_);
+}
+
+void PictureBoxView::ShowValues() {
+  view_->Show(box_.picture, box_.live, box_.mark);
+  areas_->Show(box_.areas);
+  const QString description = ToQt(box_.description);
+  if (view_->accessibleDescription() != description) view_->setAccessibleDescription(description);
 }
 
 }  // namespace quilm

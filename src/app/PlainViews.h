@@ -6,6 +6,7 @@
 #include <QToolButton>
 
 #include "app/ControlView.h"
+#include "app/PictureAreas.h"
 #include "app/PictureView.h"
 
 namespace quilm {
@@ -71,11 +72,12 @@ class PictureBoxView : public ControlView {
   PictureBoxView(PictureBox& box, ActSink& sink, QWidget* parent);
 
  protected:
-  void ShowValues() override { view_->Show(box_.picture, box_.live, box_.mark); }
+  void ShowValues() override;
 
  private:
   PictureBox& box_;
   PictureView* view_;
+  PictureAreas* areas_;
 };
 
 }  // namespace quilm

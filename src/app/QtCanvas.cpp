@@ -138,7 +138,7 @@ void QtCanvas::DrawPolyline(std::span<const Point> points, Color color) {
     if (SetsPixels(ink)) {
       SetTrace(points, ink);
     } else if (Prepare(ink, true)) {
-      StrokeTrace(points, ink);
+      StrokeTrace(points);
     }
     return;
   }
@@ -155,6 +155,8 @@ void QtCanvas::DrawPolyline(std::span<const Point> points, Color color) {
 bool QtCanvas::SetsPixels(const QColor& ink) const {
   constexpr int opaque = 255;
   if (image_ == nullptr || ink.alpha() != opaque) return false;
+  // Of thin lines the toolkit has a fast way of its own.
+  if (PenWidth() * painter_.deviceTransform().m11() <= 1) return false;
   const bool words =
       image_->format() == QImage::Format_RGB32 || image_->format() == QImage::Format_ARGB32_Premultiplied;
   return words && DrawStyle == LineStyle::Solid && DrawMode == PenMode::Copy &&
@@ -169,43 +171,39 @@ void QtCanvas::SetTrace(std::span<const Point> points, const QColor& ink) {
   TraceMask mask(
       {firstInside(clip.left()), firstInside(clip.top()), firstInside(clip.right()), firstInside(clip.bottom())});
   const auto width = static_cast<f32>(PenWidth() * toPixels.m11());
-  for (std::size_t i = 1; i < points.size(); ++i) {
-    QPointF from = toPixels.map(Map(points[i - 1]));
-    QPointF to = toPixels.map(Map(points[i]));
-    if (!IsFinite(from) || !IsFinite(to) || !CutSegment(from, to)) continue;
-    mask.AddLine(static_cast<f32>(from.x()), static_cast<f32>(from.y()), static_cast<f32>(to.x()),
-                 static_cast<f32>(to.y()), width);
+  std::vector<Point> run;
+  for (const QPolygonF& places : RunsOf(points, toPixels)) {
+    run.clear();
+    for (const QPointF& place : places) run.push_back({static_cast<f32>(place.x()), static_cast<f32>(place.y())});
+    mask.AddTrace(run, width);
   }
   mask.ForEachRun([this, word = ink.rgb()](int x, int y, const std::uint8_t* cover, int count) {
     Blend(reinterpret_cast<QRgb*>(image_->scanLine(y)) + x, cover, count, word);
   });
 }
 
-// One stroke from point to point. It is broken where the trace leaves what the painter can count, or where a point has
-// no place.
-void QtCanvas::StrokeTrace(std::span<const Point> points, const QColor& ink) {
-  painter_.setPen(MakePen(ink));
-  QPolygonF run;
-  const auto flush = [&] {
-    if (run.size() > 1) painter_.drawPolyline(run);
-    run.clear();
-  };
+void QtCanvas::StrokeTrace(std::span<const Point> points) {
+  for (const QPolygonF& run : RunsOf(points, QTransform())) painter_.drawPolyline(run);
+}
+
+// The places of the points, in runs of two and more. A trace is broken where it leaves what the painter can count, or
+// where a point has no place.
+std::vector<QPolygonF> QtCanvas::RunsOf(std::span<const Point> points, const QTransform& place) const {
+  std::vector<QPolygonF> runs;
+  bool open = false;
   for (std::size_t i = 1; i < points.size(); ++i) {
-    QPointF from = Map(points[i - 1]);
-    QPointF to = Map(points[i]);
+    QPointF from = place.map(Map(points[i - 1]));
+    QPointF to = place.map(Map(points[i]));
     const QPointF end = to;
     if (!IsFinite(from) || !IsFinite(to) || !CutSegment(from, to)) {
-      flush();
+      open = false;
       continue;
     }
-    if (run.isEmpty() || run.last() != from) {
-      flush();
-      run << from;
-    }
-    run << to;
-    if (to != end) flush();
+    if (!open || runs.back().last() != from) runs.push_back(QPolygonF{from});
+    runs.back() << to;
+    open = to == end;
   }
-  flush();
+  return runs;
 }
 
 void QtCanvas::DrawRectangle(Point from, Point to, Color color, bool filled) {

@@ -6,7 +6,9 @@
 #include <QImage>
 #include <QPainter>
 #include <QPen>
+#include <QPolygonF>
 #include <QRectF>
+#include <vector>
 
 #include "shell/Canvas.h"
 
@@ -24,7 +26,7 @@ struct Surface {
 class QtCanvas : public Canvas {
  public:
   // Draws with `painter` for as long as both live. The clip becomes the surface's target.
-  // Solid traces on an image are set pixel by pixel, past the painter.
+  // On an image, solid traces wider than a device pixel are set pixel by pixel, past the painter.
   QtCanvas(QPainter& painter, const Surface& surface);
 
  protected:
@@ -48,7 +50,8 @@ class QtCanvas : public Canvas {
   QPointF OntoPixels(QPointF point) const;
   bool Prepare(const QColor& ink, bool smooth);
   bool SetsPixels(const QColor& ink) const;
-  void StrokeTrace(std::span<const Point> points, const QColor& ink);
+  std::vector<QPolygonF> RunsOf(std::span<const Point> points, const QTransform& place) const;
+  void StrokeTrace(std::span<const Point> points);
   void SetTrace(std::span<const Point> points, const QColor& ink);
   void DrawTextLine(const QString& line, QPointF topLeft, f64 emHeight);
 

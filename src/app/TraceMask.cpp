@@ -10,6 +10,58 @@ namespace {
 // Wide enough for what an int holds, and beyond every surface.
 constexpr f32 farAway = 1e6F;
 
+// A straight stretch of a trace while it is walked: which directions from its start pass all its points closely enough.
+// Williams, Bounded straight-line approximation of digitized planar curves and lines, Computer Graphics and Image
+// Processing 16 (1981).
+class Stretch {
+ public:
+  explicit Stretch(Point start) : start_(start), end_(start) {}
+
+  Point Start() const { return start_; }
+  Point End() const { return end_; }
+
+  // Goes on to a point. False when a line to it would miss the points before, or turn back.
+  bool Take(Point to) {
+    const f32 dx = to.x - start_.x;
+    const f32 dy = to.y - start_.y;
+    if (!aimed_ && !Aim(dx, dy)) {
+      end_ = to;
+      return true;
+    }
+    const f32 along = dx * aimX_ + dy * aimY_;
+    const f32 across = dy * aimX_ - dx * aimY_;
+    if (along < reached_ || across < least_ * along || across > most_ * along) return false;
+    least_ = std::max(least_, (across - tolerance) / along);
+    most_ = std::min(most_, (across + tolerance) / along);
+    reached_ = along;
+    end_ = to;
+    return true;
+  }
+
+ private:
+  static constexpr f32 tolerance = 0.05F;  // of a pixel
+  static constexpr f32 everyDirection = 1e9F;
+
+  // The first point far enough from the start gives the direction. False while there is none.
+  bool Aim(f32 dx, f32 dy) {
+    const f32 length = std::sqrt(dx * dx + dy * dy);
+    if (length <= tolerance) return false;
+    aimX_ = dx / length;
+    aimY_ = dy / length;
+    aimed_ = true;
+    return true;
+  }
+
+  Point start_;
+  Point end_;
+  bool aimed_ = false;
+  f32 aimX_ = 0;
+  f32 aimY_ = 0;
+  f32 reached_ = 0;
+  f32 least_ = -everyDirection;  // sideways a unit forward
+  f32 most_ = everyDirection;
+};
+
 int FirstPixel(f32 from, int least) { return std::max(least, static_cast<int>(std::ceil(std::max(from, -farAway)))); }
 int LastPixel(f32 to, int most) { return std::min(most, static_cast<int>(std::floor(std::min(to, farAway)))); }
 
@@ -69,12 +121,24 @@ std::uint8_t* TraceMask::CoverAt(int x, int y) {
   return tile.cover.data() + (y - tile.top) * tileSize + (x - tile.left);
 }
 
-void TraceMask::AddLine(f32 x1, f32 y1, f32 x2, f32 y2, f32 width) {
+void TraceMask::AddTrace(std::span<const Point> points, f32 width) {
+  if (points.empty()) return;
+  Stretch stretch(points.front());
+  for (const Point point : points.subspan(1)) {
+    if (stretch.Take(point)) continue;
+    AddLine(stretch.Start(), stretch.End(), width);
+    stretch = Stretch(stretch.End());
+    stretch.Take(point);
+  }
+  AddLine(stretch.Start(), stretch.End(), width);
+}
+
+void TraceMask::AddLine(Point from, Point to, f32 width) {
   constexpr f32 halfPixel = 0.5F;
-  Line line{.x = x1 - halfPixel,
-            .y = y1 - halfPixel,
-            .dx = x2 - x1,
-            .dy = y2 - y1,
+  Line line{.x = from.x - halfPixel,
+            .y = from.y - halfPixel,
+            .dx = to.x - from.x,
+            .dy = to.y - from.y,
             .reach = halfPixel * width + halfPixel,
             .inverseSquare = 0,
             .slant = 0,

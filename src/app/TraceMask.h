@@ -4,9 +4,10 @@
 
 #include <array>
 #include <cstdint>
+#include <span>
 #include <vector>
 
-#include "core/Types.h"
+#include "shell/Canvas.h"
 
 namespace quilm {
 
@@ -26,8 +27,9 @@ class TraceMask {
   // Covers nothing outside `room`.
   explicit TraceMask(const PixelBox& room);
 
-  // A line with round ends, `width` pixels wide. Coordinates are in pixels, (0.5, 0.5) the centre of the first.
-  void AddLine(f32 x1, f32 y1, f32 x2, f32 y2, f32 width);
+  // Lines from point to point with round ends and joints, `width` pixels wide. Coordinates are in pixels, (0.5, 0.5)
+  // the centre of the first. Points that lie within a twentieth of a pixel of a straight stretch make one line with it.
+  void AddTrace(std::span<const Point> points, f32 width);
 
   // Calls paint(x, y, cover, count) for runs of pixels; cover[i] is the coverage of pixel x + i in row y, 0 to 255.
   // Pixels that no line came near are in no run.
@@ -50,6 +52,7 @@ class TraceMask {
   };
   struct Line;
 
+  void AddLine(Point from, Point to, f32 width);
   void AddRow(const Line& line, int y);
   std::uint8_t* CoverAt(int x, int y);
 

@@ -4,9 +4,9 @@
 
 #include "core/Fault.h"
 #include "desk/ReturnToDesign.h"
+#include "network/DesignStanding.h"
 #include "shell/Session.h"
 #include "synthesis/MakeNetwork.h"
-#include "synthesis/modNormalized.h"
 
 namespace quilm {
 

@@ -9,6 +9,7 @@
 #include "core/modGeneral.h"
 #include "files/LineReader.h"
 #include "files/StageLine.h"
+#include "network/DesignStanding.h"
 
 namespace quilm {
 
@@ -335,6 +336,9 @@ void ClearCircuit(DesignRecord& record, Responses& responses) {
   }
   record.LimitsShown = 0;
   record.MarkerFreq.Fill(0);
+  record.MderivedZero.Fill(0);
+  record.Gj.Fill(0);
+  record.Hj.Fill(0);
   record.Apass = record.Astop = record.Width = record.Fcenter = record.Fstopband = 0;
   record.Family = familyNone;
   record.SweepMode = 0;
@@ -353,18 +357,12 @@ ReadOutcome ReadDesign(std::istream& in, DesignRecord& record) {
   Reader reader(in, record);
   try {
     reader.ReadAll(outcome.layout);
-    // A file is read as it stands; a hand-made network in it is known by its family.
-    record.NetworkEdited = 0;
-    record.MatchAccepted = 0;
-    record.ResponsesValid = 0;
   } catch (const Fault& fault) {
     outcome = {true, outcome.layout, reader.LastLine(), reader.Marker(), fault.what()};
     record.Stages = 0;
-    record.NetworkEdited = 0;
-    record.MatchAccepted = 0;
-    record.DesignChanged = 0;
-    record.ResponsesValid = 0;
   }
+  // A file is read as it stands; a hand-made network in it is known by its family.
+  ForgetNetwork(record);
   return outcome;
 }
 

@@ -26,7 +26,6 @@ void TellFailure(Session& session, const ReadOutcome& outcome) {
 void TakeOldLayout(Session& session, FileLayout layout) {
   session.record.DesignChanged = 1;
   if (layout == FileLayout::WithoutZeros) session.record.MarkersShown = 0;
-  session.record.ResponsesValid = 0;
   session.pages.ShowPage(PageId::Schematic);
 }
 

@@ -1,6 +1,6 @@
 #include "reports/PrintTable.h"
 
-#include "display/PlotFrame.h"
+#include "display/ResponseCurves.h"
 #include "display/modTabulate.h"
 #include "reports/Report.h"
 

@@ -1,5 +1,6 @@
 #include "shell/Control.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "shell/Page.h"
@@ -126,6 +127,28 @@ PictureBox::PictureBox(Page& page, std::string boxName, std::string accessible)
 PictureBox::PictureBox(Page& page, std::string boxName, std::string accessible, Picture& shown, LiveLayer& over)
     : Control(page, ControlKind::Picture, std::move(boxName)), picture(shown), live(over) {
   accessibleName = std::move(accessible);
+}
+
+const HitArea* PictureBox::AreaAt(Point at) const {
+  const auto found =
+      std::find_if(areas.rbegin(), areas.rend(), [at](const HitArea& area) { return area.Contains(at); });
+  return found == areas.rend() ? nullptr : &*found;
+}
+
+const HitArea* PictureBox::FindArea(std::string_view areaName) const {
+  const auto found =
+      std::find_if(areas.begin(), areas.end(), [areaName](const HitArea& area) { return area.name == areaName; });
+  return found == areas.end() ? nullptr : &*found;
+}
+
+Picture PictureBox::AsSeen() const {
+  Picture seen = picture;
+  for (const PictureOp& operation : live.Present().kept) DrawOperation(operation, seen);
+  const Scale& scale = mark.CurrentScale();
+  if (!mark.Empty()) {
+    mark.ReplayInto(seen, {scale.left, scale.top}, {scale.left + scale.width, scale.top + scale.height});
+  }
+  return seen;
 }
 
 }  // namespace quilm

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "shell/HitArea.h"
 #include "shell/LiveLayer.h"
 #include "shell/Picture.h"
 
@@ -161,6 +162,16 @@ class PictureBox : public Control {
   std::function<void(f32 x, f32 y, MouseButton)> onMouseDown;
   std::function<void(f32 x, f32 y, MouseButton)> onMouseMove;
   std::function<void(f32 x, f32 y, MouseButton)> onMouseUp;
+
+  HitAreas areas;
+  std::string description;  // for assistive tools: what the picture shows just now
+
+  // The area on top at a place, or of a name; nullptr for none.
+  const HitArea* AreaAt(Point at) const;
+  const HitArea* FindArea(std::string_view areaName) const;
+
+  // All that the user sees: the picture, the live layer as far as it is kept, and the mark over both.
+  Picture AsSeen() const;
 
  private:
   Picture own_;

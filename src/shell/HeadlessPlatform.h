@@ -55,8 +55,8 @@ class HeadlessPlatform : public Platform {
   std::deque<std::optional<std::string>> files;
   std::deque<bool> printers;
 
-  // What to do while the next modal pages are open, one function a page. A page that is still open afterwards gets its
-  // close box pressed.
+  // What to do while the next modal pages, or tools beside a page, are open, one function a page. A page that is still
+  // open afterwards gets its close box pressed.
   std::deque<std::function<void(Page&)>> modalActs;
 
   // Runs in every Yield. A long run yields at each step, so that the number of a yield is that of its step.
@@ -99,6 +99,7 @@ class HeadlessPlatform : public Platform {
   void PageShown(Page& page) override;
   void PageUnloaded(Page& page) override;
   void RunModal(Page& page) override;
+  void RunBeside(Page& tool, Page& /*main*/) override { RunModal(tool); }  // who looks at pages needs no place for them
 
  private:
   std::optional<std::string> AskFile(FileAsked asked);

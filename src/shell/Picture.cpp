@@ -33,7 +33,7 @@ void Picture::Replay(Canvas& canvas) const {
 
 void Picture::ReplayInto(Canvas& canvas, Point from, Point to) const {
   const PenScope pen(canvas);
-  Placement place;
+  PicturePlace place;
   place.xScale = (to.x - from.x) / ScaleWidth;
   place.yScale = (to.y - from.y) / ScaleHeight;
   place.xShift = from.x - ScaleLeft * place.xScale;

@@ -21,9 +21,9 @@ void TakePen(Canvas& canvas, const Pen& pen) {
 }
 
 // Most drawings land where they were made, and a trace has thousands of points.
-void DrawLine(const PolylineOp& op, Canvas& canvas, const Placement& place) {
+void DrawLine(const PolylineOp& op, Canvas& canvas, const PicturePlace& place) {
   TakePen(canvas, op.pen);
-  if (place == Placement{}) {
+  if (place == PicturePlace{}) {
     canvas.Polyline(op.points, op.pen.color);
     return;
   }
@@ -43,7 +43,7 @@ std::ostream& operator<<(std::ostream& out, const Pen& pen) {
 
 }  // namespace
 
-void DrawOperation(const PictureOp& operation, Canvas& canvas, const Placement& place) {
+void DrawOperation(const PictureOp& operation, Canvas& canvas, const PicturePlace& place) {
   std::visit(Overloaded{
                  [&](const PolylineOp& op) { DrawLine(op, canvas, place); },
                  [&](const RectangleOp& op) {

@@ -59,18 +59,18 @@ struct TextOp {
 using PictureOp = std::variant<PolylineOp, RectangleOp, CircleOp, PointOp, TextOp>;
 
 // Where a drawing lands on the canvas that it is drawn into: coordinates times a scale, and shifted.
-struct Placement {
+struct PicturePlace {
   f32 xScale = 1;
   f32 xShift = 0;
   f32 yScale = 1;
   f32 yShift = 0;
 
   Point operator()(Point p) const { return Point{p.x * xScale + xShift, p.y * yScale + yShift}; }
-  bool operator==(const Placement&) const = default;
+  bool operator==(const PicturePlace&) const = default;
 };
 
 // Draws one operation with its own pen or font, which the canvas keeps. Text sizes follow the vertical scale.
-void DrawOperation(const PictureOp& operation, Canvas& canvas, const Placement& place = {});
+void DrawOperation(const PictureOp& operation, Canvas& canvas, const PicturePlace& place = {});
 
 // One line, for test reports and differences.
 std::string DumpOperation(const PictureOp& operation);

@@ -65,10 +65,12 @@ class Platform {
 
   virtual DateTime Now() = 0;
 
-  // Called by the page desk. A page is shown after its load step; RunModal returns when the page has closed.
+  // Called by the page desk. A page is shown after its load step; RunModal and RunBeside return when the page has
+  // closed, the latter shows it in the side place of `main`, which stays in sight.
   virtual void PageShown(Page& page) = 0;
   virtual void PageUnloaded(Page& page) = 0;
   virtual void RunModal(Page& page) = 0;
+  virtual void RunBeside(Page& tool, Page& main) = 0;
 };
 
 }  // namespace quilm

@@ -5,6 +5,8 @@
 #include "core/ElementCatalogue.h"
 #include "core/NumericFault.h"
 #include "core/Topology.h"
+#include "network/DesignStanding.h"
+#include "network/NetworkEdits.h"
 
 namespace quilm {
 
@@ -83,7 +85,7 @@ std::string EndSectionObstacle(const DesignRecord& record) {
   if (!IsLowOrHighpass(record.Topology)) return "End sections are for lowpass and highpass filters.";
   const int last = record.Stages;
   if (last < 2) return "End sections need a network of at least two stages.";
-  if (last + 2 > record.StagesMax) return "There is no room for two more stages.";
+  if (!HasRoomFor(record, 2)) return "There is no room for two more stages.";
   const auto pairs = [&record](int end, int neighbour) {
     const i16 partner = PartnerOf(record.stage[end].ElementType);
     return partner != 0 && record.stage[neighbour].ElementType == partner;
@@ -107,15 +109,13 @@ void AddEndSections(DesignRecord& record, f32 m) {
   const int last = record.Stages;
   const EndSection atSource = SectionAt(record.stage[1], record.stage[2], m, scope);
   const EndSection atLoad = SectionAt(record.stage[last], record.stage[last - 1], m, scope);
-  ValueOf(record.stage[1]) = atSource.endValue;
-  ValueOf(record.stage[last]) = atLoad.endValue;
-  for (int s = last; s >= 1; --s) record.stage[s + 1] = record.stage[s];
+  MoveStagesUp(record, 1, 1);
+  MoveStagesUp(record, last + 2, 1);
   record.stage[1] = StageOf(atSource.arm);
+  ValueOf(record.stage[2]) = atSource.endValue;
+  ValueOf(record.stage[last + 1]) = atLoad.endValue;
   record.stage[last + 2] = StageOf(atLoad.arm);
-  record.Stages = static_cast<i16>(last + 2);
-  record.Family = familyManual;
-  record.NetworkEdited = 1;
-  record.ResponsesValid = 0;
+  StandByHand(record);
 }
 
 }  // namespace quilm

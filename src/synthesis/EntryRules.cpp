@@ -3,6 +3,7 @@
 #include "core/EntryLimits.h"
 #include "core/Topology.h"
 #include "core/modGeneral.h"
+#include "network/DesignStanding.h"
 #include "shell/EntryText.h"
 
 namespace quilm {
@@ -22,11 +23,9 @@ struct Check {
 
   void Repaired(PageId page, std::string control, std::string text) {
     report.boxes.push_back({page, std::move(control), std::move(text)});
-    record.ResponsesValid = 0;
+    ForgetResponses(record);
   }
 };
-
-bool IsEdited(const DesignRecord& record) { return record.NetworkEdited == 1 || record.Family == familyManual; }
 
 bool IsEven(f32 order) { return static_cast<int>(order) % 2 == 0; }
 
@@ -78,7 +77,7 @@ void HoldOrderToProgram(Check& check) {
 void HoldStages(Check& check) {
   if (check.record.Stages <= check.record.StagesMax) return;
   check.record.Stages = check.record.StagesMax;
-  check.record.ResponsesValid = 0;
+  ForgetResponses(check.record);
   check.Tell("", "The number of stages has been reset to the\r\nupper allowed limit of " +
                      std::to_string(check.record.StagesMax));
 }
@@ -99,7 +98,7 @@ void HoldOrderToFamily(Check& check) {
 }
 
 void RequireWidth(Check& check) {
-  if (IsEdited(check.record) || check.record.Width > 0) return;
+  if (IsByHand(check.record) || check.record.Width > 0) return;
   check.Fail("Error checker 53", "Please enter a bandwidth", "txtBandwidth");
 }
 
@@ -207,7 +206,7 @@ constexpr Rule rules[] = {
 
 bool HasInputTermination(const DesignRecord& record) {
   const f32 source = record.Rsource[1];
-  return source > limitsOf::leastEntered || (IsEdited(record) && source == limitsOf::leastEntered);
+  return source > limitsOf::leastEntered || (IsByHand(record) && source == limitsOf::leastEntered);
 }
 
 EntryReport ExamineEntries(DesignRecord& record) {

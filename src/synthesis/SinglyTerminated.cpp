@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "core/NumericFault.h"
+#include "network/DesignStanding.h"
 #include "synthesis/MakeNetwork.h"
 
 namespace quilm {
@@ -59,10 +60,8 @@ void MakeSinglyTerminated(DesignRecord& record, const SinglyTerminatedEntries& e
   made.Rsource[1] = sourceImpedance;
   made.Rload[1] = entries.outputTermination;
   made.Rratio = made.Rload[1] / made.Rsource[1];
-  made.Family = familyManual;
-  made.NetworkEdited = 1;
-  made.MatchAccepted = 0;
-  made.ResponsesValid = 0;
+  ForgetNetwork(made);
+  StandByHand(made);
   record = made;
 }
 

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "core/NumericFault.h"
+#include "network/DesignStanding.h"
 #include "shell/Session.h"
 #include "synthesis/CauerPrototype.h"
 
@@ -81,7 +82,7 @@ void ComputeCauer(Session& session) {
         Icon::Information, "");
   }
   record.CauerFlag = 1;
-  record.ResponsesValid = 0;
+  ForgetResponses(record);
   try {
     if (OrderOf(record) % 2 == 0) {
       ComputeEven(record);

@@ -5,6 +5,7 @@
 
 #include "core/NumericFault.h"
 #include "core/Topology.h"
+#include "network/DesignStanding.h"
 
 namespace quilm {
 
@@ -116,7 +117,7 @@ void ComputeMderived(DesignRecord& record) {
   record.FstopNorm = 0;
   record.Rratio = 1;
   record.CauerFlag = 1;
-  record.ResponsesValid = 0;
+  ForgetResponses(record);
 }
 
 }  // namespace quilm

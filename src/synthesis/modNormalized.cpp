@@ -4,6 +4,7 @@
 #include <span>
 
 #include "core/NumericFault.h"
+#include "network/DesignStanding.h"
 #include "shell/Session.h"
 #include "synthesis/PrototypeTables.h"
 #include "synthesis/modCauer.h"
@@ -66,7 +67,7 @@ void TakeRow(DesignRecord& record, std::span<const f32> row) {
   record.CauerFlag = 0;
   record.Apass = 0;
   record.FstopNorm = 0;
-  record.ResponsesValid = 0;
+  ForgetResponses(record);
 }
 
 // For the families without messages.
@@ -151,7 +152,7 @@ void ComputeConstantK(DesignRecord& record) {
   record.Rratio = 1;
   record.FstopNorm = 0;
   record.CauerFlag = 0;
-  record.ResponsesValid = 0;
+  ForgetResponses(record);
 }
 
 // The table goes on to 17, but from order 11 on it is out of line with the rows before: the first value, which falls
@@ -182,10 +183,6 @@ Messages ComputePrototype(DesignRecord& record, i16 family) {
     record.Rratio = 0;
     return {};
   }
-}
-
-bool NetworkStands(const DesignRecord& record) {
-  return record.NetworkEdited == 1 || record.Family == familyManual || record.MatchAccepted == 1;
 }
 
 void ComputeNormalized(Session& session) {

@@ -45,12 +45,8 @@ Messages ComputeGaussian12(DesignRecord& record);
 // chosen with Apass 0, so that Chebyshev meets it whenever it is chosen next, and a message would only be in the way.
 Messages ComputePrototype(DesignRecord& record, i16 family);
 
-// Whether the present network is not to be recomputed: entered or edited by hand (NetworkEdited 1, Family 11), or an
-// accepted impedance match (MatchAccepted 1).
-bool NetworkStands(const DesignRecord& record);
-
 // Computes the prototype of the family option that stands on the Design page (session.familyOption, not Family), after
-// holding Order to OrderMax, and shows the messages. When the network stands, only the order is held. The order box of
+// holding Order to OrderMax, and shows the messages. When the network stands (NetworkStands), only the order is held. The order box of
 // the page is not rewritten.
 void ComputeNormalized(Session& session);
 

@@ -33,6 +33,10 @@ DemoPage::DemoPage(Session& session) : Page(session, PageId::Design, "Demo") {
     session_.pages.ShowModal(PageId::EnterWidth);
     log.push_back("asked");
   };
+  cmdTool.onClick = [this] {
+    session_.pages.ShowBeside(PageId::EnterWidth, {&picPlot});
+    log.push_back("tool closed");
+  };
   cmdRepair.onClick = [this] { txtRipple.Repair("0.1"); };
   Timer1.onTick = [this] {
     log.push_back("tick");
@@ -57,7 +61,8 @@ Layout DemoPage::MakeLayout() {
                  Row({Column({Put(optOne), Put(optTwo)}),
                       Form({{Put(lblWidth), Row({Put(txtWidth), Put(UpDown)})}, {Put(lblRipple), Put(txtRipple)}}),
                       Group(fraLoads, Form({{Put(lblLoad), Put(txtLoad)}})), Put(lstLines)}),
-                 Row({KeepPlace(Put(cmdAsk)), Put(cmdRepair)}), Fill(Put(picPlot))});
+                 Row({KeepPlace(Put(cmdAsk)), Put(cmdRepair), Put(cmdTool)}),
+                 Fill(Row({Fill(Put(picPlot)), SidePlace(Column({}))}))});
 }
 
 OtherPage::OtherPage(Session& session) : Page(session, PageId::Plotted, "Other") {

@@ -41,6 +41,7 @@ class DemoPage : public Page {
   ListBox lstLines{*this, "lstLines", "Lines"};
   Frame fraLoads{*this, "fraLoads", "Loads"};
   Button cmdAsk{*this, "cmdAsk", "Stepsize %"};
+  Button cmdTool{*this, "cmdTool", "Tool"};
   Button cmdRepair{*this, "cmdRepair", "R & D"};
   Timer Timer1{*this, "Timer1", 5};
   PictureBox picPlot{*this, "picPlot", "Response"};

@@ -142,6 +142,18 @@ TEST_F(EntryBoxInWindow, ARepairedBoxIsShownInTheColourOfANoteForAWhile) {
   EXPECT_TRUE(QTest::qWaitFor([&] { return box->palette().color(QPalette::Base) == usual; }, 3000));
 }
 
+TEST_F(EntryBoxInWindow, ASecondRepairShowsForAsLongAsTheFirst) {
+  auto* box = Widget<QLineEdit>("txtRipple");
+  const QColor usual = box->palette().color(QPalette::Base);
+  ClickOn("cmdRepair");
+  const QColor warm = box->palette().color(QPalette::Base);
+  QTest::qWait(1200);
+  ClickOn("cmdRepair");
+  QTest::qWait(1200);
+  EXPECT_EQ(box->palette().color(QPalette::Base), warm);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return box->palette().color(QPalette::Base) == usual; }, 3000));
+}
+
 TEST_F(EntryBoxInWindow, NoMoreCharactersFitThanTheBoxMayHold) {
   EXPECT_EQ(Box()->maxLength(), Demo().txtWidth.maxLength);
 }

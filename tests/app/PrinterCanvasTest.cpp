@@ -67,8 +67,7 @@ TEST_F(PrintToFile, ADocumentIsClosedOnce) {
   EXPECT_NO_THROW(canvas.EndDoc());
 }
 
-// The file cannot be written, which the printer tells at the end at the latest.
-TEST_F(PrintToFile, APrinterThatFailsIsAFault) {
+TEST_F(PrintToFile, APrinterThatCannotBeginIsNotReady) {
   auto printer = Printer();
   printer->setOutputFileName(folder.filePath("no/such/folder/report.pdf"));
   PrinterCanvas canvas(std::move(printer));

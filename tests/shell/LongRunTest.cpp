@@ -67,14 +67,14 @@ class LongRunTest : public testing::Test {
 
 TEST_F(LongRunTest, TakesAllItsStepsAndYieldsAtEach) {
   Start();
-  EXPECT_EQ(log.trials, DemoRunPage::most);
-  EXPECT_EQ(yields, DemoRunPage::most);
+  EXPECT_EQ(log.trials, log.most);
+  EXPECT_EQ(yields, log.most);
   EXPECT_EQ(session.record.Width, 1000);
   ExpectAsBefore();
 }
 
 TEST_F(LongRunTest, StopsAtEveryPointOfItsLoop) {
-  for (int n = 1; n <= DemoRunPage::most; ++n) {
+  for (int n = 1; n <= log.most; ++n) {
     StartWith(n, [this] { Click(session, Page().cmdEnd); });
     EXPECT_EQ(log.trials, n);
     EXPECT_EQ(session.record.Width, 1000);
@@ -134,7 +134,7 @@ TEST_F(LongRunTest, ASecondRunStartsFresh) {
   const Picture first = Page().picPlot.picture;
   session.random.Seed(1);
   Start();
-  EXPECT_EQ(log.trials, DemoRunPage::most);
+  EXPECT_EQ(log.trials, log.most);
   EXPECT_EQ(Page().picPlot.picture, first);
 }
 
@@ -143,7 +143,7 @@ TEST_F(LongRunTest, OneAtATime) {
     const auto another = [this] { const LongRun run(session, Page(), {"Another", 1, {}, nullptr}); };
     EXPECT_THROW(another(), Fault);
   });
-  EXPECT_EQ(log.trials, DemoRunPage::most);
+  EXPECT_EQ(log.trials, log.most);
   ExpectAsBefore();
 }
 
@@ -188,7 +188,7 @@ TEST_F(LongRunTest, AFaultInTheStopHandlerIsToldAndTheRunGoesOn) {
   Page().cmdEnd.onClick = [] { throw Fault("out of paper"); };
   StartWith(3, [this] { Click(session, Page().cmdEnd); });
   EXPECT_EQ(platform.messages.size(), 1U);
-  EXPECT_EQ(log.trials, DemoRunPage::most);
+  EXPECT_EQ(log.trials, log.most);
 }
 
 // With an interval the first step yields, so that the stop button appears, and those that come too soon do not.
@@ -200,7 +200,7 @@ TEST_F(LongRunTest, YieldsNoMoreOftenThanThePlatformWants) {
   log.trial = [] { std::this_thread::sleep_for(std::chrono::milliseconds(2)); };
   yields = 0;
   Start();
-  EXPECT_EQ(yields, DemoRunPage::most);
+  EXPECT_EQ(yields, log.most);
 }
 
 TEST(PageLock, SeveralHoldTogether) {

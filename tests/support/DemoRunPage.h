@@ -15,13 +15,12 @@ namespace quilm {
 struct RunLog {
   std::vector<std::string> heard;  // what the handlers did
   i32 trials = 0;                  // of the last run
+  i32 most = 20;                   // trials of a run that is not stopped
   std::function<void()> trial;     // what a trial does besides
 };
 
 class DemoRunPage : public Page {
  public:
-  static constexpr i32 most = 20;
-
   DemoRunPage(Session& session, PageId id, RunLog& log) : Page(session, id, "Runs"), log_(log) {
     cmdEnd.visible = cmdEnd.enabled = false;
     cmdExtremes.visible = cmdExtremes.enabled = false;
@@ -60,7 +59,7 @@ class DemoRunPage : public Page {
     log_.trials = 0;
     picPlot.picture.Clear();
     {
-      LongRun run(session_, *this, {"Demo run", most, {&cmdEnd, &cmdExtremes}, &cmdStart});
+      LongRun run(session_, *this, {"Demo run", log_.most, {&cmdEnd, &cmdExtremes}, &cmdStart});
       do {
         ++log_.trials;
         session_.record.Width = nominal + session_.random.Next();

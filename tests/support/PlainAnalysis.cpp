@@ -276,17 +276,17 @@ void AnalyzePoint(const DesignRecord& record, f32 Fq, f32 PrevFreq, f32 PrevAngl
 
 void Sweep(const DesignRecord& record, f32 Fq, Responses& r) {
   const int last = static_cast<int>(std::nearbyint(record.NrIntervals));
-  const f64 start = record.Fstart;
-  const f64 stop = record.Fstop;
+  const bool linear = record.SweepMode == 1;
+  const f64 intervals = record.NrIntervals;
+  const f64 start = linear ? static_cast<f64>(record.Fstart) : std::log(static_cast<f64>(record.Fstart));
+  const f64 stop = linear ? static_cast<f64>(record.Fstop) : std::log(static_cast<f64>(record.Fstop));
   Point point;
   f32 PrevFreq = 0;
   f32 PrevAngle = 0;
   f64 phase = 0;
   for (int i = 0; i <= last; ++i) {
-    const f64 part = i / static_cast<f64>(record.NrIntervals);
-    r.RespFreq[i] =
-        static_cast<f32>(record.SweepMode == 1 ? (stop - start) * part + start
-                                               : std::exp(std::log(start) + (std::log(stop) - std::log(start)) * part));
+    const f64 at = (stop - start) * (i / intervals) + start;
+    r.RespFreq[i] = static_cast<f32>(linear ? at : std::exp(at));
     AnalyzePoint(record, Fq, PrevFreq, PrevAngle, r.RespFreq[i], point);
     phase += point.PhaseStep;
     r.RespTrans[i] = static_cast<f32>(point.TransDB);

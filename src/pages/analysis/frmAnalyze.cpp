@@ -12,6 +12,7 @@
 #include "display/PlotScaling.h"
 #include "files/modReadQuilmFiles.h"
 #include "files/modWriteQuilmFile.h"
+#include "network/DesignStanding.h"
 #include "shell/Session.h"
 
 namespace quilm {
@@ -109,26 +110,26 @@ void frmAnalyze::Follow() {
 }
 
 void frmAnalyze::FollowWithSweep() {
-  session_.record.ResponsesValid = 0;
+  ForgetResponses(session_.record);
   Follow();
 }
 
 void frmAnalyze::SetSweepMode(i16 mode) {
   session_.record.SweepMode = mode;
-  session_.record.ResponsesValid = 0;
+  ForgetResponses(session_.record);
   ShowLabels();
 }
 
 void frmAnalyze::SetRelative(bool relative) {
   session_.record.RelativeMode = relative ? 1 : 0;
   session_.record.AbsoluteMode = relative ? 0 : 1;
-  session_.record.ResponsesValid = 0;
+  ForgetResponses(session_.record);
 }
 
 void frmAnalyze::StepXints(int direction) {
   i16& intervals = session_.record.NrXints;
   intervals = static_cast<i16>(limitsOf::NrXints.Held(static_cast<f32>(intervals + direction)));
-  session_.record.ResponsesValid = 0;
+  ForgetResponses(session_.record);
   ShowLabels();
 }
 
@@ -157,7 +158,7 @@ bool frmAnalyze::CheckAll() {
 bool frmAnalyze::MayGoTo(PageId target) {
   if (target == PageId::Design) return true;
   if (!CheckAll()) return false;
-  if (target == PageId::Tabulated) session_.record.ResponsesValid = 0;
+  if (target == PageId::Tabulated) ForgetResponses(session_.record);
   if (target != PageId::Plotted) return true;
   AnalyzeSweep(session_);
   return session_.record.ResponsesValid == 1;

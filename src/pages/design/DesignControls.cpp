@@ -7,6 +7,7 @@
 #include "core/EntryLimits.h"
 #include "core/Topology.h"
 #include "core/modGeneral.h"
+#include "network/DesignStanding.h"
 #include "pages/design/FamilyRules.h"
 #include "shell/Page.h"
 
@@ -90,8 +91,7 @@ DesignControls::DesignControls(Page& page, DesignRecord& record, const std::func
 void DesignControls::Fill() {
   // A letter that stands for no design is a network entered by hand.
   if (!record_.Topology.empty() && !IsTopologyLetter(record_.Topology)) {
-    record_.Family = familyManual;
-    record_.NetworkEdited = 1;
+    SettleByHand(record_);
   }
   WholeOrder(record_);
   DeriveStopband(record_);
@@ -168,13 +168,6 @@ std::string RippleReadout(f32 Apass) {
   const f64 Return = 20 * std::log10(rho);
   return "VSWR: " + EntryText(static_cast<f32>(VSWR), FormatValue) +
          "   Return: " + EntryText(static_cast<f32>(Return), FormatValue) + " dB";
-}
-
-void ForgetNetwork(DesignRecord& record) {
-  record.MatchAccepted = 0;
-  record.NetworkEdited = 0;
-  record.ResponsesValid = 0;
-  record.DesignChanged = 0;
 }
 
 }  // namespace quilm

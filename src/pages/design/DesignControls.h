@@ -86,8 +86,4 @@ class DesignControls {
 // 10.
 std::string RippleReadout(f32 Apass);
 
-// What every change of the design does: nothing of a network entered by hand, an accepted match or a sweep holds any
-// more.
-void ForgetNetwork(DesignRecord& record);
-
 }  // namespace quilm

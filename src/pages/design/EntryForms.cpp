@@ -4,6 +4,7 @@
 
 #include "core/Fault.h"
 #include "core/modGeneral.h"
+#include "network/DesignStanding.h"
 #include "shell/Session.h"
 
 namespace quilm {
@@ -50,7 +51,7 @@ void EntryForm::Load() {
 
 void EntryForm::Accept() {
   question_.field(session_.record) = value_;
-  session_.record.ResponsesValid = 0;
+  ForgetNetwork(session_.record);
   session_.pages.UnloadPage(Id());
 }
 

@@ -4,6 +4,7 @@
 
 #include "core/EntryLimits.h"
 #include "core/Topology.h"
+#include "network/DesignStanding.h"
 #include "pages/design/DesignControls.h"
 #include "pages/design/FamilyRules.h"
 #include "shell/Session.h"
@@ -78,7 +79,7 @@ void Validation::Run() {
 }
 
 void Validation::Tell(const std::string& text) {
-  record_.ResponsesValid = 0;
+  ForgetResponses(record_);
   controls_.Refresh();
   session_.platform.MessageBox(text, Buttons::Ok, Icon::Exclamation, "");
 }
@@ -186,9 +187,9 @@ void Validation::ChooseMissingOrder() {
 }
 
 void Validation::SettleManualNetwork() {
-  if (record_.Family != familyManual && record_.NetworkEdited != 1) return;
+  if (!IsByHand(record_)) return;
+  SettleByHand(record_);
   TakeFamily(familyManual);
-  record_.NetworkEdited = 1;
   controls_.families.Enable(false);
 }
 
@@ -220,7 +221,7 @@ void Validation::HoldRipple() {
   controls_.ripple.Take();
   if (limitsOf::Apass.Contain(record_.Apass) && controls_.ripple.Agrees()) return;
   record_.Apass = limitsOf::Apass.Held(record_.Apass);
-  record_.ResponsesValid = 0;
+  ForgetResponses(record_);
   controls_.ripple.Repair();
 }
 

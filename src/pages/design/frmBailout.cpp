@@ -7,6 +7,7 @@
 #include "core/NumberText.h"
 #include "core/Topology.h"
 #include "core/modGeneral.h"
+#include "network/DesignStanding.h"
 #include "shell/Session.h"
 
 namespace quilm {
@@ -86,7 +87,7 @@ void frmBailout::ShowEntries() {
 
 // The page closes, and the design is tried again with what the record now holds.
 void frmBailout::Retry() {
-  session_.record.ResponsesValid = 0;
+  ForgetNetwork(session_.record);
   session_.pages.UnloadPage(Id());
 }
 

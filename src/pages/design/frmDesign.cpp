@@ -8,6 +8,7 @@
 #include "desk/modComputeReals.h"
 #include "files/modReadQuilmFiles.h"
 #include "files/modWriteQuilmFile.h"
+#include "network/DesignStanding.h"
 #include "pages/design/FamilyRules.h"
 #include "pages/design/ValidateDesign.h"
 #include "schematic/Icons.h"
@@ -112,7 +113,7 @@ void frmDesign::ChooseFamily(i16 family) {
     controls_.ripple.Fill();
     controls_.lblVSWR.caption.clear();
   }
-  if (family == familyManual) record.NetworkEdited = 1;
+  if (family == familyManual) SettleByHand(record);
   if (family == familyCauer) record.Order = std::max(record.Order, limitsOf::CauerOrder.lowest);
   controls_.TakeTopology(TopologyUnder(family, record.Topology));
   controls_.SettleCauer();

@@ -1,0 +1,100 @@
+#include "network/NetworkEdits.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "core/NumericFault.h"
+
+namespace quilm {
+
+namespace {
+
+constexpr f32 leastSource = 0.01F;  // ohms
+
+void RequireRoom(const Network& network, int stages) {
+  if (!HasRoomFor(network, stages)) throw BoundFault();
+}
+
+void RequireStage(int at, int last) {
+  if (at < 1 || at > last) throw BoundFault();
+}
+
+// What moves with a part alone: its type and its values of L and C.
+void TakePart(Stage& place, const Stage& part) {
+  place.ElementType = part.ElementType;
+  place.Lval.value = part.Lval.value;
+  place.Cval.value = part.Cval.value;
+}
+
+void TakeStage(Stage& place, const Stage& stage) { place = stage; }
+
+void MoveUp(Network& network, int first, int places, void (*take)(Stage&, const Stage&)) {
+  RequireStage(first, network.Stages + 1);
+  RequireRoom(network, places);
+  for (int s = network.Stages; s >= first; --s) take(network.stage[s + places], network.stage[s]);
+  for (int s = first; s < first + places; ++s) take(network.stage[s], Stage{});
+  network.Stages = static_cast<i16>(network.Stages + places);
+}
+
+}  // namespace
+
+bool HasRoomFor(const Network& network, int stages) { return network.Stages + stages <= network.StagesMax; }
+
+void ClearValues(Stage& stage) {
+  const i16 type = stage.ElementType;
+  stage = {};
+  stage.ElementType = type;
+}
+
+void InsertStage(Network& network, int at) {
+  RequireStage(at, network.Stages + 1);
+  const i16 type = network.stage[at].ElementType;
+  MoveStagesUp(network, at, 1);
+  network.stage[at].ElementType = type;
+}
+
+void DeleteStage(Network& network, int at) {
+  RequireStage(at, network.Stages);
+  for (int s = at; s <= network.Stages; ++s) network.stage[s] = network.stage[s + 1];
+  --network.Stages;
+}
+
+void MoveStagesUp(Network& network, int first, int places) { MoveUp(network, first, places, TakeStage); }
+
+void MovePartsUp(Network& network, int first, int places) { MoveUp(network, first, places, TakePart); }
+
+void Reverse(Network& network) {
+  network.Rsource[1] = std::max(network.Rsource[1], leastSource);
+  std::swap(network.Rsource[1], network.Rload[1]);
+  for (int s = 1; s <= network.Stages / 2; ++s) std::swap(network.stage[s], network.stage[network.Stages + 1 - s]);
+}
+
+void ScaleImpedance(Network& network, f32 factor) {
+  if (!(factor > 0)) return;
+  NumericFaultScope scope;
+  Network scaled = network;
+  for (f32* resistance : {&scaled.Rsource[1], &scaled.Rload[1], &scaled.Rstandard}) {
+    *resistance = scope.Store(f64{*resistance} * f64{factor});
+  }
+  for (int s = 1; s <= scaled.Stages; ++s) {
+    f32& L = scaled.stage[s].Lval.value;
+    f32& C = scaled.stage[s].Cval.value;
+    if (L > 0) L = scope.Store(f64{L} * f64{factor});
+    if (C > 0) C = scope.Store(f64{C} / f64{factor});
+  }
+  network = scaled;
+}
+
+void ScaleFrequency(Network& network, f32 factor, Shift shift) {
+  NumericFaultScope scope;
+  Network scaled = network;
+  for (int s = 1; s <= scaled.Stages; ++s) {
+    for (f32* part : {&scaled.stage[s].Lval.value, &scaled.stage[s].Cval.value}) {
+      if (!(*part > 0)) continue;
+      *part = scope.Store(shift == Shift::Up ? f64{*part} / f64{factor} : f64{*part} * f64{factor});
+    }
+  }
+  network = scaled;
+}
+
+}  // namespace quilm

@@ -1,0 +1,47 @@
+// Changes of a ladder by hand, as pure functions of a network: whoever edits the network of the design calls
+// StandByHand (DesignStanding.h) with it, while the arms of a diplexer and trial networks have no such marks.
+//
+// Stages are numbered from 1, next to the source, to Stages. A routine that would leave more than StagesMax stages, or
+// is given a stage that is not there, throws BoundFault; one whose results leave the range of numbers throws
+// NumericFault. The network is then as it was.
+#pragma once
+
+#include "core/Network.h"
+
+namespace quilm {
+
+bool HasRoomFor(const Network& network, int stages);
+
+// All values and tolerances become 0. The type stays, so that the place is still drawn until another is chosen.
+void ClearValues(Stage& stage);
+
+// Puts a stage without values before stage `at`, 1 to Stages + 1; the last appends. Until a type is chosen the place
+// has the type of the stage that stood there, as a symbol for the eye.
+void InsertStage(Network& network, int at);
+
+// Takes stage `at` out; those behind it move down.
+void DeleteStage(Network& network, int at);
+
+// Moves stage `first` (1 to Stages + 1) and all behind it up by `places`, whole, and leaves blank stages there.
+void MoveStagesUp(Network& network, int first, int places);
+
+// The same for what a network of inductors and capacitors consists of: types and values of L and C move, while
+// tolerances and all other values keep their places. A matching section that is set before a resonator goes in this
+// way, so that the step sizes of tuning, which rest in the tolerances, stay with the numbers of their stages.
+void MovePartsUp(Network& network, int first, int places);
+
+// End for end: the last stage becomes the first, whole, and the terminations change sides; a source below 0.01 ohm
+// becomes 0.01 first, the least that can drive a network as load. Coupled inductors and transformers keep their primary
+// where it is within the stage.
+void Reverse(Network& network);
+
+// Raises all impedances by the factor: terminations, reference and inductors times `factor`, capacitors divided by it.
+// Only parts above 0 change. Nothing happens for a factor of 0 or less.
+void ScaleImpedance(Network& network, f32 factor);
+
+// Shifts the response in frequency: all inductors and capacitors above 0 are divided by the factor, which moves it up,
+// or multiplied by it, which moves it down. Terminations, lines and couplings stay.
+enum class Shift { Up, Down };
+void ScaleFrequency(Network& network, f32 factor, Shift shift);
+
+}  // namespace quilm
