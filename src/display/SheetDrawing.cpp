@@ -51,6 +51,13 @@ void AddTraces(const PlotSetup& setup, const ResponseSpans& responses, AxisPlace
   }
 }
 
+void ClearSheet(PlotSheet& sheet) {
+  sheet.picture = Picture();
+  sheet.live.Clear();
+  sheet.colors = {};
+  sheet.limitEntry = {};
+}
+
 void ChoosePlot(Session& session, i16 code) {
   session.record.PlotCode = code;
   session.plot.colors = {};
@@ -59,6 +66,8 @@ void ChoosePlot(Session& session, i16 code) {
 }
 
 void RedrawPlot(Session& session) {
+  session.plot.live.SetScale(plotScale);
+  session.plot.live.Clear();
   try {
     HoldLossBottom(session.record);
     const ResponseSpans responses = SpansOf(session.responses, LastPoint(session.record));

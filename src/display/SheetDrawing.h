@@ -20,16 +20,19 @@ void DrawSheet(const PlotSetup& setup, const ResponseSpans& responses, AxisPlace
 // Draws the traces of the plot alone, over what the canvas holds. Throws like DrawSheet.
 void AddTraces(const PlotSetup& setup, const ResponseSpans& responses, AxisPlaces& places, Canvas& canvas);
 
+// Makes an empty sheet of it, without an entry in progress and with the first colours.
+void ClearSheet(PlotSheet& sheet);
+
 // Makes the plot of a code the one on display: ends an entry of limits, puts the colours back to the first ones and
 // draws it.
 void ChoosePlot(Session& session, i16 code);
 
-// Draws the present plot with the last sweep on the session's sheet. Holds LossBottom at -0.3 or below before. A
-// failure is shown to the user; what was drawn until then stays.
+// Draws the present plot with the last sweep on the session's sheet, and takes the traces of a run away. Holds
+// LossBottom at -0.3 or below before. A failure is shown to the user; what was drawn until then stays.
 void RedrawPlot(Session& session);
 
 // Adds the traces of some responses in the sheet's colours to a canvas that shows the present plot: the sheet's
-// picture, or a layer over it. Throws like DrawSheet.
+// picture, or the layer over it. Throws like DrawSheet.
 void AddTraces(Session& session, const ResponseSpans& responses, Canvas& canvas);
 
 }  // namespace quilm

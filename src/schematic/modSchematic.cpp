@@ -10,6 +10,7 @@
 #include "schematic/PartSymbols.h"
 #include "schematic/StageLabels.h"
 #include "schematic/Symbols.h"
+#include "shell/PenScope.h"
 
 namespace quilm {
 
@@ -46,9 +47,9 @@ constexpr f32 dataTop = 5800;
 int StagesToDraw(const DesignRecord& record) { return std::min(record.Stages, record.StagesMax); }
 
 void PrintLabel(Canvas& canvas, f32 x, f32 y, const StageLabel& label) {
+  const PenScope pen(canvas);
   canvas.ForeColor = label.negative ? colorRed : colorBlack;
   canvas.PrintAt(x, y, label.text);
-  canvas.ForeColor = colorBlack;
 }
 
 // One drawing of a whole schematic.
@@ -179,9 +180,9 @@ class Drawing {
   void PrintMore() {
     constexpr f32 edge = 200;
     constexpr f32 rise = 280;
+    const PenScope pen(canvas_);
     canvas_.FontBold = true;
     canvas_.PrintAt(pageRight - edge, bandBottom - rise, " >");
-    canvas_.FontBold = false;
   }
 
   const DesignRecord& record_;

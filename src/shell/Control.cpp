@@ -122,10 +122,10 @@ Timer::Timer(Page& page, std::string timerName, i32 milliseconds)
 }
 
 PictureBox::PictureBox(Page& page, std::string boxName, std::string accessible)
-    : PictureBox(page, std::move(boxName), std::move(accessible), own_) {}
+    : PictureBox(page, std::move(boxName), std::move(accessible), own_, ownLive_) {}
 
-PictureBox::PictureBox(Page& page, std::string boxName, std::string accessible, Picture& shown)
-    : Control(page, ControlKind::Picture, std::move(boxName)), picture(shown) {
+PictureBox::PictureBox(Page& page, std::string boxName, std::string accessible, Picture& shown, LiveLayer& over)
+    : Control(page, ControlKind::Picture, std::move(boxName)), picture(shown), live(over) {
   accessibleName = std::move(accessible);
 }
 

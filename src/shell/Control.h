@@ -154,11 +154,11 @@ enum class MouseButton { Left, Right };
 class PictureBox : public Control {
  public:
   PictureBox(Page& page, std::string name, std::string accessible);
-  // Shows a picture that stands elsewhere and outlives the page.
-  PictureBox(Page& page, std::string name, std::string accessible, Picture& shown);
+  // Shows a picture and a layer over it that stand elsewhere and outlive the page.
+  PictureBox(Page& page, std::string name, std::string accessible, Picture& shown, LiveLayer& over);
   Picture& picture;
-  LiveLayer live;  // the traces of trials, drawn over the picture and not kept for long
-  Picture mark;    // drawn over both and never part of it: the readout under the mouse
+  LiveLayer& live;  // the traces of trials, drawn over the picture and not kept for long
+  Picture mark;     // drawn over both and never part of it: the readout under the mouse
   std::function<void(f32 x, f32 y, MouseButton)> onMouseDown;
   std::function<void(f32 x, f32 y, MouseButton)> onMouseMove;
   std::function<void(f32 x, f32 y, MouseButton)> onMouseUp;
@@ -175,6 +175,7 @@ class PictureBox : public Control {
 
  private:
   Picture own_;
+  LiveLayer ownLive_;
 };
 
 }  // namespace quilm

@@ -1,5 +1,7 @@
 #include "shell/Picture.h"
 
+#include "shell/PenScope.h"
+
 namespace quilm {
 
 Picture::Picture(const Picture& other) : Recorder(other), drawing_(std::make_shared<PictureOps>(*other.drawing_)) {}
@@ -22,6 +24,7 @@ void Picture::DrawClear() {
 }
 
 void Picture::Replay(Canvas& canvas) const {
+  const PenScope pen(canvas);
   canvas.SetScale(CurrentScale());
   canvas.BackColor = BackColor;
   canvas.Clear();
@@ -29,6 +32,7 @@ void Picture::Replay(Canvas& canvas) const {
 }
 
 void Picture::ReplayInto(Canvas& canvas, Point from, Point to) const {
+  const PenScope pen(canvas);
   PicturePlace place;
   place.xScale = (to.x - from.x) / ScaleWidth;
   place.yScale = (to.y - from.y) / ScaleHeight;

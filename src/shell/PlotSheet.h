@@ -6,6 +6,7 @@
 #pragma once
 
 #include "core/AxisPlaces.h"
+#include "shell/LiveLayer.h"
 #include "shell/Picture.h"
 
 namespace quilm {
@@ -23,6 +24,7 @@ struct LimitEntry {
 
 struct PlotSheet {
   Picture picture;        // the plot as it was last drawn as a whole, with what was added to it
+  LiveLayer live;         // the traces of a run over it, taken away when the plot is drawn anew
   TraceColors colors;     // of the traces drawn next
   LimitEntry limitEntry;  // ended by the choice of a plot
   AxisPlaces places;      // of the frequencies drawn last

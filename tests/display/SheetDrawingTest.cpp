@@ -144,6 +144,27 @@ TEST_F(Sheet, TracesCanBeAddedToALayerAndLeaveTheSheetAlone) {
   }
 }
 
+TEST_F(Sheet, TracesOfARunAreTakenAwayWhenThePlotIsDrawnAnew) {
+  ChoosePlot(session, 2);
+  AddTraces(session, Present(), session.plot.live);
+  EXPECT_EQ(session.plot.live.Present().kept.size(), 2U);
+  EXPECT_EQ(session.plot.live.CurrentScale(), session.plot.picture.CurrentScale());
+  RedrawPlot(session);
+  EXPECT_TRUE(session.plot.live.Empty());
+}
+
+TEST_F(Sheet, AClearedSheetHasNothingOfThePlotBefore) {
+  ChoosePlot(session, 2);
+  AddTraces(session, Present(), session.plot.live);
+  session.plot.colors.TraceColor1 = colorBlack;
+  session.plot.limitEntry.LimitEntryPlot = 1;
+  ClearSheet(session.plot);
+  EXPECT_EQ(session.plot.picture, Picture());
+  EXPECT_TRUE(session.plot.live.Empty());
+  EXPECT_EQ(session.plot.colors.TraceColor1, colorBlue);
+  EXPECT_EQ(session.plot.limitEntry.LimitEntryPlot, 0);
+}
+
 // The responses of a file over the present sweep: fewer points, other frequencies.
 TEST_F(Sheet, AddedResponsesHaveTheirOwnFrequencies) {
   ChoosePlot(session, 1);

@@ -24,10 +24,10 @@ bool RippleCanBeTuned(const DesignRecord& record) {
 frmPlotted::frmPlotted(Session& session)
     : Page(session, PageId::Plotted, "Plot"),
       navigation(*this, session, NavigationRow::WithSoundEntries(session)),
-      picPlot(*this, "picPlot", "Plot of the responses", session.plot.picture),
+      picPlot(*this, "picPlot", "Plot of the responses", session.plot.picture, session.plot.live),
       smithControls(*this, session, [&session] { RedrawPlot(session); }),
       mouse_(session, picPlot) {
-  session.plot = {};  // an empty sheet: nothing of the design before shows when this one cannot be drawn
+  ClearSheet(session.plot);  // nothing of the design before shows when this one cannot be drawn
   navigation.helpFile = "plots.htm";
   navigation.onSave = [&session] { SaveDesign(session, "Save Quilm File"); };
   navigation.onGet = [&session] { GetDesignFor(session, PageId::Plotted); };
