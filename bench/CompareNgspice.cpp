@@ -15,6 +15,7 @@
 #include <vector>
 
 #include "analysis/modAnalysis.h"
+#include "core/Responses.h"
 #include "support/NgspiceNetlist.h"
 #include "support/RandomLadder.h"
 

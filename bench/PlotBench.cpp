@@ -7,6 +7,7 @@
 #include <memory>
 
 #include "analysis/modAnalysis.h"
+#include "core/Responses.h"
 #include "display/PlotFrame.h"
 #include "display/SheetDrawing.h"
 #include "display/modReadout.h"

@@ -17,6 +17,7 @@
 
 #include "analysis/modAnalysis.h"
 #include "app/PictureView.h"
+#include "core/Responses.h"
 #include "display/modPlot.h"
 #include "shell/LiveLayer.h"
 #include "shell/Picture.h"

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "core/Configuration.h"
+#include "core/DesignRecord.h"
 
 namespace {
 

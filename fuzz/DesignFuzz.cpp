@@ -6,6 +6,8 @@
 #include <sstream>
 #include <string>
 
+#include "core/DesignRecord.h"
+#include "core/Responses.h"
 #include "files/ReadDesign.h"
 #include "files/WriteDesign.h"
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "core/DesignRecord.h"
 #include "core/EntryLimits.h"
 #include "core/NumericFault.h"
 #include "core/modGeneral.h"

@@ -4,7 +4,7 @@
 #include <string>
 
 #include "core/Configuration.h"
-#include "core/DesignRecord.h"
+#include "core/RecordFwd.h"
 
 namespace quilm {
 

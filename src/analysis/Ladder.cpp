@@ -4,7 +4,10 @@
 #include <cmath>
 
 #include "core/ElementCatalogue.h"
+#include "core/Entries.h"
+#include "core/Network.h"
 #include "core/NumericFault.h"
+#include "core/Sweep.h"
 
 namespace quilm {
 
@@ -16,7 +19,7 @@ constexpr f32 quarterWave = 90;
 constexpr f32 beyondQuarterWave = 90.0001F;
 
 struct Compiler {
-  const DesignRecord& record;
+  const Network& network;
   f64 lossPerHenry;  // 2 Pi Fq / Qind
   f64 q;             // |Qcap|
   bool fails = false;
@@ -39,7 +42,7 @@ struct Compiler {
 };
 
 void Compiler::Inductor(CompiledStage& out, const Stage& stage) {
-  if (record.Qind[1] == 0) fails = true;
+  if (network.Qind[1] == 0) fails = true;
   out.xl = stage.Lval.value;
   out.r = lossPerHenry * out.xl;
 }
@@ -109,7 +112,7 @@ void Compiler::ShuntSeriesPair(CompiledStage& out, const Stage& stage, f64 resis
 
 void Compiler::Tank(CompiledStage& out, const Stage& stage, StageForm form) {
   out.form = form;
-  if (record.Qind[1] == 0) fails = true;
+  if (network.Qind[1] == 0) fails = true;
   out.L = stage.Lval.value;
   out.Rs = lossPerHenry * out.L;
   out.g = leakage;
@@ -238,24 +241,24 @@ bool IsLossy(const CompiledStage& s) {
 
 }  // namespace
 
-f32 QualityFrequency(const DesignRecord& record) {
-  if (record.Fcenter > 0) return record.Fcenter;
-  if (record.Width > 0) return record.Width;
+f32 QualityFrequency(const Entries& entries, const SweepSettings& sweep) {
+  if (entries.Fcenter > 0) return entries.Fcenter;
+  if (entries.Width > 0) return entries.Width;
   NumericFaultScope scope;
-  return scope.Store(std::sqrt(static_cast<f64>(record.Fstop) * static_cast<f64>(record.Fstart)));
+  return scope.Store(std::sqrt(static_cast<f64>(sweep.Fstop) * static_cast<f64>(sweep.Fstart)));
 }
 
-Ladder Compile(const DesignRecord& record, f32 Fq) {
-  Compiler compiler{record, 2 * Pi * static_cast<f64>(Fq) / static_cast<f64>(record.Qind[1]),
-                    std::fabs(static_cast<f64>(record.Qcap[1]))};
+Ladder Compile(const Network& network, f32 Fq) {
+  Compiler compiler{network, 2 * Pi * static_cast<f64>(Fq) / static_cast<f64>(network.Qind[1]),
+                    std::fabs(static_cast<f64>(network.Qcap[1]))};
   Ladder ladder;
-  ladder.Rsource = record.Rsource[1];
-  ladder.Rload = record.Rload[1];
-  ladder.Rstandard = record.Rstandard;
-  ladder.stages.reserve(static_cast<std::size_t>(std::max<i16>(record.Stages, 0)));
-  for (int s = record.Stages; s >= 1; --s) {
+  ladder.Rsource = network.Rsource[1];
+  ladder.Rload = network.Rload[1];
+  ladder.Rstandard = network.Rstandard;
+  ladder.stages.reserve(static_cast<std::size_t>(std::max<i16>(network.Stages, 0)));
+  for (int s = network.Stages; s >= 1; --s) {
     CompiledStage compiled;
-    if (!compiler.Take(compiled, record.stage[s])) continue;
+    if (!compiler.Take(compiled, network.stage[s])) continue;
     compiled.lossy = IsLossy(compiled);
     compiled.form = Simplest(compiled);
     ladder.failsAtZero = ladder.failsAtZero || compiled.failsAtZero;

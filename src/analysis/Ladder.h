@@ -9,7 +9,7 @@
 
 #include <vector>
 
-#include "core/DesignRecord.h"
+#include "core/RecordFwd.h"
 #include "core/Types.h"
 
 namespace quilm {
@@ -62,10 +62,10 @@ struct Ladder {
 
 // The frequency at which inductor Q is quoted: Fcenter if above 0, else Width if above 0, else the geometric mean of
 // the sweep limits. Throws NumericFault when that mean does not exist.
-f32 QualityFrequency(const DesignRecord& record);
+f32 QualityFrequency(const Entries& entries, const SweepSettings& sweep);
 
 // Compiles the stage list. Never fails: what cannot be analysed is marked in the result. A line of exactly 90 degrees
 // is analysed as 90.0001 degrees, so that its tangent exists at the reference frequency.
-Ladder Compile(const DesignRecord& record, f32 Fq);
+Ladder Compile(const Network& network, f32 Fq);
 
 }  // namespace quilm

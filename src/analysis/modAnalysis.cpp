@@ -5,8 +5,10 @@
 #include "analysis/Kernel.h"
 #include "analysis/SweepPoints.h"
 #include "analysis/SweepTable.h"
+#include "core/DesignRecord.h"
 #include "core/ElementCatalogue.h"
 #include "core/NumericFault.h"
+#include "core/Responses.h"
 #include "shell/Session.h"
 
 namespace quilm {
@@ -41,9 +43,9 @@ void SubtractPeak(Responses& r) {
 }
 
 // The guard of a quarter-wave line writes back 90, also over a 90.0001 that the user typed.
-void RestoreQuarterWaves(DesignRecord& record) {
-  for (int s = 1; s <= record.Stages; ++s) {
-    Stage& stage = record.stage[s];
+void RestoreQuarterWaves(Network& network) {
+  for (int s = 1; s <= network.Stages; ++s) {
+    Stage& stage = network.stage[s];
     f32& degrees = stage.TLval.degrees;
     if (degrees == 90.0001F && HasSlot(stage.ElementType, SlotCode::LineLength)) degrees = 90;
   }
@@ -54,7 +56,7 @@ void Sweep(DesignRecord& record, Responses& r, VectorWidth width, const char*& m
   mark = "48";
   BeginSweep(r, record);
   mark = "70";
-  r.Fq = QualityFrequency(record);
+  r.Fq = QualityFrequency(record, record);
   mark = "81";
   if (record.Stages > 0) {
     SweepPoints(Compile(record, r.Fq), r, width);
@@ -73,9 +75,9 @@ void Sweep(DesignRecord& record, Responses& r, VectorWidth width, const char*& m
 
 }  // namespace
 
-void AnalyzeFrequency(const DesignRecord& record, const Ladder& ladder, f32 PrevFreq, f32 PrevAngle, f32 Freq,
+void AnalyzeFrequency(const Network& network, const Ladder& ladder, f32 PrevFreq, f32 PrevAngle, f32 Freq,
                       FrequencyResult& result) {
-  if (record.Stages == 0) return;
+  if (network.Stages == 0) return;
   Write(EvaluateOne(ladder, Freq), PrevFreq, PrevAngle, Freq, result);
 }
 

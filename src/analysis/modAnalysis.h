@@ -5,8 +5,8 @@
 
 #include "analysis/Kernel.h"
 #include "analysis/Ladder.h"
-#include "core/DesignRecord.h"
-#include "core/Responses.h"
+#include "core/RecordFwd.h"
+#include "core/Types.h"
 
 namespace quilm {
 
@@ -27,7 +27,7 @@ struct FrequencyResult {
 // Evaluates the ladder at Freq (Hz); PrevFreq and PrevAngle serve the delay alone. The results are written in the order
 // of their declaration; a failure on the way (a division by zero, say) leaves those not yet written as they were, and
 // tells nobody. Without stages nothing is written.
-void AnalyzeFrequency(const DesignRecord& record, const Ladder& ladder, f32 PrevFreq, f32 PrevAngle, f32 Freq,
+void AnalyzeFrequency(const Network& network, const Ladder& ladder, f32 PrevFreq, f32 PrevAngle, f32 Freq,
                       FrequencyResult& result);
 
 // The sweep itself: fills the responses over Fstart..Fstop, widens the extremes, sets TransPeak and TransPeakFreq and

@@ -4,6 +4,7 @@
 #include <array>
 #include <string_view>
 
+#include "core/DesignRecord.h"
 #include "core/EntryLimits.h"
 #include "core/NumberText.h"
 #include "core/NumericFault.h"

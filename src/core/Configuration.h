@@ -5,7 +5,7 @@
 #include <string>
 
 #include "core/BoundedArray.h"
-#include "core/DesignRecord.h"
+#include "core/RecordFwd.h"
 #include "core/Types.h"
 
 namespace quilm {

@@ -4,6 +4,7 @@
 #include <array>
 #include <cstddef>
 
+#include "core/Network.h"
 #include "core/modGeneral.h"
 
 namespace quilm {

@@ -10,7 +10,8 @@
 #include <string_view>
 
 #include "core/ElementTypes.h"
-#include "core/Network.h"
+#include "core/RecordFwd.h"
+#include "core/Types.h"
 
 namespace quilm {
 

@@ -4,7 +4,7 @@
 #include <string>
 
 #include "core/BoundedArray.h"
-#include "core/Identity.h"
+#include "core/OrderLimit.h"
 #include "core/Types.h"
 
 namespace quilm {

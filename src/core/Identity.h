@@ -3,11 +3,10 @@
 
 #include <string>
 
+#include "core/OrderLimit.h"
 #include "core/Types.h"
 
 namespace quilm {
-
-inline constexpr i16 orderLimit = 21;  // highest order of a prototype
 
 // Family codes. 9 and 10 are not used.
 enum FamilyCode : i16 {

@@ -2,6 +2,7 @@
 
 #include <string_view>
 
+#include "core/Entries.h"
 #include "core/Fault.h"
 #include "desk/ReturnToDesign.h"
 #include "network/DesignStanding.h"
@@ -22,7 +23,7 @@ bool Refuse(Session& session, const char* text, std::string_view focus) {
 
 bool ComputeReals(Session& session) {
   if (NetworkStands(session.record)) return true;
-  if (session.record.Width == 0) {
+  if (session.entries.Width == 0) {
     return Refuse(session, "We need a bandwidth entry; please enter the bandwidth", "txtBandwidth");
   }
   try {

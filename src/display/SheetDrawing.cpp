@@ -4,6 +4,7 @@
 #include <iterator>
 #include <string>
 
+#include "core/DesignRecord.h"
 #include "core/Fault.h"
 #include "display/PlotKinds.h"
 #include "display/PlotScaling.h"

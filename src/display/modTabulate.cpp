@@ -1,5 +1,7 @@
 #include "display/modTabulate.h"
 
+#include "core/DesignRecord.h"
+#include "core/Responses.h"
 #include "core/modGeneral.h"
 #include "display/ResponseCurves.h"
 

@@ -5,8 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "core/DesignRecord.h"
-#include "core/Responses.h"
+#include "core/RecordFwd.h"
 
 namespace quilm {
 

@@ -3,8 +3,10 @@
 #include <algorithm>
 #include <cmath>
 
+#include "core/DesignRecord.h"
 #include "core/EntryLimits.h"
 #include "core/NumericFault.h"
+#include "core/Responses.h"
 #include "core/Topology.h"
 #include "core/modGeneral.h"
 #include "files/LineReader.h"

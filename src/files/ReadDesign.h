@@ -4,8 +4,7 @@
 #include <istream>
 #include <string>
 
-#include "core/DesignRecord.h"
-#include "core/Responses.h"
+#include "core/RecordFwd.h"
 
 namespace quilm {
 

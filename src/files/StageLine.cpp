@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "core/Network.h"
+
 namespace quilm {
 
 namespace {

@@ -6,6 +6,7 @@
 #include <span>
 #include <vector>
 
+#include "core/DesignRecord.h"
 #include "core/NumberText.h"
 #include "core/Topology.h"
 #include "core/modGeneral.h"

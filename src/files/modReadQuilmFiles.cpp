@@ -2,6 +2,7 @@
 
 #include <fstream>
 
+#include "core/DesignRecord.h"
 #include "files/ReadDesign.h"
 #include "shell/Session.h"
 

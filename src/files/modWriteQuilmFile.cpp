@@ -2,6 +2,8 @@
 
 #include <cstdio>
 
+#include "core/Identity.h"
+#include "core/Network.h"
 #include "core/TextFile.h"
 #include "files/WriteDesign.h"
 #include "files/modReadQuilmFiles.h"
@@ -23,7 +25,7 @@ std::string ShortDate(const DateTime& now) {
 
 // The configuration and session files are the program's own; a design is offered under its own name or a new one.
 std::string OfferedName(Session& session) {
-  const std::string& name = session.record.DesignFileName;
+  const std::string& name = session.identity.DesignFileName;
   const bool own =
       name == InProgramFolder(session, configurationFile) || name == InProgramFolder(session, lastSessionFile);
   return name.empty() || own ? unnamedDesign : name;
@@ -32,12 +34,12 @@ std::string OfferedName(Session& session) {
 }  // namespace
 
 bool modWriteQuilmFile(Session& session) {
-  if (session.record.Stages == 0) {
+  if (session.network.Stages == 0) {
     session.platform.Pause(emptySeconds);
     throw ProgramEnd{};
   }
   const std::string text = DesignText(session.record, ShortDate(session.platform.Now()));
-  if (WriteTextFile(session.record.DesignFileName, text)) return true;
+  if (WriteTextFile(session.identity.DesignFileName, text)) return true;
   session.platform.Beep();
   return false;
 }
@@ -45,15 +47,15 @@ bool modWriteQuilmFile(Session& session) {
 bool SaveDesign(Session& session, const std::string& title) {
   const std::optional<std::string> chosen = session.platform.SaveDialog(title, quilmFileFilter, OfferedName(session));
   if (!chosen) return false;
-  session.record.DesignFileName = *chosen;
+  session.identity.DesignFileName = *chosen;
   if (!modWriteQuilmFile(session)) return false;
   session.note = "Saved " + *chosen;
   return true;
 }
 
 bool StoreLastSession(Session& session) {
-  if (session.record.Stages == 0) return false;
-  session.record.DesignFileName = InProgramFolder(session, lastSessionFile);
+  if (session.network.Stages == 0) return false;
+  session.identity.DesignFileName = InProgramFolder(session, lastSessionFile);
   return modWriteQuilmFile(session);
 }
 

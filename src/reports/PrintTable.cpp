@@ -1,5 +1,6 @@
 #include "reports/PrintTable.h"
 
+#include "core/DesignRecord.h"
 #include "display/ResponseCurves.h"
 #include "display/modTabulate.h"
 #include "reports/Report.h"

@@ -1,8 +1,7 @@
 // The printed report of the tabulated responses.
 #pragma once
 
-#include "core/DesignRecord.h"
-#include "core/Responses.h"
+#include "core/RecordFwd.h"
 #include "shell/Canvas.h"
 
 namespace quilm {

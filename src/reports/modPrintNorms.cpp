@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "core/DesignRecord.h"
 #include "core/NumberText.h"
 #include "reports/Report.h"
 #include "synthesis/NormalizedText.h"

@@ -1,7 +1,7 @@
 // The printed report of the normalised values.
 #pragma once
 
-#include "core/DesignRecord.h"
+#include "core/RecordFwd.h"
 #include "shell/Canvas.h"
 
 namespace quilm {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "core/DesignRecord.h"
 #include "core/ElementCatalogue.h"
 #include "core/NumberText.h"
 #include "core/Topology.h"
@@ -18,11 +19,11 @@ using Formatter = std::string (*)(f32);
 
 std::string Text(f32 value, Formatter format) { return Trimmed(format(value)); }
 
-std::optional<PartRange> RangeOf(const DesignRecord& record, SlotCode part) {
+std::optional<PartRange> RangeOf(const Network& network, SlotCode part) {
   std::optional<PartRange> range;
-  for (int s = 1; s <= record.Stages; ++s) {
-    for (const Slot& slot : SlotsOf(record.stage[s].ElementType)) {
-      const f32 value = std::fabs(slot.value(record.stage[s]));
+  for (int s = 1; s <= network.Stages; ++s) {
+    for (const Slot& slot : SlotsOf(network.stage[s].ElementType)) {
+      const f32 value = std::fabs(slot.value(network.stage[s]));
       if (slot.code != part || value == 0) continue;
       if (!range) range = PartRange{value, value};
       range->largest = std::max(range->largest, value);
@@ -66,9 +67,9 @@ DataGroup EntryGroup(const DesignRecord& record) {
   return {"Design data:", rows};
 }
 
-DataGroup Extremes(const DesignRecord& record) {
-  const auto capacitors = CapacitorRange(record);
-  const auto inductors = InductorRange(record);
+DataGroup Extremes(const Network& network) {
+  const auto capacitors = CapacitorRange(network);
+  const auto inductors = InductorRange(network);
   return {"",
           {"Largest capacitor: " + (capacitors ? Text(capacitors->largest, FormatCapacitance) : none),
            "Smallest capacitor: " + (capacitors ? Text(capacitors->smallest, FormatCapacitance) : none),
@@ -78,15 +79,13 @@ DataGroup Extremes(const DesignRecord& record) {
 
 }  // namespace
 
-std::optional<PartRange> CapacitorRange(const DesignRecord& record) { return RangeOf(record, SlotCode::Capacitance); }
+std::optional<PartRange> CapacitorRange(const Network& network) { return RangeOf(network, SlotCode::Capacitance); }
 
-std::optional<PartRange> InductorRange(const DesignRecord& record) { return RangeOf(record, SlotCode::Inductance); }
+std::optional<PartRange> InductorRange(const Network& network) { return RangeOf(network, SlotCode::Inductance); }
 
-std::string CapacitorRatioText(const DesignRecord& record) {
-  return "Capacitors: " + RatioText(CapacitorRange(record));
-}
+std::string CapacitorRatioText(const Network& network) { return "Capacitors: " + RatioText(CapacitorRange(network)); }
 
-std::string InductorRatioText(const DesignRecord& record) { return "Inductors: " + RatioText(InductorRange(record)); }
+std::string InductorRatioText(const Network& network) { return "Inductors: " + RatioText(InductorRange(network)); }
 
 std::vector<DataGroup> DesignData(const DesignRecord& record) {
   if (!(record.Width > 0 || record.Fcenter > 0 || record.Apass > 0 || record.Family != familyNone)) return {};

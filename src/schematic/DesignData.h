@@ -5,7 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "core/DesignRecord.h"
+#include "core/RecordFwd.h"
+#include "core/Types.h"
 #include "shell/Canvas.h"
 
 namespace quilm {
@@ -17,12 +18,12 @@ struct PartRange {
 };
 
 // Nothing when the ladder has no such part with a value.
-std::optional<PartRange> CapacitorRange(const DesignRecord& record);
-std::optional<PartRange> InductorRange(const DesignRecord& record);
+std::optional<PartRange> CapacitorRange(const Network& network);
+std::optional<PartRange> InductorRange(const Network& network);
 
 // "Capacitors: 2.5": the largest over the smallest, or "(None)".
-std::string CapacitorRatioText(const DesignRecord& record);
-std::string InductorRatioText(const DesignRecord& record);
+std::string CapacitorRatioText(const Network& network);
+std::string InductorRatioText(const Network& network);
 
 // A group of lines, the first of which may be a heading.
 struct DataGroup {

@@ -4,7 +4,7 @@
 #include <initializer_list>
 #include <vector>
 
-#include "core/DesignRecord.h"
+#include "core/ElementTypes.h"
 
 namespace quilm {
 

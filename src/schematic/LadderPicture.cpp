@@ -5,6 +5,7 @@
 #include <map>
 #include <vector>
 
+#include "core/ElementTypes.h"
 #include "schematic/PartSymbols.h"
 #include "schematic/Symbols.h"
 

@@ -4,7 +4,7 @@
 #include <span>
 #include <string_view>
 
-#include "core/DesignRecord.h"
+#include "core/Types.h"
 #include "shell/Picture.h"
 
 namespace quilm {

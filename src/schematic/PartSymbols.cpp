@@ -3,8 +3,6 @@
 #include <array>
 #include <cmath>
 
-#include "core/DesignRecord.h"
-
 namespace quilm {
 
 namespace {

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "core/ElementCatalogue.h"
+#include "core/Network.h"
 #include "core/NumberText.h"
 #include "core/modGeneral.h"
 
@@ -73,14 +74,14 @@ std::vector<std::string> ToleranceLabels(const Stage& stage) {
   return labels;
 }
 
-std::vector<LossLabel> LossLabels(const DesignRecord& record, const Stage& stage, f32 Fq) {
+std::vector<LossLabel> LossLabels(const Network& network, const Stage& stage, f32 Fq) {
   std::vector<LossLabel> labels;
   const f64 omega = 2 * Pi * f64{Fq};
   if (HasSlot(stage.ElementType, SlotCode::Inductance)) {
-    AddLoss(labels, "L-rseries:", omega * f64{stage.Lval.value} / f64{record.Qind[1]});
+    AddLoss(labels, "L-rseries:", omega * f64{stage.Lval.value} / f64{network.Qind[1]});
   }
   if (HasSlot(stage.ElementType, SlotCode::Capacitance)) {
-    const f64 ohms = std::fabs(f64{record.Qcap[1]} / (omega * f64{stage.Cval.value}));
+    const f64 ohms = std::fabs(f64{network.Qcap[1]} / (omega * f64{stage.Cval.value}));
     if (ohms <= highestLoss) AddLoss(labels, "C-rshunt:", ohms);
   }
   return labels;

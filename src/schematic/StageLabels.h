@@ -4,7 +4,8 @@
 #include <string>
 #include <vector>
 
-#include "core/DesignRecord.h"
+#include "core/RecordFwd.h"
+#include "core/Types.h"
 
 namespace quilm {
 
@@ -28,7 +29,7 @@ struct LossLabel {
 
 // Of an inductor 2 Pi Fq L / Qind in series, of a capacitor Qcap / (2 Pi Fq C) across it. Above 10 megohms a
 // capacitor's is left out, as is one that cannot be computed.
-std::vector<LossLabel> LossLabels(const DesignRecord& record, const Stage& stage, f32 Fq);
+std::vector<LossLabel> LossLabels(const Network& network, const Stage& stage, f32 Fq);
 
 // Whether the type is parts in the line or a piece of line, which a balanced network has on both rails.
 bool IsSeriesElement(i16 elementType);

@@ -6,7 +6,7 @@
 // capacitor's plate, which leaves the room above it to labels.
 #pragma once
 
-#include "core/DesignRecord.h"
+#include "core/Types.h"
 #include "shell/Canvas.h"
 
 namespace quilm {

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "analysis/Ladder.h"
+#include "core/DesignRecord.h"
 #include "core/modGeneral.h"
 #include "schematic/DesignData.h"
 #include "schematic/PartSymbols.h"
@@ -44,7 +45,7 @@ constexpr f32 tolerancesBelow = 3300;
 constexpr f32 dataLeft = 400;
 constexpr f32 dataTop = 5800;
 
-int StagesToDraw(const DesignRecord& record) { return std::min(record.Stages, record.StagesMax); }
+int StagesToDraw(const Network& network) { return std::min(network.Stages, network.StagesMax); }
 
 void PrintLabel(Canvas& canvas, f32 x, f32 y, const StageLabel& label) {
   const PenScope pen(canvas);
@@ -56,7 +57,7 @@ void PrintLabel(Canvas& canvas, f32 x, f32 y, const StageLabel& label) {
 class Drawing {
  public:
   Drawing(const DesignRecord& record, const SchematicView& view, Canvas& canvas)
-      : record_(record), view_(view), canvas_(canvas), Fq_(QualityFrequency(record)) {}
+      : record_(record), view_(view), canvas_(canvas), Fq_(QualityFrequency(record, record)) {}
 
   void Draw() {
     const f32 SchemLeft = static_cast<f32>(view_.SchemOffset) + sourceWidth;
@@ -207,7 +208,7 @@ struct ArtworkStage {
 };
 
 // The stages side by side, in as many rows as they need.
-std::vector<ArtworkStage> ArtworkStages(const DesignRecord& record) {
+std::vector<ArtworkStage> ArtworkStages(const Network& network) {
   constexpr f32 left = 700;
   constexpr f32 right = 11500;
   constexpr f32 firstRow = 1000;
@@ -215,8 +216,8 @@ std::vector<ArtworkStage> ArtworkStages(const DesignRecord& record) {
   constexpr f32 room = 240;  // beside the symbols
   std::vector<ArtworkStage> stages;
   Point pen{left, firstRow};
-  for (int s = 1; s <= StagesToDraw(record); ++s) {
-    const f32 symbol = SymbolWidth(record.stage[s].ElementType);
+  for (int s = 1; s <= StagesToDraw(network); ++s) {
+    const f32 symbol = SymbolWidth(network.stage[s].ElementType);
     if (symbol == 0) continue;
     if (pen.x + symbol + room > right) pen = {left, pen.y + rowPitch};
     stages.push_back({s, StageBox{pen.x, pen.y, symbol + room, railGap}});
@@ -234,13 +235,13 @@ void DrawSchematic(const DesignRecord& record, const SchematicView& view, Canvas
   DrawDesignData(record, dataLeft, dataTop, canvas);
 }
 
-void DrawArtwork(const DesignRecord& record, SchematicMode mode, Canvas& canvas) {
+void DrawArtwork(const Network& network, SchematicMode mode, Canvas& canvas) {
   constexpr f32 numberAboveRail = 400;
   constexpr f32 ratiosBelow = 300;  // of the last row
   constexpr f32 margin = 500;
   constexpr f32 ratioPitch = 2200;
   constexpr f32 leastWidth = 5000;  // of the page, for the ratios
-  const std::vector<ArtworkStage> stages = ArtworkStages(record);
+  const std::vector<ArtworkStage> stages = ArtworkStages(network);
   f32 width = leastWidth;
   f32 lastRail = 0;
   for (const ArtworkStage& stage : stages) {
@@ -254,19 +255,19 @@ void DrawArtwork(const DesignRecord& record, SchematicMode mode, Canvas& canvas)
     const StageBox& box = stage.box;
     const std::string number = std::to_string(stage.number);
     canvas.PrintAt(box.x + (box.width - canvas.TextWidth(number)) / 2, box.y - numberAboveRail, number);
-    DrawStage(canvas, record.stage[stage.number].ElementType, box, colorBlack, form);
+    DrawStage(canvas, network.stage[stage.number].ElementType, box, colorBlack, form);
   }
   const StageBox& first = stages.front().box;
   const StageBox& last = stages.back().box;
   DrawTerminals(canvas, first.x - terminalRadius, first.y, railGap, colorBlack);
   DrawTerminals(canvas, last.x + last.width + terminalRadius, last.y, railGap, colorBlack);
-  canvas.PrintAt(first.x, lastRail + ratiosBelow, CapacitorRatioText(record));
-  canvas.PrintAt(first.x + ratioPitch, lastRail + ratiosBelow, InductorRatioText(record));
+  canvas.PrintAt(first.x, lastRail + ratiosBelow, CapacitorRatioText(network));
+  canvas.PrintAt(first.x + ratioPitch, lastRail + ratiosBelow, InductorRatioText(network));
 }
 
-bool HasNegativePart(const DesignRecord& record) {
-  for (int s = 1; s <= StagesToDraw(record); ++s) {
-    if (HasNegativeValue(record.stage[s])) return true;
+bool HasNegativePart(const Network& network) {
+  for (int s = 1; s <= StagesToDraw(network); ++s) {
+    if (HasNegativeValue(network.stage[s])) return true;
   }
   return false;
 }

@@ -4,7 +4,7 @@
 // 700 to 5400.
 #pragma once
 
-#include "core/DesignRecord.h"
+#include "core/RecordFwd.h"
 #include "core/SchematicView.h"
 #include "shell/Canvas.h"
 
@@ -16,9 +16,9 @@ namespace quilm {
 void DrawSchematic(const DesignRecord& record, const SchematicView& view, Canvas& canvas);
 
 // Draws the bare ladder: stage numbers and symbols, in as many rows as it needs, and the ratios of its parts below.
-void DrawArtwork(const DesignRecord& record, SchematicMode mode, Canvas& canvas);
+void DrawArtwork(const Network& network, SchematicMode mode, Canvas& canvas);
 
 // Whether any stage has a value below 0.
-bool HasNegativePart(const DesignRecord& record);
+bool HasNegativePart(const Network& network);
 
 }  // namespace quilm

@@ -4,8 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "core/DesignRecord.h"
-#include "core/Responses.h"
+#include "core/RecordFwd.h"
 #include "script/ScriptEvents.h"
 
 namespace quilm {
@@ -21,7 +20,8 @@ Json RecordEvent(const DesignRecord& record, const std::vector<std::string>& nam
 
 // The event "responses" with these points of the sweep, all when there are none. Throws CommandFailure for an index
 // beyond the sweep.
-Json ResponsesEvent(const DesignRecord& record, const Responses& responses, const std::vector<std::string>& indices);
+Json ResponsesEvent(const Identity& identity, const SweepSettings& sweep, const Responses& responses,
+                    const std::vector<std::string>& indices);
 
 // The event "page": what the user sees of the page.
 Json PageEvent(const Page& page);

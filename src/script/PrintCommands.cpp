@@ -21,7 +21,7 @@ void PrintRecord(ScriptRun& run, const std::string& arguments) {
 }
 
 void PrintResponses(ScriptRun& run, const std::string& arguments) {
-  run.Emit(ResponsesEvent(run.session.record, run.session.responses,
+  run.Emit(ResponsesEvent(run.session.identity, run.session.sweep, run.session.responses,
                           Arguments(arguments, 0, anyNumber, "responses [INDEX ...]")));
 }
 

@@ -3,6 +3,7 @@
 #include <cmath>
 #include <utility>
 
+#include "core/DesignRecord.h"
 #include "core/ElementCatalogue.h"
 #include "script/Json.h"
 #include "script/ScriptPlatform.h"

@@ -1,6 +1,9 @@
 #include <algorithm>
 #include <cmath>
 
+#include "core/Identity.h"
+#include "core/Responses.h"
+#include "core/Sweep.h"
 #include "script/Commands.h"
 #include "script/Json.h"
 
@@ -9,8 +12,8 @@ namespace quilm {
 namespace {
 
 // The last point of a sweep. What no sweep can have counts as the nearest one that it can.
-int LastPoint(const DesignRecord& record) {
-  const f64 intervals = static_cast<f64>(record.NrIntervals);
+int LastPoint(const SweepSettings& sweep) {
+  const f64 intervals = static_cast<f64>(sweep.NrIntervals);
   if (std::isnan(intervals)) return 0;
   return static_cast<int>(std::nearbyint(std::clamp<f64>(intervals, 0, responseBound)));
 }
@@ -30,8 +33,9 @@ Json PointJson(const Responses& responses, int i) {
 
 }  // namespace
 
-Json ResponsesEvent(const DesignRecord& record, const Responses& responses, const std::vector<std::string>& indices) {
-  const int last = LastPoint(record);
+Json ResponsesEvent(const Identity& identity, const SweepSettings& sweep, const Responses& responses,
+                    const std::vector<std::string>& indices) {
+  const int last = LastPoint(sweep);
   Json points = Json::array();
   for (const std::string& index : indices) points.push_back(PointJson(responses, CountArgument(index, 0, last)));
   for (int i = 0; i <= last && indices.empty(); ++i) points.push_back(PointJson(responses, i));
@@ -40,7 +44,7 @@ Json ResponsesEvent(const DesignRecord& record, const Responses& responses, cons
           {"points", std::move(points)},
           {"TransPeak", responses.TransPeak},
           {"TransPeakFreq", responses.TransPeakFreq},
-          {"ResponsesValid", record.ResponsesValid}};
+          {"ResponsesValid", identity.ResponsesValid}};
 }
 
 }  // namespace quilm

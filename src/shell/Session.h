@@ -2,11 +2,10 @@
 // are no globals; whoever needs a session makes one, tests as many as they like.
 #pragma once
 
+#include <memory>
 #include <string>
 
-#include "core/Configuration.h"
-#include "core/DesignRecord.h"
-#include "core/Responses.h"
+#include "core/RecordFwd.h"
 #include "core/SchematicView.h"
 #include "core/SmithView.h"
 #include "shell/PageDesk.h"
@@ -22,16 +21,26 @@ class LongRun;
 struct ProgramEnd {};
 
 class Session {
- public:
-  Session(Platform& runsOn, PageDirectory directory) : platform(runsOn), pages(*this, std::move(directory)) {}
+  struct Held;
+  std::unique_ptr<Held> held_;  // behind a pointer, so that who uses one of the pieces need not know the others
 
-  DesignRecord record;
-  Responses responses;
-  Configuration configuration;  // the settings as they were read at start
+ public:
+  Session(Platform& runsOn, PageDirectory directory);
+  ~Session();
+
+  // The design, and slices of it for who uses no more of it.
+  DesignRecord& record;
+  Identity& identity;
+  Entries& entries;
+  Network& network;
+  SweepSettings& sweep;
+
+  Responses& responses;
+  Configuration& configuration;  // the settings as they were read at start
 
   // The family option that stands on the Design page, which the prototype routines read; kept here so that it is
   // known when the page is not loaded.
-  i16 familyOption = familyNone;
+  i16 familyOption;
 
   // How charts and schematic are looked at; stays for the run of the program.
   SmithView smithView;

@@ -4,6 +4,7 @@
 #include <fstream>
 
 #include "core/Configuration.h"
+#include "core/Identity.h"
 #include "core/TextFile.h"
 #include "shell/Session.h"
 
@@ -36,8 +37,8 @@ void ReadConfig(Session& session) {
 void WriteConfig(Session& session) {
   const std::string text =
       FormatConfiguration(session.record, session.configuration, DateAndTime(session.platform.Now()));
-  session.record.DesignFileName = InProgramFolder(session, configurationFile);
-  if (WriteTextFile(session.record.DesignFileName, text)) return;
+  session.identity.DesignFileName = InProgramFolder(session, configurationFile);
+  if (WriteTextFile(session.identity.DesignFileName, text)) return;
   session.platform.MessageBox(
       "The configuration file (QuilmConfiguration.CFG) was not written.\r\nThis is not a serious problem.", Buttons::Ok,
       Icon::Exclamation, "");

@@ -11,7 +11,7 @@
 #pragma once
 
 #include "core/BoundedArray.h"
-#include "core/DesignRecord.h"
+#include "core/OrderLimit.h"
 #include "core/Types.h"
 
 namespace quilm {

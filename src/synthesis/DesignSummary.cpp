@@ -3,6 +3,7 @@
 #include <array>
 #include <vector>
 
+#include "core/DesignRecord.h"
 #include "core/Topology.h"
 #include "core/modGeneral.h"
 

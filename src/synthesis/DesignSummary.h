@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "core/DesignRecord.h"
+#include "core/RecordFwd.h"
 
 namespace quilm {
 

@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "core/DesignRecord.h"
 #include "core/ElementCatalogue.h"
 #include "core/NumericFault.h"
 #include "core/Topology.h"
@@ -96,10 +97,10 @@ std::string EndSectionObstacle(const DesignRecord& record) {
   return {};
 }
 
-f32 EndSectionZero(const DesignRecord& record, f32 m) {
+f32 EndSectionZero(const Network& network, f32 m) {
   RequireSection(m);
   NumericFaultScope scope;
-  const TunedArm arm = SectionAt(record.stage[1], record.stage[2], m, scope).arm;
+  const TunedArm arm = SectionAt(network.stage[1], network.stage[2], m, scope).arm;
   return scope.Store(1 / (2 * Pi * std::sqrt(f64{arm.inductor} * f64{arm.capacitor})));
 }
 

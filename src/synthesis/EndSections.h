@@ -8,7 +8,8 @@
 
 #include <string>
 
-#include "core/DesignRecord.h"
+#include "core/RecordFwd.h"
+#include "core/Types.h"
 
 namespace quilm {
 
@@ -17,7 +18,7 @@ namespace quilm {
 std::string EndSectionObstacle(const DesignRecord& record);
 
 // Where the section at the source end has its zero, in Hz, for 0 < m < 1. Throws NumericFault for an m without a zero.
-f32 EndSectionZero(const DesignRecord& record, f32 m);
+f32 EndSectionZero(const Network& network, f32 m);
 
 // Adds a section at each end. The stages move up one place, stage 1 and the new last stage are the tuned arms, and the
 // old end elements take the sections' shares. The network then stands as one edited by hand: Family 11, NetworkEdited

@@ -1,5 +1,6 @@
 #include "synthesis/EntryRules.h"
 
+#include "core/DesignRecord.h"
 #include "core/EntryLimits.h"
 #include "core/Topology.h"
 #include "core/modGeneral.h"

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "core/DesignRecord.h"
+#include "core/RecordFwd.h"
 #include "shell/PageId.h"
 
 namespace quilm {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "core/DesignRecord.h"
 #include "core/ElementCatalogue.h"
 #include "core/NumericFault.h"
 #include "core/Topology.h"
@@ -71,9 +72,8 @@ std::size_t LoadColumn(i16 family) {
   }
 }
 
-void SetLoad(Scales& scales, Load rule) {
+void SetLoad(DesignRecord& record, Scales& scales, Load rule) {
   if (rule == Load::Own) return;
-  DesignRecord& record = scales.record;
   if (record.Topology == "B" && record.Rratio <= 0) record.Rratio = 1;
   f64 load = scales.Rs;
   if (rule == Load::Ratio) load = record.Rratio * scales.Rs;
@@ -82,16 +82,16 @@ void SetLoad(Scales& scales, Load rule) {
 }
 
 // Tolerances and element types stay.
-void ClearStages(DesignRecord& record) {
-  for (Stage& stage : record.stage) {
+void ClearStages(Network& network) {
+  for (Stage& stage : network.stage) {
     for (const Slot& slot : AllSlots()) slot.value(stage) = 0;
   }
 }
 
 // A prototype routine that failed leaves nothing but zeros, from which a lowpass without any stage would follow.
-void RequirePrototype(const DesignRecord& record, int n) {
+void RequirePrototype(const Prototype& prototype, int n) {
   for (int j = 1; j <= n; ++j) {
-    if (record.Gj[j] != 0 || record.Hj[j] != 0) return;
+    if (prototype.Gj[j] != 0 || prototype.Hj[j] != 0) return;
   }
   throw NumericFault("There is no prototype");
 }
@@ -99,25 +99,25 @@ void RequirePrototype(const DesignRecord& record, int n) {
 bool IsEmpty(const Stage& stage) { return stage.Lval.value == 0 && stage.Cval.value == 0; }
 
 // Moves all stages behind s down one place; a blank one comes in at the end.
-void CloseGap(DesignRecord& record, int s) {
-  for (int t = s; t <= record.Stages; ++t) {
-    const Stage next = t < record.Stages ? record.stage[t + 1] : Stage{};
-    record.stage[t].ElementType = next.ElementType;
-    record.stage[t].Lval = next.Lval;
-    record.stage[t].Cval = next.Cval;
+void CloseGap(Network& network, int s) {
+  for (int t = s; t <= network.Stages; ++t) {
+    const Stage next = t < network.Stages ? network.stage[t + 1] : Stage{};
+    network.stage[t].ElementType = next.ElementType;
+    network.stage[t].Lval = next.Lval;
+    network.stage[t].Cval = next.Cval;
   }
 }
 
 // Takes out the places without a part. Each place is looked at once while the stages move down, so the second of two
 // empty neighbours stays; and it is then counted with the blanks at the end, at the cost of the last part. One look is
 // enough, since no prototype gives a topology two such neighbours.
-void CleanUp(DesignRecord& record) {
-  const int places = record.Stages;
+void CleanUp(Network& network) {
+  const int places = network.Stages;
   for (int s = 1; s <= places; ++s) {
-    if (IsEmpty(record.stage[s])) CloseGap(record, s);
+    if (IsEmpty(network.stage[s])) CloseGap(network, s);
   }
   for (int s = 1; s <= places; ++s) {
-    if (IsEmpty(record.stage[s])) --record.Stages;
+    if (IsEmpty(network.stage[s])) --network.Stages;
   }
 }
 
@@ -128,7 +128,7 @@ void Build(const TopologyRow& row, DesignRecord& record) {
   Scales scales(record, scope);
   RequirePrototype(record, scales.n);
   const int places = row.build(scales);
-  SetLoad(scales, row.load[LoadColumn(record.Family)]);
+  SetLoad(record, scales, row.load[LoadColumn(record.Family)]);
   if (IsLowOrHighpass(record.Topology)) record.Fcenter = 0;
   record.Stages = ToI16(places);
   CleanUp(record);
@@ -137,7 +137,9 @@ void Build(const TopologyRow& row, DesignRecord& record) {
 }  // namespace
 
 Scales::Scales(DesignRecord& design, NumericFaultScope& faults)
-    : record(design),
+    : entries(design),
+      prototype(design),
+      network(design),
       scope(faults),
       n(ToI16(design.Order)),
       Rs(design.Rsource[1]),
@@ -146,9 +148,9 @@ Scales::Scales(DesignRecord& design, NumericFaultScope& faults)
       QLoaded(faults.Store(f64{OmegaCenter} / OmegaWidth)) {}
 
 void Scales::Put(int s, ElementCode type, f64 henries, f64 farads) {
-  record.stage[s].ElementType = type;
-  record.stage[s].Lval.value = scope.Store(henries);
-  record.stage[s].Cval.value = scope.Store(farads);
+  network.stage[s].ElementType = type;
+  network.stage[s].Lval.value = scope.Store(henries);
+  network.stage[s].Cval.value = scope.Store(farads);
 }
 
 void MakeNetwork(DesignRecord& record) {

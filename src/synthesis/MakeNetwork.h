@@ -1,7 +1,7 @@
 // Denormalisation: from the prototype to the real parts of a topology.
 #pragma once
 
-#include "core/DesignRecord.h"
+#include "core/RecordFwd.h"
 
 namespace quilm {
 

@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "core/DesignRecord.h"
 #include "core/NumberText.h"
 #include "core/modGeneral.h"
 

@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "core/DesignRecord.h"
 #include "core/NumericFault.h"
 #include "network/DesignStanding.h"
 #include "synthesis/MakeNetwork.h"

@@ -2,7 +2,8 @@
 #pragma once
 
 #include "core/BoundedArray.h"
-#include "core/DesignRecord.h"
+#include "core/OrderLimit.h"
+#include "core/RecordFwd.h"
 
 namespace quilm {
 

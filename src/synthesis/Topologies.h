@@ -9,8 +9,10 @@
 // A division by zero, an overflow or an invalid operation throws NumericFault; the stages before it are filled.
 #pragma once
 
-#include "core/DesignRecord.h"
+#include "core/Entries.h"
+#include "core/Network.h"
 #include "core/NumericFault.h"
+#include "core/RecordFwd.h"
 
 namespace quilm {
 
@@ -22,13 +24,15 @@ inline constexpr ElementCode emptyPlace = SeriesReactance;
 struct Scales {
   Scales(DesignRecord& design, NumericFaultScope& faults);
 
-  f64 G(int j) const { return record.Gj[j]; }
-  f64 H(int j) const { return record.Hj[j]; }
+  f64 G(int j) const { return prototype.Gj[j]; }
+  f64 H(int j) const { return prototype.Hj[j]; }
 
   // Stores one stage: its type, henries and farads.
   void Put(int s, ElementCode type, f64 henries, f64 farads);
 
-  DesignRecord& record;
+  const Entries& entries;
+  const Prototype& prototype;
+  Network& network;
   NumericFaultScope& scope;
   int n;            // number of prototype elements
   f64 Rs;           // source, ohms

@@ -92,7 +92,7 @@ CouplingValues MeshCouplings(Scales& k) {
 
 // The capacitors that tune the meshes, in series with the coupling capacitors beside them.
 void PutMeshCapacitors(Scales& k, const CouplingValues& CoupC, f64 mesh) {
-  const auto put = [&k](int s, f64 farads) { k.record.stage[s].Cval.value = k.scope.Store(farads); };
+  const auto put = [&k](int s, f64 farads) { k.network.stage[s].Cval.value = k.scope.Store(farads); };
   put(1, 1 / (1 / mesh - 1.0 / CoupC[2]));
   for (int j = 2; j <= k.n - 1; ++j) put(2 * j - 1, 1 / (1 / mesh - 1.0 / CoupC[j] - 1.0 / CoupC[j + 1]));
   put(2 * k.n - 1, 1 / (1 / mesh - 1.0 / CoupC[k.n]));

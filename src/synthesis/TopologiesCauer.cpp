@@ -13,7 +13,7 @@ f64 Square(f64 x) { return x * x; }
 // ---- normal layout --------------------------------------------------------------------------------------------------
 
 struct NormalLayout {
-  explicit NormalLayout(Scales& s) : k(s), W(s.record.Width), Fc(s.record.Fcenter) {}
+  explicit NormalLayout(Scales& s) : k(s), W(s.entries.Width), Fc(s.entries.Fcenter) {}
 
   // The susceptance slope of position j over the bandwidth.
   f64 B(int j) const { return Square(Fc) * k.G(j) / Square(W); }
@@ -57,7 +57,7 @@ int BuildEvenNormal(Scales& k) {
   }
   const int last = 3 * (k.n - 1) / 2 + 1;
   layout.PutSeries(last, k.n);
-  k.record.Rload[1] = k.scope.Store(k.record.Rratio * k.Rs);
+  k.network.Rload[1] = k.scope.Store(k.prototype.Rratio * k.Rs);
   return last;
 }
 
@@ -74,7 +74,7 @@ int BuildOddNormal(Scales& k) {
       layout.PutSeries(3 * j / 2, j);
     }
   }
-  k.record.Rload[1] = k.scope.Store(k.Rs);
+  k.network.Rload[1] = k.scope.Store(k.Rs);
   return 3 * k.n / 2;
 }
 
@@ -86,7 +86,10 @@ using ZigZagValues = BoundedArray<f32, 0, 31>;
 
 struct ZigZag {
   explicit ZigZag(Scales& s)
-      : k(s), n(s.n), F(static_cast<f64>(s.record.Fcenter) / static_cast<f64>(s.record.Width)), RR(s.record.Rratio) {}
+      : k(s),
+        n(s.n),
+        F(static_cast<f64>(s.entries.Fcenter) / static_cast<f64>(s.entries.Width)),
+        RR(s.prototype.Rratio) {}
 
   f64 At(int i) const { return ZZ[i]; }
   void Set(int i, f64 value) { ZZ[i] = k.scope.Store(value); }
@@ -109,13 +112,13 @@ struct ZigZag {
 void ZigZag::TakePrototype() {
   const int h = n / 2;
   for (int i = 1; i < h; ++i) {
-    ZZproto[3 * i - 2] = k.record.Gj[2 * i - 1];
-    ZZproto[3 * i - 1] = k.record.Gj[2 * i];
-    ZZproto[3 * i] = k.record.Hj[2 * i];
+    ZZproto[3 * i - 2] = k.prototype.Gj[2 * i - 1];
+    ZZproto[3 * i - 1] = k.prototype.Gj[2 * i];
+    ZZproto[3 * i] = k.prototype.Hj[2 * i];
   }
   const int t = h - 1;
-  ZZproto[3 * t + 1] = k.record.Gj[2 * t + 1];
-  ZZproto[3 * t + 2] = k.record.Hj[2 * t + 2];
+  ZZproto[3 * t + 1] = k.prototype.Gj[2 * t + 1];
+  ZZproto[3 * t + 2] = k.prototype.Hj[2 * t + 2];
 }
 
 // Each lowpass branch becomes its bandpass pair around the centre.
@@ -181,7 +184,7 @@ void ZigZag::RescaleFrom(int K, f64 f) {
 
 int ZigZag::Write() {
   constexpr f64 twoPi = 6.2831853;  // this literal, as the layout has always been scaled
-  const f64 Fc = k.record.Fcenter;
+  const f64 Fc = k.entries.Fcenter;
   const f64 Lu = k.Rs / (Fc * twoPi);
   const f64 Cu = 1 / (k.Rs * twoPi * Fc);
   int stage = 0;
@@ -193,7 +196,7 @@ int ZigZag::Write() {
     k.Put(++stage, ShuntSLC, Lu * At(i + 5), Cu * At(i + 4));
   }
   k.Put(++stage, SeriesSLC, Lu * At(3 * n - 2), Cu * At(3 * n - 3));
-  k.record.Rload[1] = k.scope.Store(RR * k.Rs);
+  k.network.Rload[1] = k.scope.Store(RR * k.Rs);
   return stage;
 }
 
@@ -209,7 +212,7 @@ int BuildZigZag(Scales& k) {
 
 int BuildCauerBandpass(Scales& scales) {
   if (scales.n % 2 == 1) return BuildOddNormal(scales);
-  return scales.record.CauerTop == 1 ? BuildZigZag(scales) : BuildEvenNormal(scales);
+  return scales.entries.CauerTop == 1 ? BuildZigZag(scales) : BuildEvenNormal(scales);
 }
 
 }  // namespace quilm

@@ -27,7 +27,7 @@ void PutTrap(Scales& k, int j, f64 inductor, f64 capacitor) {
 }
 
 void PutSeriesOfA(Scales& k, int j) {
-  if (k.record.CauerFlag != 1) {
+  if (k.prototype.CauerFlag != 1) {
     PutTrap(k, j, k.G(j), k.H(j));
   } else if (j == k.n) {
     k.Put(j, SeriesL, Henries(k, k.H(j)), 0);  // a zero at infinity: the last element of an even order stands alone
@@ -39,7 +39,7 @@ void PutSeriesOfA(Scales& k, int j) {
 void PutShuntOfB(Scales& k, int j) {
   const f64 g = k.G(j);
   const f64 h = k.H(j);
-  if (k.record.CauerFlag != 1) {
+  if (k.prototype.CauerFlag != 1) {
     if (h > 0) {
       k.Put(j, ShuntSLC, Henries(k, h), Farads(k, g));
     } else {
@@ -60,7 +60,7 @@ void PutShuntOfI(Scales& k, int j) {
   const f64 h = k.H(j);
   if (g <= 0) {
     k.Put(j, ShuntL, HighHenries(k, h), 0);
-  } else if (k.record.CauerFlag != 1) {
+  } else if (k.prototype.CauerFlag != 1) {
     if (h <= 0) {
       k.Put(j, ShuntL, HighHenries(k, g), 0);
     } else {
@@ -78,7 +78,7 @@ void PutSeriesOfJ(Scales& k, int j) {
   const f64 h = k.H(j);
   if (g <= 0) {
     k.Put(j, SeriesC, 0, HighFarads(k, h));
-  } else if (k.record.CauerFlag != 1) {
+  } else if (k.prototype.CauerFlag != 1) {
     if (h <= 0) {
       k.Put(j, SeriesC, 0, HighFarads(k, g));
     } else {

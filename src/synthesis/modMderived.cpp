@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "core/DesignRecord.h"
 #include "core/NumericFault.h"
 #include "core/Topology.h"
 #include "network/DesignStanding.h"
@@ -103,8 +104,8 @@ bool IsInStopband(const DesignRecord& record, f32 zero) {
   return IsHighpass(record.Topology) ? std::fabs(zero) < record.Width : zero > record.Width;
 }
 
-bool HasMderivedZeros(const DesignRecord& record) {
-  const auto* first = &record.MderivedZero[1];
+bool HasMderivedZeros(const Entries& entries) {
+  const auto* first = &entries.MderivedZero[1];
   return std::any_of(first, first + mostMderivedZeros, [](f32 zero) { return zero != 0; });
 }
 

@@ -5,7 +5,8 @@
 // m near 0.6 at both ends match the ladder to its terminations.
 #pragma once
 
-#include "core/DesignRecord.h"
+#include "core/RecordFwd.h"
+#include "core/Types.h"
 
 namespace quilm {
 
@@ -16,7 +17,7 @@ inline constexpr int mostMderivedZeros = 5;
 bool IsInStopband(const DesignRecord& record, f32 zero);
 
 // Whether MderivedZero[1..5] holds any zero.
-bool HasMderivedZeros(const DesignRecord& record);
+bool HasMderivedZeros(const Entries& entries);
 
 // Makes the prototype of the zeros, after closing the gaps between them: sets Gj, Hj, Order (7 to 13), FstopNorm 0,
 // Rratio 1, CauerFlag 1 and ResponsesValid 0. Without zeros Order and Stages are 0. Throws NumericFault for a zero that

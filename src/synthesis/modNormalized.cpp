@@ -3,6 +3,7 @@
 #include <cmath>
 #include <span>
 
+#include "core/DesignRecord.h"
 #include "core/NumericFault.h"
 #include "network/DesignStanding.h"
 #include "shell/Session.h"

@@ -8,7 +8,8 @@
 #include <string>
 #include <vector>
 
-#include "core/DesignRecord.h"
+#include "core/RecordFwd.h"
+#include "core/Types.h"
 
 namespace quilm {
 

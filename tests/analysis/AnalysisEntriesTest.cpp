@@ -1,6 +1,7 @@
 // What the Analysis page fills in when it loads, and how it holds the entries before a plot: each limit at its figure
 // and one step of 32 bits to both sides.
 #include "analysis/AnalysisEntries.h"
+#include "core/DesignRecord.h"
 
 #include <gtest/gtest.h>
 

@@ -5,6 +5,7 @@
 #include <functional>
 
 #include "analysis/modAnalysis.h"
+#include "core/DesignRecord.h"
 
 namespace quilm {
 namespace {

@@ -3,6 +3,8 @@
 #include <memory>
 
 #include "analysis/modAnalysis.h"
+#include "core/DesignRecord.h"
+#include "core/Responses.h"
 
 namespace quilm {
 namespace {

@@ -5,6 +5,8 @@
 #include <memory>
 
 #include "analysis/modAnalysis.h"
+#include "core/DesignRecord.h"
+#include "core/Responses.h"
 #include "shell/HeadlessPlatform.h"
 #include "shell/Page.h"
 #include "shell/Session.h"

@@ -2,6 +2,7 @@
 #include <QTimer>
 
 #include "app/WalkBench.h"
+#include "core/DesignRecord.h"
 
 namespace quilm {
 namespace {

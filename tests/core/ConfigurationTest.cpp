@@ -1,4 +1,5 @@
 #include "core/Configuration.h"
+#include "core/DesignRecord.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,5 @@
 #include "core/ElementCatalogue.h"
+#include "core/Network.h"
 
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+#include "core/DesignRecord.h"
 #include "display/PlotFrame.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+#include "core/DesignRecord.h"
 #include "display/PlotGrid.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,5 @@
+#include "core/DesignRecord.h"
+#include "core/Responses.h"
 #include "display/modPlot.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,5 @@
+#include "core/DesignRecord.h"
+#include "core/Responses.h"
 #include "display/modReadout.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,5 @@
+#include "core/DesignRecord.h"
+#include "core/Responses.h"
 #include "display/modTabulate.h"
 
 #include <gtest/gtest.h>

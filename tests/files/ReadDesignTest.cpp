@@ -1,3 +1,4 @@
+#include "core/Responses.h"
 #include "files/ReadDesign.h"
 
 #include <gtest/gtest.h>

@@ -7,6 +7,7 @@
 #include <memory>
 #include <sstream>
 
+#include "core/Responses.h"
 #include "files/ReadDesign.h"
 #include "files/SampleDesign.h"
 #include "files/WriteDesign.h"

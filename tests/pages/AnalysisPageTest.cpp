@@ -1,3 +1,4 @@
+#include "core/Responses.h"
 #include "desk/StartUp.h"
 #include "pages/PageBench.h"
 #include "pages/PageDirectory.h"

@@ -7,6 +7,7 @@
 #include <fstream>
 #include <sstream>
 
+#include "core/DesignRecord.h"
 #include "shell/Acts.h"
 #include "shell/HeadlessPlatform.h"
 #include "shell/Page.h"

@@ -1,5 +1,6 @@
 #include <algorithm>
 
+#include "core/Responses.h"
 #include "desk/StartUp.h"
 #include "pages/PageBench.h"
 #include "pages/PageDirectory.h"

@@ -1,3 +1,5 @@
+#include "core/DesignRecord.h"
+#include "core/Responses.h"
 #include "reports/PrintTable.h"
 
 #include <gtest/gtest.h>

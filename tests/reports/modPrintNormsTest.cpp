@@ -1,3 +1,4 @@
+#include "core/DesignRecord.h"
 #include "reports/modPrintNorms.h"
 
 #include <gtest/gtest.h>

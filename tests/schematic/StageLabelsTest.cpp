@@ -1,3 +1,4 @@
+#include "core/DesignRecord.h"
 #include "schematic/StageLabels.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+#include "core/ElementTypes.h"
 #include "schematic/Symbols.h"
 
 #include <gtest/gtest.h>

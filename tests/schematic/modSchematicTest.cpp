@@ -1,3 +1,4 @@
+#include "core/DesignRecord.h"
 #include "schematic/modSchematic.h"
 
 #include <gtest/gtest.h>

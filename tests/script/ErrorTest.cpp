@@ -1,4 +1,5 @@
 // Each way in which a command can fail, with the reason that it gives.
+#include "core/DesignRecord.h"
 #include "script/ScriptBench.h"
 
 namespace quilm {

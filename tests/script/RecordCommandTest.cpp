@@ -1,5 +1,7 @@
 #include <limits>
 
+#include "core/DesignRecord.h"
+#include "core/Responses.h"
 #include "script/ScriptBench.h"
 
 namespace quilm {

@@ -1,3 +1,4 @@
+#include "core/DesignRecord.h"
 #include "shell/LongRun.h"
 
 #include <gmock/gmock.h>

@@ -3,6 +3,8 @@
 
 #include <memory>
 
+#include "core/DesignRecord.h"
+#include "core/Responses.h"
 #include "shell/HeadlessPlatform.h"
 #include "shell/Page.h"
 #include "shell/Session.h"

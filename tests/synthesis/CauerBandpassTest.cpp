@@ -5,6 +5,7 @@
 #include <cmath>
 #include <complex>
 
+#include "core/DesignRecord.h"
 #include "core/Fault.h"
 #include "synthesis/CauerPrototype.h"
 #include "synthesis/MakeNetwork.h"

@@ -1,3 +1,4 @@
+#include "core/DesignRecord.h"
 #include "synthesis/DesignSummary.h"
 
 #include <string>

@@ -1,3 +1,4 @@
+#include "core/DesignRecord.h"
 #include "synthesis/NormalizedText.h"
 
 #include <gtest/gtest.h>

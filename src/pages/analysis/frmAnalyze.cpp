@@ -4,6 +4,7 @@
 
 #include "analysis/AnalysisEntries.h"
 #include "analysis/modAnalysis.h"
+#include "core/DesignRecord.h"
 #include "core/EntryLimits.h"
 #include "core/Fault.h"
 #include "core/modGeneral.h"

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <numbers>
 
+#include "core/DesignRecord.h"
 #include "core/EntryLimits.h"
 #include "core/Topology.h"
 #include "core/modGeneral.h"

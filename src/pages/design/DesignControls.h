@@ -4,7 +4,8 @@
 #include <functional>
 #include <string>
 
-#include "core/DesignRecord.h"
+#include "core/RecordFwd.h"
+#include "core/Types.h"
 #include "pages/design/DesignTools.h"
 #include "pages/design/FamilyOptions.h"
 #include "pages/design/TopologyOptions.h"

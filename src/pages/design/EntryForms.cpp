@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "core/DesignRecord.h"
 #include "core/Fault.h"
 #include "core/modGeneral.h"
 #include "network/DesignStanding.h"

@@ -1,5 +1,6 @@
 #include "pages/design/FamilyOptions.h"
 
+#include "core/Identity.h"
 #include "pages/design/FamilyRules.h"
 #include "synthesis/DesignSummary.h"
 

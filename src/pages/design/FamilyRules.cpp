@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "core/Identity.h"
 #include "core/Topology.h"
 
 namespace quilm {
@@ -33,15 +34,15 @@ bool IsOneOf(std::string_view letter, std::string_view letters) {
   return letter.size() == 1 && letters.find(letter) != std::string_view::npos;
 }
 
-bool HasRippleEntry(const FamilyRule& rule, const DesignRecord& record) {
-  return rule.ripple == RippleEntry::Always || (rule.ripple == RippleEntry::EvenOrder && IsEvenOrder(record));
+bool HasRippleEntry(const FamilyRule& rule, const Identity& identity) {
+  return rule.ripple == RippleEntry::Always || (rule.ripple == RippleEntry::EvenOrder && IsEvenOrder(identity));
 }
 
-void AddFamily(DesignView& view, const FamilyRule& rule, const DesignRecord& record) {
-  view.ripple = HasRippleEntry(rule, record);
+void AddFamily(DesignView& view, const FamilyRule& rule, const Identity& identity) {
+  view.ripple = HasRippleEntry(rule, identity);
   view.stopband = rule.stopband;
-  view.cauerType = rule.code == familyCauer && IsEvenOrder(record);
-  view.cauerTop = rule.code == familyCauer && record.Topology == "H";
+  view.cauerType = rule.code == familyCauer && IsEvenOrder(identity);
+  view.cauerTop = rule.code == familyCauer && identity.Topology == "H";
   view.edge = rule.ripple == RippleEntry::None ? "3 dB" : "Ripple";
 }
 
@@ -66,16 +67,16 @@ std::string TopologyUnder(i16 family, const std::string& letter) {
   return Offers(family, letter) ? letter : "A";
 }
 
-bool IsEvenOrder(const DesignRecord& record) { return std::fmod(record.Order, 2.0F) == 0; }
+bool IsEvenOrder(const Identity& identity) { return std::fmod(identity.Order, 2.0F) == 0; }
 
-DesignView ViewOf(const DesignRecord& record) {
+DesignView ViewOf(const Identity& identity) {
   DesignView view;
-  if (const FamilyRule* rule = FindFamily(record.Family)) AddFamily(view, *rule, record);
-  const bool even = IsEvenOrder(record);
+  if (const FamilyRule* rule = FindFamily(identity.Family)) AddFamily(view, *rule, identity);
+  const bool even = IsEvenOrder(identity);
   view.zigZag = even;
-  view.center = !IsLowOrHighpass(record.Topology);
-  view.norton = record.Topology == "E" && !even;
-  view.teeToPi = record.Topology == "G";
+  view.center = !IsLowOrHighpass(identity.Topology);
+  view.norton = identity.Topology == "E" && !even;
+  view.teeToPi = identity.Topology == "G";
   view.bandwidthCaption = view.center ? "Bandwidth (Hz)  (Fc)" : "Cutoff (Hz)  (Fc)";
   return view;
 }

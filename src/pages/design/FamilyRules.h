@@ -5,7 +5,8 @@
 #include <string>
 #include <string_view>
 
-#include "core/DesignRecord.h"
+#include "core/RecordFwd.h"
+#include "core/Types.h"
 
 namespace quilm {
 
@@ -51,8 +52,8 @@ struct DesignView {
   bool operator==(const DesignView&) const = default;
 };
 
-DesignView ViewOf(const DesignRecord& record);
+DesignView ViewOf(const Identity& identity);
 
-bool IsEvenOrder(const DesignRecord& record);
+bool IsEvenOrder(const Identity& identity);
 
 }  // namespace quilm

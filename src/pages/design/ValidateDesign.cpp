@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "core/DesignRecord.h"
 #include "core/EntryLimits.h"
 #include "core/Topology.h"
 #include "network/DesignStanding.h"

@@ -1,5 +1,6 @@
 #include "pages/design/frmAddInfo.h"
 
+#include "core/Identity.h"
 #include "shell/Session.h"
 
 namespace quilm {
@@ -21,12 +22,12 @@ frmAddInfo::frmAddInfo(Session& session) : Page(session, PageId::AddInfo, "Added
 }
 
 void frmAddInfo::Load() {
-  txtAddInfo.text = session_.record.AddedInfo == " " ? "" : session_.record.AddedInfo;
+  txtAddInfo.text = session_.identity.AddedInfo == " " ? "" : session_.identity.AddedInfo;
   SetFocus(txtAddInfo);
 }
 
 void frmAddInfo::Accept() {
-  session_.record.AddedInfo = Kept(txtAddInfo.text);
+  session_.identity.AddedInfo = Kept(txtAddInfo.text);
   session_.pages.UnloadPage(Id());
 }
 

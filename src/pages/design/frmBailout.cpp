@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "core/DesignRecord.h"
 #include "core/EntryLimits.h"
 #include "core/NumberText.h"
 #include "core/Topology.h"

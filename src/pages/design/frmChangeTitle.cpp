@@ -1,5 +1,6 @@
 #include "pages/design/frmChangeTitle.h"
 
+#include "core/Identity.h"
 #include "shell/Session.h"
 
 namespace quilm {
@@ -14,12 +15,12 @@ frmChangeTitle::frmChangeTitle(Session& session) : Page(session, PageId::ChangeT
 }
 
 void frmChangeTitle::Load() {
-  txtTitle.text = session_.record.CircuitTitle;
+  txtTitle.text = session_.identity.CircuitTitle;
   SetFocus(txtTitle);
 }
 
 void frmChangeTitle::Accept() {
-  session_.record.CircuitTitle = txtTitle.text;
+  session_.identity.CircuitTitle = txtTitle.text;
   session_.pages.UnloadPage(Id());
 }
 

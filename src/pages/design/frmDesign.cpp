@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "core/DesignRecord.h"
 #include "core/EntryLimits.h"
 #include "desk/Leaving.h"
 #include "desk/modCheckEntries.h"

@@ -1,5 +1,6 @@
 #include "pages/design/frmEndSections.h"
 
+#include "core/DesignRecord.h"
 #include "core/Fault.h"
 #include "core/modGeneral.h"
 #include "shell/Session.h"

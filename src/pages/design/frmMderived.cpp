@@ -1,5 +1,6 @@
 #include "pages/design/frmMderived.h"
 
+#include "core/DesignRecord.h"
 #include "core/Topology.h"
 #include "core/modGeneral.h"
 #include "shell/Session.h"

@@ -1,5 +1,6 @@
 #include "pages/design/frmSeeNormalized.h"
 
+#include "core/DesignRecord.h"
 #include "core/NumberText.h"
 #include "reports/Report.h"
 #include "reports/modPrintNorms.h"

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "core/Identity.h"
 #include "core/NumericFault.h"
 #include "schematic/LadderPicture.h"
 #include "shell/Session.h"
@@ -15,7 +16,7 @@ frmHelp::frmHelp(Session& session) : Page(session, PageId::Help, "Topologies") {
                        "Mesh capacitor-coupled bandpass", "Cauer (only) bandpass",  "Capacitor-input highpass",
                        "Inductor-input highpass",         "Series-input bandstop",  "Shunt-input bandstop"};
   lstTopology.onClick = [this] {
-    session_.record.TopologyHelpCode = ToI16(lstTopology.selected);
+    session_.identity.TopologyHelpCode = ToI16(lstTopology.selected);
     Draw();
   };
   cmdExit.onClick = [this] { session_.pages.UnloadPage(Id()); };
@@ -25,7 +26,7 @@ frmHelp::frmHelp(Session& session) : Page(session, PageId::Help, "Topologies") {
 
 void frmHelp::Load() {
   const i32 last = static_cast<i32>(lstTopology.items.size());
-  lstTopology.selected = std::clamp<i32>(session_.record.TopologyHelpCode, 1, last);
+  lstTopology.selected = std::clamp<i32>(session_.identity.TopologyHelpCode, 1, last);
   Draw();
 }
 

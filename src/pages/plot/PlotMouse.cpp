@@ -1,5 +1,6 @@
 #include "pages/plot/PlotMouse.h"
 
+#include "core/DesignRecord.h"
 #include "display/SheetDrawing.h"
 #include "display/modReadout.h"
 #include "shell/Session.h"

@@ -1,6 +1,7 @@
 #include "pages/plot/frmPlotted.h"
 
 #include "analysis/modAnalysis.h"
+#include "core/DesignRecord.h"
 #include "desk/Leaving.h"
 #include "display/PlotKinds.h"
 #include "display/PlotScaling.h"

@@ -1,5 +1,6 @@
 #include "pages/schematic/frmSchematic.h"
 
+#include "core/Network.h"
 #include "desk/Leaving.h"
 #include "files/modReadQuilmFiles.h"
 #include "files/modWriteQuilmFile.h"
@@ -50,11 +51,11 @@ void frmSchematic::Load() {
 void frmSchematic::CloseBox() { LeaveByCloseBox(session_); }
 
 void frmSchematic::CutStages() {
-  DesignRecord& record = session_.record;
-  if (record.Stages <= record.StagesMax) return;
-  session_.platform.MessageBox("Only first " + std::to_string(record.StagesMax) + " items used", Buttons::Ok,
+  Network& network = session_.network;
+  if (network.Stages <= network.StagesMax) return;
+  session_.platform.MessageBox("Only first " + std::to_string(network.StagesMax) + " items used", Buttons::Ok,
                                Icon::Information, "");
-  record.Stages = record.StagesMax;
+  network.Stages = network.StagesMax;
 }
 
 void frmSchematic::Choose(SchematicMode mode) {
@@ -73,10 +74,9 @@ void frmSchematic::Scroll(i32 distance) {
 }
 
 void frmSchematic::Draw() {
-  const DesignRecord& record = session_.record;
-  lblEmptyList_.visible = record.Stages < 1;
-  lblNegativePart_.visible = HasNegativePart(record);
-  DrawSchematic(record, view_, picSchematic_.picture);
+  lblEmptyList_.visible = session_.network.Stages < 1;
+  lblNegativePart_.visible = HasNegativePart(session_.network);
+  DrawSchematic(session_.record, view_, picSchematic_.picture);
 }
 
 Layout frmSchematic::MakeLayout() {

@@ -11,7 +11,7 @@ frmSchematicSimple::frmSchematicSimple(Session& session) : Page(session, PageId:
 }
 
 void frmSchematicSimple::Load() {
-  DrawArtwork(session_.record, session_.schematicView.mode, picArtwork_.picture);
+  DrawArtwork(session_.network, session_.schematicView.mode, picArtwork_.picture);
   SetFocus(cmdExit_);
 }
 

@@ -1,5 +1,6 @@
 #include "pages/start/frmExit.h"
 
+#include "core/Network.h"
 #include "files/modWriteQuilmFile.h"
 #include "shell/Session.h"
 #include "shell/modWriteConfig.h"
@@ -23,7 +24,7 @@ frmExit::frmExit(Session& session) : Page(session, PageId::Exit, "Exit ?") {
 
 // With no network there is nothing to ask a file name for.
 void frmExit::SaveAndLeave() {
-  if (session_.record.Stages > 0 && !SaveDesign(session_, "Write Quilm File")) return;
+  if (session_.network.Stages > 0 && !SaveDesign(session_, "Write Quilm File")) return;
   Leave();
 }
 

@@ -2,6 +2,7 @@
 
 #include <filesystem>
 
+#include "core/Identity.h"
 #include "files/modReadQuilmFiles.h"
 #include "files/modWriteQuilmFile.h"
 #include "schematic/LadderPicture.h"
@@ -42,7 +43,7 @@ void frmOpening::ContinueLastSession() {
   std::string path = InProgramFolder(session_, lastSessionFile);
   const Got got = modReadQuilmFiles(session_, path);
   if (got == Got::Failure) return;
-  session_.record.DesignFileName = path;
+  session_.identity.DesignFileName = path;
   GoOn(got);
 }
 

@@ -5,6 +5,7 @@
 #include "analysis/modAnalysis.h"
 #include "core/Fault.h"
 #include "core/NumberText.h"
+#include "core/Sweep.h"
 #include "desk/Leaving.h"
 #include "display/modTabulate.h"
 #include "files/modReadQuilmFiles.h"
@@ -48,7 +49,7 @@ void frmTabulated::CloseBox() { LeaveByCloseBox(session_); }
 
 // More than a sheet is asked for twice.
 bool frmTabulated::PaperIsWanted() {
-  const f32 intervals = session_.record.NrIntervals;
+  const f32 intervals = session_.sweep.NrIntervals;
   if (!(intervals > rowsPerSheet)) return true;
   session_.platform.Beep();
   const std::string lines = ShortText(intervals, LeadingZero::Keep);
