@@ -26,8 +26,8 @@ Json ResponsesEvent(const Identity& identity, const SweepSettings& sweep, const 
 // The event "page": what the user sees of the page.
 Json PageEvent(const Page& page);
 
-// The event "canvas": the operations of a picture by the names of the canvas' members, those of the mark that lies over
-// it, and its named areas. A button has neither mark nor areas.
+// The event "canvas": the operations of a picture by the names of the canvas' members, those of the live layer (as far
+// as they are kept) and of the mark that lie over it, and its named areas. A button has a picture alone.
 Json CanvasEvent(const PictureBox& box);
 Json CanvasEvent(const Button& button);
 

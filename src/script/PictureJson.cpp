@@ -75,9 +75,10 @@ Json ToJson(const TextOp& op) {
   return json;
 }
 
-Json OperationsOf(const Picture& picture) {
+template <class Operations>
+Json ListOf(const Operations& list) {
   Json operations = Json::array();
-  for (const PictureOp& operation : picture.Operations()) {
+  for (const PictureOp& operation : list) {
     operations.push_back(std::visit([](const auto& op) { return ToJson(op); }, operation));
   }
   return operations;
@@ -98,17 +99,15 @@ Json CanvasEvent(const PictureBox& box) {
   for (const HitArea& area : box.areas) areas.push_back(ToJson(area));
   return {{"event", "canvas"},
           {"name", box.name},
-          {"operations", OperationsOf(box.picture)},
-          {"mark", OperationsOf(box.mark)},
+          {"operations", ListOf(box.picture.Operations())},
+          {"live", ListOf(box.live.Present().kept)},
+          {"mark", ListOf(box.mark.Operations())},
           {"areas", std::move(areas)}};
 }
 
 Json CanvasEvent(const Button& button) {
-  return {{"event", "canvas"},
-          {"name", button.name},
-          {"operations", OperationsOf(button.picture)},
-          {"mark", Json::array()},
-          {"areas", Json::array()}};
+  return {{"event", "canvas"},     {"name", button.name},   {"operations", ListOf(button.picture.Operations())},
+          {"live", Json::array()}, {"mark", Json::array()}, {"areas", Json::array()}};
 }
 
 }  // namespace quilm

@@ -144,10 +144,7 @@ const HitArea* PictureBox::FindArea(std::string_view areaName) const {
 Picture PictureBox::AsSeen() const {
   Picture seen = picture;
   for (const PictureOp& operation : live.Present().kept) DrawOperation(operation, seen);
-  const Scale& scale = mark.CurrentScale();
-  if (!mark.Empty()) {
-    mark.ReplayInto(seen, {scale.left, scale.top}, {scale.left + scale.width, scale.top + scale.height});
-  }
+  for (const PictureOp& operation : mark.Operations()) DrawOperation(operation, seen);
   return seen;
 }
 

@@ -55,13 +55,16 @@ void MarkThePlot(Session& session) {
   session.pages.ShowPage(PageId::Design);
   auto& box = static_cast<BenchPage&>(*session.pages.Top()).picPlot;
   box.picture.Line(1, 2, 3, 4, colorBlack);
+  box.live.PSet(7, 8, colorBlue);
   box.mark.SetScale(box.picture.CurrentScale());
   box.mark.PrintAt(5, 6, "readout");
 }
 
-TEST(CanvasCommand, PrintsTheMarkApart) {
+TEST(CanvasCommand, PrintsTheLiveLayerAndTheMarkApart) {
   const Json event = RunText("canvas", MarkThePlot).One("canvas");
   ASSERT_EQ(event["operations"].size(), 1U);
+  ASSERT_EQ(event["live"].size(), 1U);
+  EXPECT_EQ(event["live"][0]["op"], "PSet");
   ASSERT_EQ(event["mark"].size(), 1U);
   EXPECT_EQ(event["mark"][0]["op"], "Print");
   EXPECT_EQ(event["mark"][0]["text"], "readout");

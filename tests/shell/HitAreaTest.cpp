@@ -157,17 +157,20 @@ TEST_F(PictureWithAreas, AfterThePageHasGoneNothingIsReleased) {
   EXPECT_TRUE(heard.empty());
 }
 
-TEST(PictureBox, AsSeenIsThePictureWithItsMarkOverIt) {
+TEST(PictureBox, AsSeenIsThePictureWithWhatLiesOverIt) {
   ShellBench bench;
   PictureBox& box = bench.Show().picPlot;
   box.picture.SetScale({0, 0, 100, 50});
   box.picture.Line(1, 2, 3, 4, colorRed);
   EXPECT_EQ(box.AsSeen(), box.picture);
+  box.live.SetScale({0, 0, 100, 50});
+  box.live.Line(9, 9, 10, 10, colorBlack);
   box.mark.SetScale({0, 0, 100, 50});
   box.mark.DrawMode = PenMode::ExclusiveOr;
   box.mark.PSet(5, 6, colorBlue);
   Picture both({0, 0, 100, 50});
   both.Line(1, 2, 3, 4, colorRed);
+  both.Line(9, 9, 10, 10, colorBlack);
   both.DrawMode = PenMode::ExclusiveOr;
   both.PSet(5, 6, colorBlue);
   EXPECT_EQ(box.AsSeen(), both);
