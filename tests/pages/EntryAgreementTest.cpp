@@ -172,8 +172,10 @@ TEST_F(AfterRules, ADesignReadOverAnotherShowsInAllBoxes) {
       Enter("txtFstop", "77M");
       Enter("txtVSWRTop", "5");
     }
+    record.MatchAccepted = 1;  // of the network that goes
     platform.files = {path};
     Press("cmdGet");
+    EXPECT_EQ(record.MatchAccepted, 0);
     EXPECT_EQ(record.Width, 1e6F);
     EXPECT_EQ(record.Apass, ripple);
     ExpectAgreement(Top());

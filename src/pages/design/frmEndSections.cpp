@@ -26,6 +26,8 @@ void frmEndSections::Load() {
   SetFocus(txtM_);
 }
 
+bool frmEndSections::HasSection() const { return m_ > 0 && m_ < 1 && EndSectionObstacle(session_.record).empty(); }
+
 void frmEndSections::ShowZero() {
   lblZeroValue_.caption.clear();
   if (!HasSection()) return;

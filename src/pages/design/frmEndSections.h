@@ -12,7 +12,8 @@ class frmEndSections : public Page {
   Layout MakeLayout() override;
 
  private:
-  bool HasSection() const { return m_ > 0 && m_ < 1; }
+  // Whether the network takes a section of this m.
+  bool HasSection() const;
   void ShowZero();
   void Accept();
 
