@@ -31,6 +31,14 @@ void PressCloseBox(Session& session, Page& page);
 enum class MouseAct { Down, Move, Up };
 void Mouse(Session& session, PictureBox& box, MouseAct act, f32 x, f32 y, MouseButton button);
 
+// Takes back the last change of the design, or makes the one again that was taken back last: the whole record returns
+// (History.h), and the page where the change was made comes up, loaded anew. Throws ActRefused when there is nothing to
+// take back, and while the history is off.
+void Undo(Session& session);
+void Redo(Session& session);
+bool CanUndo(const Session& session);
+bool CanRedo(const Session& session);
+
 // Runs anything as a handler runs: for the start of the program and for what is no control.
 void RunHandler(Session& session, const std::function<void()>& handler);
 

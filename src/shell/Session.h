@@ -10,6 +10,7 @@
 #include "core/Responses.h"
 #include "core/SchematicView.h"
 #include "core/SmithView.h"
+#include "shell/History.h"
 #include "shell/PageDesk.h"
 #include "shell/Platform.h"
 
@@ -34,6 +35,7 @@ class Session {
   SmithView smithView;
   SchematicView schematicView;
 
+  History history;       // undo and redo
   std::mt19937 random;   // all random numbers of the program come from here
   std::string note;      // what the last action did, for the status line
   int handlerDepth = 0;  // handlers that run just now, one inside the other (see Acts.h)

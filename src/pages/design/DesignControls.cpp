@@ -66,13 +66,16 @@ std::string DesignControls::Hertz(f32 value) { return FormatFrequency(value); }
 std::string DesignControls::Ohms(f32 value) { return FormatResistance(value); }
 std::string DesignControls::Decibels(f32 value) { return FormatValue(value); }
 
-void DesignControls::Fill() {
+void DesignControls::Settle() {
   // A letter that stands for no design is a network entered by hand.
   if (!record_.Topology.empty() && !IsTopologyLetter(record_.Topology)) {
     SettleByHand(record_);
   }
   WholeOrder(record_);
   DeriveStopband(record_);
+}
+
+void DesignControls::Fill() {
   restingCenter_ = 0;
   txtDesignChange.visible = false;
   lblOrder.caption = "Order (N) [" + std::to_string(record_.OrderMax) + " max]";

@@ -39,6 +39,10 @@ class DesignControls {
   EntryField Stopband() { return {txtStopbandFreq, record_.Fstopband, Hertz}; }
   EntryField Depth() { return {txtStopbandDepth, record_.Astop, Decibels}; }
 
+  // What a design that comes from elsewhere needs before it is shown: a whole order, the stopband edge of its
+  // prototype, and the manual family when its letter stands for no design.
+  void Settle();
+
   // Rebuilds everything from the record.
   void Fill();
 

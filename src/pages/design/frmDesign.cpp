@@ -94,6 +94,12 @@ void frmDesign::ConnectButtons() {
 }
 
 void frmDesign::Load() {
+  const History::Following following(session_);
+  controls_.Settle();
+  Reload();
+}
+
+void frmDesign::Reload() {
   controls_.Fill();
   session_.familyOption = controls_.families.Chosen();
   navigation_.Load();
@@ -217,6 +223,7 @@ void frmDesign::AddEnds() {
 }
 
 bool frmDesign::MakeNetwork() {
+  const History::Following following(session_);
   ValidateDesign(session_, controls_);
   if (!CheckEntries(session_)) return false;
   ComputeNormalized(session_);
