@@ -37,6 +37,9 @@ class EntryBox : public QLineEdit {
   void Typed(const QString& text);
   bool StepAtCursor(int direction);
   bool Restore();
+  void ReplaceText(const QString& shown);
+  void ForgetTyping();
+  bool IsForDesign(const QKeyEvent& press) const;
 
   QString before_;  // when the box was entered
   bool touched_ = false;

@@ -8,10 +8,12 @@
 #include <algorithm>
 
 #include "app/EntryView.h"
+#include "app/HistoryButton.h"
 #include "app/LayoutBuilder.h"
 #include "app/Mnemonics.h"
 #include "app/PictureView.h"
 #include "app/QtText.h"
+#include "shell/Acts.h"
 #include "shell/Page.h"
 
 namespace quilm {
@@ -111,6 +113,9 @@ void PageView::AddShortcuts() {
     auto* shortcut = new QShortcut(key.keys, this);
     connect(shortcut, &QShortcut::activated, this, [this, name = key.control] { PressNamed(name); });
   }
+  // A box takes these keys for itself while it has something of its own to take back.
+  connect(new QShortcut(UndoKeys(), this), &QShortcut::activated, this, [this] { Press(Undo); });
+  connect(new QShortcut(RedoKeys(), this), &QShortcut::activated, this, [this] { Press(Redo); });
   auto* copy = new QShortcut(QKeySequence::Copy, this);
   connect(copy, &QShortcut::activated, this, [this] {
     if (const PictureView* picture = PictureToCopy()) picture->Copy();
