@@ -3,15 +3,13 @@
 #include <algorithm>
 #include <cmath>
 
+#include "core/EntryLimits.h"
 #include "core/NumericFault.h"
 #include "core/modGeneral.h"
 
 namespace quilm {
 
 namespace {
-
-constexpr f32 highestDelay = 6;
-constexpr f32 highestImpedance = 600000;
 
 f32 AboveZero(f32 configured, f32 otherwise) { return configured > 0 ? configured : otherwise; }
 
@@ -21,8 +19,8 @@ f32 DelayOfDesign(const DesignRecord& record, f32 configured, f32 otherwise) {
 }
 
 f32 ReferenceOf(const DesignRecord& record) {
-  if (record.Rsource[1] > 0.01F) return record.Rsource[1];
-  if (record.Rload[1] > 0.01F) return record.Rload[1];
+  if (record.Rsource[1] > limitsOf::leastEntered) return record.Rsource[1];
+  if (record.Rload[1] > limitsOf::leastEntered) return record.Rload[1];
   return 50;
 }
 
@@ -34,8 +32,9 @@ void FillMissingEntries(DesignRecord& record, const Configuration& configuration
   if (record.Fstop <= 0) record.Fstop = AboveZero(configured[lineFstop], 100000000);
   if (record.NrIntervals <= 0) record.NrIntervals = AboveZero(configured[lineNrIntervals], 1000);
   record.SweepMode = std::clamp<i16>(record.SweepMode, 1, 2);
-  if (record.NrXints < 1) record.NrXints = ToI16(static_cast<f64>(AboveZero(configured[lineNrXints], 10)));
-  if (record.NrYints < 1) record.NrYints = AboveZero(configured[lineNrYints], 6);
+  if (record.NrXints < limitsOf::NrXints.lowest)
+    record.NrXints = ToI16(static_cast<f64>(AboveZero(configured[lineNrXints], 10)));
+  if (record.NrYints < limitsOf::NrYintsAtSpin.lowest) record.NrYints = AboveZero(configured[lineNrYints], 6);
   if (record.LossBottom >= 0) record.LossBottom = configured[lineLossBottom] < 0 ? configured[lineLossBottom] : -60;
   if (record.DelayTop == 0) record.DelayTop = DelayOfDesign(record, configured[lineDelayTop], 0.001F);
   if (record.ImpedanceTop <= 0) record.ImpedanceTop = AboveZero(configured[lineImpedanceTop], 120);
@@ -45,19 +44,19 @@ void FillMissingEntries(DesignRecord& record, const Configuration& configuration
 }
 
 void HoldAnalysisEntries(DesignRecord& record, const Configuration& configuration) {
-  record.NrYints = std::clamp(std::nearbyint(record.NrYints), 4.0F, 30.0F);
-  record.NrXints = std::clamp<i16>(record.NrXints, 1, 30);
-  record.NrIntervals = std::clamp(record.NrIntervals, 4.0F, 2049.0F);
-  record.LossBottom = std::clamp(-std::fabs(record.LossBottom), -120.0F, -0.6F);
+  record.NrYints = limitsOf::NrYints.Held(std::nearbyint(record.NrYints));
+  record.NrXints = static_cast<i16>(limitsOf::NrXints.Held(record.NrXints));
+  record.NrIntervals = limitsOf::NrIntervals.Held(record.NrIntervals);
+  record.LossBottom = limitsOf::LossBottom.Held(-std::fabs(record.LossBottom));
   if (record.DelayTop <= 0) {
     record.DelayTop = DelayOfDesign(record, configuration.ConfigValue[lineDelayTop], 0.0012F);
   }
-  record.DelayTop = std::min(record.DelayTop, highestDelay);
-  record.VSWRTop = std::clamp(record.VSWRTop, 1.05F, 7.0F);
-  record.Qind[1] = std::clamp(record.Qind[1], 2.0F, 1e7F);
-  record.Qcap[1] = std::clamp(record.Qcap[1], 2.0F, 1e7F);
-  if (record.Rsource[1] > 0.01F) {
-    record.ImpedanceTop = std::min(record.ImpedanceTop, highestImpedance);
+  record.DelayTop = limitsOf::DelayTop.Held(record.DelayTop);
+  record.VSWRTop = limitsOf::VSWRTop.Held(record.VSWRTop);
+  record.Qind[1] = limitsOf::Q.Held(record.Qind[1]);
+  record.Qcap[1] = limitsOf::Q.Held(record.Qcap[1]);
+  if (record.Rsource[1] > limitsOf::leastEntered) {
+    record.ImpedanceTop = limitsOf::ImpedanceTop.Held(record.ImpedanceTop);
     if (record.ImpedanceTop < record.Rsource[1]) record.ImpedanceTop = 2 * record.Rsource[1];
   }
 }

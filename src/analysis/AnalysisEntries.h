@@ -13,8 +13,8 @@ namespace quilm {
 void FillMissingEntries(DesignRecord& record, const Configuration& configuration);
 
 // Forces the scales, Q values and counts into their ranges before a plot or a table; the design's own entries and the
-// sweep limits are CheckEntries' affair. Order of the rules and the default of the delay scale differ from the page's
-// on purpose.
+// sweep limits are CheckEntries' affair. The default of the delay scale is not the page's: the page offers a round
+// figure, 1 ms, to be changed, while here nobody is asked and 1.2 ms makes six round intervals.
 void HoldAnalysisEntries(DesignRecord& record, const Configuration& configuration);
 
 // What one interval of a scale is worth, as the labels under the boxes say it.

@@ -1,38 +1,28 @@
 #include "analysis/Kernel.h"
 
 #include <algorithm>
+#include <array>
+#include <cstdlib>
+#include <string_view>
 
-#include "analysis/KernelBody.h"
 #include "analysis/KernelVariants.h"
+#include "core/Responses.h"
 
 namespace quilm {
 
 namespace {
 
-EvaluateRange* VariantOf(VectorWidth width) {
-#if defined(__x86_64__)
-  if (width == VectorWidth::Bits512) return EvaluateAvx512;
-  if (width == VectorWidth::Bits256) return EvaluateAvx2;
-#else
-  static_cast<void>(width);
-#endif
-  return EvaluateBaseline;
-}
+constexpr std::array<VectorWidth, 3> widestFirst = {VectorWidth::Bits512, VectorWidth::Bits256, VectorWidth::Baseline};
 
-VectorWidth Widest() {
-  for (const VectorWidth width : {VectorWidth::Bits512, VectorWidth::Bits256}) {
-    if (HasVectors(width)) return width;
+std::string_view NameOf(VectorWidth width) {
+  switch (width) {
+    case VectorWidth::Bits512:
+      return "512";
+    case VectorWidth::Bits256:
+      return "256";
+    default:
+      return "128";
   }
-  return VectorWidth::Baseline;
-}
-
-void Run(EvaluateRange* variant, const Ladder& ladder, std::span<const f32> frequencies, std::span<Figures> figures) {
-  if (ladder.failsEverywhere) {
-    std::fill(figures.begin(), figures.end(), Figures{});
-    return;
-  }
-  const CompiledStage* first = ladder.stages.data();
-  variant(ladder, {first, first + ladder.stages.size()}, frequencies.data(), frequencies.size(), figures.data());
 }
 
 }  // namespace
@@ -47,20 +37,53 @@ bool HasVectors(VectorWidth width) {
 #endif
 }
 
-void Evaluate(const Ladder& ladder, std::span<const f32> frequencies, std::span<Figures> figures) {
-  static EvaluateRange* const variant = VariantOf(Widest());
-  Run(variant, ladder, frequencies, figures);
+VectorWidth WidthFor(const char* wish) {
+  const std::string_view name = wish == nullptr ? "" : wish;
+  for (const VectorWidth width : widestFirst) {
+    if (NameOf(width) == name && HasVectors(width)) return width;
+  }
+  return *std::find_if(widestFirst.begin(), widestFirst.end(), HasVectors);
 }
 
-void EvaluateWith(VectorWidth width, const Ladder& ladder, std::span<const f32> frequencies,
-                  std::span<Figures> figures) {
-  Run(VariantOf(width), ladder, frequencies, figures);
+VectorWidth DefaultWidth() {
+  static const VectorWidth width = WidthFor(std::getenv("QUILM_VECTORS"));
+  return width;
+}
+
+const Kernel& KernelFor(VectorWidth width) {
+#if defined(__x86_64__)
+  if (width == VectorWidth::Bits512) return kernelAvx512;
+  if (width == VectorWidth::Bits256) return kernelAvx2;
+#else
+  static_cast<void>(width);
+#endif
+  return kernelBaseline;
+}
+
+void Evaluate(const Ladder& ladder, std::span<const f32> frequencies, std::span<Figures> figures, VectorWidth width) {
+  std::fill(figures.begin(), figures.end(), Figures{});
+  if (ladder.failsEverywhere) return;
+  std::array<f64, sweepPadding> w{};
+  std::array<f64, sweepPadding> wInverse{};
+  for (std::size_t first = 0; first < frequencies.size(); first += sweepPadding) {
+    const std::size_t count = std::min<std::size_t>(sweepPadding, frequencies.size() - first);
+    for (std::size_t i = 0; i < count; ++i) {
+      w[i] = AngularFrequency(frequencies[first + i]);
+      wInverse[i] = ReciprocalForKernel(w[i]);
+    }
+    KernelFor(width).evaluateFigures(RangeOf(ladder, w.data(), wInverse.data(), static_cast<int>(count)),
+                                     &figures[first]);
+    for (std::size_t i = 0; i < count; ++i) {
+      Figures& at = figures[first + i];
+      if (at.reached != reachedAll) at = EvaluateSingle(ladder, w[i], wInverse[i]);
+    }
+  }
 }
 
 Figures EvaluateOne(const Ladder& ladder, f32 frequency) {
-  Figures figures;
-  Run(EvaluateSingle, ladder, {&frequency, 1}, {&figures, 1});
-  return figures;
+  if (ladder.failsEverywhere) return {};
+  const f64 w = AngularFrequency(frequency);
+  return EvaluateSingle(ladder, w, ReciprocalForKernel(w));
 }
 
 }  // namespace quilm

@@ -1,4 +1,5 @@
-// Evaluates a compiled ladder at frequencies, many at a time.
+// Evaluates a compiled ladder at frequencies, many at a time. The same bits come out whatever the processor's vector
+// width and however the frequencies are grouped.
 #pragma once
 
 #include <span>
@@ -28,18 +29,30 @@ struct Figures {
   i32 reached = reachedNothing;
 };
 
-// The figures at each frequency (Hz) into `figures`, which is as long. The same bits come out whatever the processor's
-// vector width and however the frequencies are grouped.
-void Evaluate(const Ladder& ladder, std::span<const f32> frequencies, std::span<Figures> figures);
+// The vectors that the kernel is built for: 2 lanes on any processor, 4, 8.
+enum class VectorWidth { Baseline = 128, Bits256 = 256, Bits512 = 512 };
 
-// The same with a given implementation, for tests and benchmarks. Asking for one that this processor lacks is an error
-// of the caller.
-enum class VectorWidth { Baseline, Bits256, Bits512 };
+// Whether this processor has them.
 bool HasVectors(VectorWidth width);
-void EvaluateWith(VectorWidth width, const Ladder& ladder, std::span<const f32> frequencies,
-                  std::span<Figures> figures);
+
+// The width that `wish` ("512", "256" or "128") names, if this processor has it; otherwise the widest that it has. A
+// null pointer wishes nothing.
+VectorWidth WidthFor(const char* wish);
+
+// The width used unless told otherwise: WidthFor the environment variable QUILM_VECTORS, which narrows it for
+// measurements and for looking into a difference between machines. Decided once in the program's run.
+VectorWidth DefaultWidth();
+
+// The figures at each frequency (Hz) into `figures`, which is as long. Asking for a width that this processor lacks is
+// an error of the caller.
+void Evaluate(const Ladder& ladder, std::span<const f32> frequencies, std::span<Figures> figures,
+              VectorWidth width = DefaultWidth());
 
 // One frequency in a lane of its own.
 Figures EvaluateOne(const Ladder& ladder, f32 frequency);
+
+// The angular frequency (rad/s) of a frequency, and the reciprocal that the kernel takes with it: 1 for 0.
+inline f64 AngularFrequency(f32 frequency) { return 6.283185307179586 * static_cast<f64>(frequency); }
+inline f64 ReciprocalForKernel(f64 w) { return 1 / (w == 0 ? 1 : w); }
 
 }  // namespace quilm

@@ -3,7 +3,6 @@
 #if defined(__x86_64__)
 
 #include "analysis/KernelBody.h"
-#include "analysis/KernelVariants.h"
 
 namespace quilm {
 
@@ -13,10 +12,7 @@ struct Avx2 {};
 
 }  // namespace
 
-void EvaluateAvx2(const Ladder& ladder, const StageRange& stages, const f32* frequencies, std::size_t count,
-                  Figures* figures) {
-  EvaluateAll<Avx2, 8>(ladder, stages, frequencies, count, figures);
-}
+const Kernel kernelAvx2 = KernelBody<Avx2, 4, 4>::kernel;
 
 }  // namespace quilm
 

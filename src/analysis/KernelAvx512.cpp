@@ -3,7 +3,6 @@
 #if defined(__x86_64__)
 
 #include "analysis/KernelBody.h"
-#include "analysis/KernelVariants.h"
 
 namespace quilm {
 
@@ -13,10 +12,7 @@ struct Avx512 {};
 
 }  // namespace
 
-void EvaluateAvx512(const Ladder& ladder, const StageRange& stages, const f32* frequencies, std::size_t count,
-                    Figures* figures) {
-  EvaluateAll<Avx512, 8>(ladder, stages, frequencies, count, figures);
-}
+const Kernel kernelAvx512 = KernelBody<Avx512, 8, 4>::kernel;
 
 }  // namespace quilm
 

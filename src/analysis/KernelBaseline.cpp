@@ -1,7 +1,6 @@
-// The kernel for any processor of the architecture.
+// The kernel for any processor of the architecture: two lanes, and one for single points.
 
 #include "analysis/KernelBody.h"
-#include "analysis/KernelVariants.h"
 
 namespace quilm {
 
@@ -11,14 +10,17 @@ struct Baseline {};
 
 }  // namespace
 
-void EvaluateBaseline(const Ladder& ladder, const StageRange& stages, const f32* frequencies, std::size_t count,
-                      Figures* figures) {
-  EvaluateAll<Baseline, 8>(ladder, stages, frequencies, count, figures);
+const Kernel kernelBaseline = KernelBody<Baseline, 2, 4>::kernel;
+
+Figures EvaluateSingle(const Ladder& ladder, f64 w, f64 wInverse) {
+  Figures figures;
+  KernelBody<Baseline, 1, 1>::EvaluateFigures(RangeOf(ladder, &w, &wInverse, 1), &figures);
+  return figures;
 }
 
-void EvaluateSingle(const Ladder& ladder, const StageRange& stages, const f32* frequencies, std::size_t count,
-                    Figures* figures) {
-  EvaluateAll<Baseline, 1>(ladder, stages, frequencies, count, figures);
+void ExponentialsOf(f64* values, int count) {
+  using P = Pack<Baseline, 2, 4>;
+  for (int i = 0; i < count; i += P::points) Exp(P::Load(values + i)).Store(values + i);
 }
 
 }  // namespace quilm

@@ -1,7 +1,9 @@
 #include "analysis/Ladder.h"
 
+#include <algorithm>
 #include <cmath>
 
+#include "core/ElementCatalogue.h"
 #include "core/NumericFault.h"
 
 namespace quilm {
@@ -30,6 +32,9 @@ struct Compiler {
   void LineOf(CompiledStage& out, const Stage& stage, StageForm form, bool open);
   void TransformerOf(CompiledStage& out, const Stage& stage);
   void Coil(CompiledStage& out, const Stage& stage);
+  void InLine(CompiledStage& out, const Stage& stage, const Element& element);
+  void ToCommon(CompiledStage& out, const Stage& stage, const Element& element);
+  void SideBySide(CompiledStage& out, const Stage& stage, const Element& element);
   bool Take(CompiledStage& out, const Stage& stage);
 };
 
@@ -150,73 +155,85 @@ void Compiler::Coil(CompiledStage& out, const Stage& stage) {
   out.leakage = (L1 * L2 - out.M * out.M) / out.M;
 }
 
+// A single part has a formula of its own.
+void Compiler::InLine(CompiledStage& out, const Stage& stage, const Element& element) {
+  const bool inductor = element.Has(SlotCode::Inductance);
+  const bool capacitor = element.Has(SlotCode::Capacitance);
+  if (inductor && capacitor) return SeriesPair(out, stage);
+  if (capacitor) return SeriesCapacitor(out, stage);
+  if (!inductor) {
+    out.r = stage.Rval.value;
+    return;
+  }
+  Inductor(out, stage);
+  out.r = std::fabs(out.r);
+}
+
+void Compiler::ToCommon(CompiledStage& out, const Stage& stage, const Element& element) {
+  const bool inductor = element.Has(SlotCode::Inductance);
+  const bool capacitor = element.Has(SlotCode::Capacitance);
+  if (inductor && capacitor) {
+    return ShuntSeriesPair(out, stage, element.Has(SlotCode::Resistance) ? stage.Rval.value : 0);
+  }
+  if (inductor) return ShuntInductor(out, stage);
+  if (capacitor) return ShuntCapacitor(out, stage);
+  out.form = StageForm::ShuntArm;
+  if (!ReciprocalIn32Bits(stage.Rval.value, out.g)) fails = true;
+}
+
+void Compiler::SideBySide(CompiledStage& out, const Stage& stage, const Element& element) {
+  Tank(out, stage, element.placement == Placement::Series ? StageForm::SeriesTank : StageForm::ShuntTank);
+  if (!element.Has(SlotCode::Resistance)) return;
+  if (stage.Rval.value == 0) fails = true;
+  out.g += 1 / static_cast<f64>(stage.Rval.value);
+}
+
 // False for a stage that passes the signal unchanged.
 bool Compiler::Take(CompiledStage& out, const Stage& stage) {
-  switch (stage.ElementType) {
-    case SeriesL:
-      Inductor(out, stage);
-      out.r = std::fabs(out.r);
-      return true;
-    case ShuntL:
-      ShuntInductor(out, stage);
-      return true;
-    case SeriesC:
-      SeriesCapacitor(out, stage);
-      return true;
-    case ShuntC:
-      ShuntCapacitor(out, stage);
-      return true;
-    case SeriesSLC:
-      SeriesPair(out, stage);
-      return true;
-    case ShuntSLC:
-      ShuntSeriesPair(out, stage, 0);
-      return true;
-    case SeriesPLC:
-      Tank(out, stage, StageForm::SeriesTank);
-      return true;
-    case ShuntPLC:
-      Tank(out, stage, StageForm::ShuntTank);
-      return true;
-    case SeriesR:
-      out.r = stage.Rval.value;
-      return true;
-    case ShuntR:
-      out.form = StageForm::ShuntArm;
-      if (!ReciprocalIn32Bits(stage.Rval.value, out.g)) fails = true;
-      return true;
-    case TransLine:
+  const Element* element = FindElement(stage.ElementType);
+  if (element == nullptr) return false;
+  const bool series = element->placement == Placement::Series;
+  switch (element->joint) {
+    case Joint::Chain:
+      series ? InLine(out, stage, *element) : ToCommon(out, stage, *element);
+      break;
+    case Joint::Parallel:
+      SideBySide(out, stage, *element);
+      break;
+    case Joint::Line:
       LineOf(out, stage, StageForm::Line, false);
-      return true;
-    case SeriesShortStub:
-      LineOf(out, stage, StageForm::SeriesStub, false);
-      return true;
-    case SeriesOpenStub:
-      LineOf(out, stage, StageForm::SeriesStub, true);
-      return true;
-    case ShuntShortStub:
-      LineOf(out, stage, StageForm::ShuntStub, false);
-      return true;
-    case ShuntOpenStub:
-      LineOf(out, stage, StageForm::ShuntStub, true);
-      return true;
-    case Transformer:
+      break;
+    case Joint::ShortStub:
+    case Joint::OpenStub:
+      LineOf(out, stage, series ? StageForm::SeriesStub : StageForm::ShuntStub, element->joint == Joint::OpenStub);
+      break;
+    case Joint::Transformer:
       TransformerOf(out, stage);
-      return true;
-    case CoupledInductors:
+      break;
+    case Joint::Coupled:
       Coil(out, stage);
-      return true;
-    case ShuntRLC:
-      ShuntSeriesPair(out, stage, stage.Rval.value);
-      return true;
-    case SeriesRLC:
-      Tank(out, stage, StageForm::SeriesTank);
-      if (stage.Rval.value == 0) fails = true;
-      out.g += 1 / static_cast<f64>(stage.Rval.value);
-      return true;
-    default:
+      break;
+    case Joint::Reactance:
       return false;
   }
+  return true;
+}
+
+StageForm Simplest(const CompiledStage& s) {
+  const bool inductor = s.rc == 0 && s.x == 0 && s.xc == 0;
+  const bool capacitor = s.r == 0 && s.x == 0 && s.xl == 0;
+  if (s.form == StageForm::SeriesArm && inductor) return StageForm::SeriesInductor;
+  if (s.form == StageForm::SeriesArm && capacitor) return StageForm::SeriesCapacitor;
+  if (s.form == StageForm::ShuntArm && s.g == 0 && s.b == 0) return StageForm::ShuntCapacitor;
+  if (s.form == StageForm::ShuntSeries && inductor && !s.guardsZeroX) return StageForm::ShuntInductor;
+  return s.form;
+}
+
+// Signs that hold at every frequency spare the kernel its tests. (A sum of losses can vanish only with a negative
+// part.)
+bool IsLossy(const CompiledStage& s) {
+  if (s.form == StageForm::ShuntSeries) return s.r > 0 && s.rc >= 0;
+  return s.Rs > 0 && s.g >= 0 && s.gc >= 0;
 }
 
 }  // namespace
@@ -235,9 +252,12 @@ Ladder Compile(const DesignRecord& record, f32 Fq) {
   ladder.Rsource = record.Rsource[1];
   ladder.Rload = record.Rload[1];
   ladder.Rstandard = record.Rstandard;
+  ladder.stages.reserve(static_cast<std::size_t>(std::max<i16>(record.Stages, 0)));
   for (int s = record.Stages; s >= 1; --s) {
     CompiledStage compiled;
     if (!compiler.Take(compiled, record.stage[s])) continue;
+    compiled.lossy = IsLossy(compiled);
+    compiled.form = Simplest(compiled);
     ladder.failsAtZero = ladder.failsAtZero || compiled.failsAtZero;
     ladder.stages.push_back(compiled);
   }

@@ -14,16 +14,21 @@
 
 namespace quilm {
 
-// The 19 element types come down to these forms.
+// The 19 element types come down to these forms. Single inductors and capacitors have forms of their own, which spare
+// the kernel the sums with zeros.
 enum class StageForm : i16 {
-  SeriesArm,    // Z = r + rc |1/w| + j (x + xl w + xc / w) in the line
-  ShuntArm,     // Y = g + gc |w| + j (b + bc w) to common
-  ShuntSeries,  // the reciprocal of such a Z to common
-  SeriesTank,   // a lossy inductor beside conductances and a capacitor, in the line
-  ShuntTank,    // the same to common
-  Line,         // a piece of transmission line
-  SeriesStub,   // j z tan t, or -j z / tan t when open, in the line
-  ShuntStub,    // j tan t / z, or -j / (z tan t) when shorted, to common
+  SeriesArm,        // Z = r + rc |1/w| + j (x + xl w + xc / w) in the line
+  SeriesInductor,   // r + j xl w
+  SeriesCapacitor,  // rc |1/w| + j xc / w
+  ShuntArm,         // Y = g + gc |w| + j (b + bc w) to common
+  ShuntCapacitor,   // gc |w| + j bc w
+  ShuntSeries,      // the reciprocal of such a Z to common
+  ShuntInductor,
+  SeriesTank,  // a lossy inductor beside conductances and a capacitor, in the line
+  ShuntTank,   // the same to common
+  Line,        // a piece of transmission line
+  SeriesStub,  // j z tan t, or -j z / tan t when open, in the line
+  ShuntStub,   // j tan t / z, or -j / (z tan t) when shorted, to common
   Transformer,
   Coupled,
 };
@@ -34,6 +39,7 @@ struct CompiledStage {
   bool failsAtZero = false;   // at w = 0
   bool guardsZeroX = false;   // ShuntSeries: a reactance of exactly 0 becomes 1e-10
   bool open = false;          // stubs: without a short at the end
+  bool lossy = false;         // tanks, ShuntSeries: conductance or resistance is above 0 at every frequency
   f64 r = 0, rc = 0;          // ohms, ohms * rad/s
   f64 x = 0, xl = 0, xc = 0;  // ohms, henries, ohms * rad/s
   f64 g = 0, gc = 0;          // siemens, siemens per rad/s

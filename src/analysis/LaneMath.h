@@ -1,7 +1,12 @@
-// Arithmetic on a fixed number of lanes, each rounded as plain 64-bit arithmetic is: N lanes give the bits of one.
+// Arithmetic on many points at once, each rounded as plain 64-bit arithmetic is: any number of lanes gives the bits of
+// one.
+//
+// A pack is K vectors of N lanes. N is what the processor's registers hold: wider vectors would be taken apart into
+// single lanes for comparisons and selections. With K vectors side by side each step of a long chain of operations has
+// K independent ones to work on, so that the chain does not wait for itself.
 //
 // Included only by the kernels, each compiled for another processor: nothing here may become a function of its own that
-// the linker could share between them. Hence the parameter Target, and everything inline.
+// the linker could share between them. Hence the parameter Target, a type of the including source's own.
 #pragma once
 
 #include <cstdint>
@@ -13,110 +18,144 @@
 
 namespace quilm {
 
-// The vector types: N numbers, and the masks that comparing them gives.
+// The vector types: N numbers, their bits, the masks that comparing them gives, and N numbers of 32 bits.
 template <int N>
-struct VectorOf;
-
-template <>
-struct VectorOf<1> {
-  using V [[gnu::vector_size(8)]] = f64;
-  using M [[gnu::vector_size(8)]] = std::int64_t;
+struct VectorOf {
+  using V [[gnu::vector_size(8 * N)]] = f64;
+  using U [[gnu::vector_size(8 * N)]] = std::uint64_t;
+  using M [[gnu::vector_size(8 * N)]] = std::int64_t;
+  using V32 [[gnu::vector_size(4 * N)]] = f32;
 };
 
-template <>
-struct VectorOf<8> {
-  using V [[gnu::vector_size(64)]] = f64;
-  using M [[gnu::vector_size(64)]] = std::int64_t;
-};
+// What `act` gives for each vector of a pack, without a loop, so that all of them stay in registers.
+template <class Result, class Act>
+[[gnu::always_inline]] inline Result EachVector(Act act) {
+  Result result;
+  result.v[0] = act(0);
+  if constexpr (Result::vectors >= 2) result.v[1] = act(1);
+  if constexpr (Result::vectors >= 4) {
+    result.v[2] = act(2);
+    result.v[3] = act(3);
+  }
+  return result;
+}
 
-template <class Target, int N>
-struct Lanes {
-  using V = typename VectorOf<N>::V;
+// True or false for each point.
+template <class Target, int N, int K>
+struct Mask {
+  static constexpr int vectors = K;
   using M = typename VectorOf<N>::M;
+  M v[K];
 
-  // A constant in all lanes.
-  [[gnu::always_inline]] static inline V All(f64 x) { return x - V{}; }
-
-  [[gnu::always_inline]] static inline V Abs(V x) {
-    const M magnitude = ~(M{} + INT64_MIN);
-    return (V)((M)x & magnitude);
+  [[gnu::always_inline]] friend inline Mask operator|(const Mask& a, const Mask& b) {
+    return EachVector<Mask>([&](int k) { return a.v[k] | b.v[k]; });
+  }
+  [[gnu::always_inline]] friend inline Mask operator&(const Mask& a, const Mask& b) {
+    return EachVector<Mask>([&](int k) { return a.v[k] & b.v[k]; });
+  }
+  [[gnu::always_inline]] friend inline Mask operator~(const Mask& a) {
+    return EachVector<Mask>([&](int k) { return ~a.v[k]; });
+  }
+  [[gnu::always_inline]] static inline Mask None() {
+    return EachVector<Mask>([](int) { return M{}; });
   }
 
-  // x with the sign of s.
-  [[gnu::always_inline]] static inline V WithSign(V x, V s) {
-    const M sign = M{} + INT64_MIN;
-    return (V)(((M)x & ~sign) | ((M)s & sign));
-  }
-
-  [[gnu::always_inline]] static inline V Sqrt(V x) {
-    V root;
-    for (int i = 0; i < N; ++i) root[i] = __builtin_sqrt(x[i]);
-    return root;
-  }
-
-  [[gnu::always_inline]] static inline M IsFinite(V x) {
-    const M exponent = M{} + 0x7FF0000000000000;
-    return ((M)x & exponent) != exponent;
-  }
-
-  [[gnu::always_inline]] static inline bool Any(M mask) {
+  [[gnu::always_inline]] inline bool Any() const {
+    M any = v[0];
+    for (int k = 1; k < K; ++k) any |= v[k];
     std::int64_t bits = 0;
-    for (int i = 0; i < N; ++i) bits |= mask[i];
+    for (int i = 0; i < N; ++i) bits |= any[i];
     return bits != 0;
   }
+  [[gnu::always_inline]] inline bool At(int point) const { return v[point / N][point % N] != 0; }
+};
 
-  // Natural logarithm of a positive normal number. With x = 2^k m, m within a factor sqrt(2) of 1 and
-  // s = (m - 1) / (m + 1): ln m = 2 artanh s = 2 (s + s^3/3 + s^5/5 + ...). |s| is below 0.1716, so twelve terms leave
-  // less than a unit in the last place.
-  [[gnu::always_inline]] static inline V Log(V x) {
-    const M rootHalf = M{} + 0x3FE6A09E667F3BCD;
-    const M mantissa = M{} + 0x000FFFFFFFFFFFFF;
-    const M bits = (M)x - rootHalf;
-    const M k = bits >> 52;
-    const V m = (V)((bits & mantissa) + rootHalf);
-    const V s = (m - 1) / (m + 1);
-    const V z = s * s;
-    V series = All(1.0 / 25);
-    for (int odd = 23; odd >= 3; odd -= 2) series = series * z + 1.0 / odd;
-    const V power = ToFloat(k);
-    // ln 2 in two parts, the first with zeros at its end, so that its multiples are exact.
-    constexpr f64 ln2High = 0x1.62e42fefa3800p-1;
-    constexpr f64 ln2Low = 0x1.ef35793c76730p-45;
-    return power * ln2High + ((s + s) + ((s + s) * z * series + power * ln2Low));
+// A 64-bit number for each point.
+template <class Target, int N, int K>
+struct Pack {
+  static_assert(K == 1 || K == 2 || K == 4);
+  static constexpr int vectors = K;
+  static constexpr int points = N * K;
+  using V = typename VectorOf<N>::V;
+  using U = typename VectorOf<N>::U;
+  using V32 = typename VectorOf<N>::V32;
+  using M = Mask<Target, N, K>;
+  V v[K];
+
+  Pack() = default;
+  // The same number for all.
+  [[gnu::always_inline]] inline Pack(f64 x) {
+    for (int k = 0; k < K; ++k) v[k] = x - V{};
   }
 
-  // Arc tangent of y / x, within -Pi/2..Pi/2; x and y not both 0. The ratio is folded below tan(Pi/8) and the power
-  // series taken from there.
-  [[gnu::always_inline]] static inline V ArcTangent(V y, V x) {
-    constexpr f64 eighth = 0.41421356237309503;  // tan(Pi / 8)
-    constexpr f64 quarterPi = 0.78539816339744828;
-    constexpr f64 halfPi = 1.5707963267948966;
-    constexpr f64 halfPiLow = 6.123233995736766e-17;
-    const V n = Abs(y);
-    const V d = Abs(x);
-    const M steep = n > d;
-    const V small = steep ? d : n;
-    const V large = steep ? n : d;
-    const M folded = small > eighth * large;
-    const V top = folded ? small - large : small;
-    const V bottom = folded ? small + large : large;
-    const V t = top / bottom;
-    const V z = t * t;
-    V series = All(1.0 / 45);
-    for (int odd = 43; odd >= 3; odd -= 2) series = 1.0 / odd - series * z;
-    V angle = t - t * z * series;
-    angle = folded ? angle + quarterPi : angle;
-    angle = steep ? halfPi - (angle - halfPiLow) : angle;
-    // The sign of the ratio.
-    return WithSign(angle, (V)((M)y ^ (M)x));
+  [[gnu::always_inline]] friend inline Pack operator+(const Pack& a, const Pack& b) {
+    return EachVector<Pack>([&](int k) { return a.v[k] + b.v[k]; });
   }
+  [[gnu::always_inline]] friend inline Pack operator-(const Pack& a, const Pack& b) {
+    return EachVector<Pack>([&](int k) { return a.v[k] - b.v[k]; });
+  }
+  [[gnu::always_inline]] friend inline Pack operator*(const Pack& a, const Pack& b) {
+    return EachVector<Pack>([&](int k) { return a.v[k] * b.v[k]; });
+  }
+  [[gnu::always_inline]] friend inline Pack operator/(const Pack& a, const Pack& b) {
+    return EachVector<Pack>([&](int k) { return a.v[k] / b.v[k]; });
+  }
+  [[gnu::always_inline]] friend inline Pack operator-(const Pack& a) {
+    return EachVector<Pack>([&](int k) { return -a.v[k]; });
+  }
+  [[gnu::always_inline]] inline Pack& operator+=(const Pack& a) { return *this = *this + a; }
+  [[gnu::always_inline]] inline Pack& operator*=(const Pack& a) { return *this = *this * a; }
+
+  [[gnu::always_inline]] friend inline M operator==(const Pack& a, const Pack& b) {
+    return EachVector<M>([&](int k) { return a.v[k] == b.v[k]; });
+  }
+  [[gnu::always_inline]] friend inline M operator!=(const Pack& a, const Pack& b) {
+    return EachVector<M>([&](int k) { return a.v[k] != b.v[k]; });
+  }
+  [[gnu::always_inline]] friend inline M operator<(const Pack& a, const Pack& b) {
+    return EachVector<M>([&](int k) { return a.v[k] < b.v[k]; });
+  }
+  [[gnu::always_inline]] friend inline M operator<=(const Pack& a, const Pack& b) {
+    return EachVector<M>([&](int k) { return a.v[k] <= b.v[k]; });
+  }
+  [[gnu::always_inline]] friend inline M operator>(const Pack& a, const Pack& b) { return b < a; }
+  [[gnu::always_inline]] friend inline M operator>=(const Pack& a, const Pack& b) { return b <= a; }
+
+  // a where the mask is true, b elsewhere.
+  [[gnu::always_inline]] friend inline Pack Select(const M& mask, const Pack& a, const Pack& b) {
+    return EachVector<Pack>([&](int k) { return mask.v[k] ? a.v[k] : b.v[k]; });
+  }
+  [[gnu::always_inline]] friend inline Pack Abs(const Pack& a) {
+    return EachVector<Pack>([&](int k) { return (V)((U)a.v[k] & ~signBit); });
+  }
+  // a with its sign turned where b is negative.
+  [[gnu::always_inline]] friend inline Pack TurnedBySign(const Pack& a, const Pack& b) {
+    return EachVector<Pack>([&](int k) { return (V)((U)a.v[k] ^ ((U)b.v[k] & signBit)); });
+  }
+  [[gnu::always_inline]] friend inline Pack Sqrt(const Pack& a) {
+    return EachVector<Pack>([&](int k) {
+      V root;
+      for (int i = 0; i < N; ++i) root[i] = __builtin_sqrt(a.v[k][i]);
+      return root;
+    });
+  }
+  [[gnu::always_inline]] static inline Pack Load(const f64* from) {
+    Pack pack;
+    __builtin_memcpy(&pack, from, sizeof pack);
+    return pack;
+  }
+  [[gnu::always_inline]] inline void Store(f64* to) const { __builtin_memcpy(to, this, sizeof *this); }
+  // Rounded to 32 bits.
+  [[gnu::always_inline]] inline void Store(f32* to) const {
+    for (int k = 0; k < K; ++k) {
+      const V32 rounded = __builtin_convertvector(v[k], V32);
+      __builtin_memcpy(to + k * N, &rounded, sizeof rounded);
+    }
+  }
+  [[gnu::always_inline]] inline f64 At(int point) const { return v[point / N][point % N]; }
 
  private:
-  [[gnu::always_inline]] static inline V ToFloat(M k) {
-    V power;
-    for (int i = 0; i < N; ++i) power[i] = static_cast<f64>(static_cast<i32>(k[i]));
-    return power;
-  }
+  static constexpr std::uint64_t signBit = 0x8000000000000000;
 };
 
 }  // namespace quilm

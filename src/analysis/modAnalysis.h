@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "analysis/Kernel.h"
 #include "analysis/Ladder.h"
 #include "core/DesignRecord.h"
 #include "core/Responses.h"
@@ -33,7 +34,7 @@ void AnalyzeFrequency(const DesignRecord& record, const Ladder& ladder, f32 Prev
 // Fq, and ResponsesValid. A line of exactly 90.0001 degrees reads 90 afterwards. A point that fails repeats the figures
 // of the one before it. Returns the line mark of the step that failed, empty when the sweep is complete;
 // ResponsesValid then stays as it was.
-std::string SweepLadder(DesignRecord& record, Responses& responses);
+std::string SweepLadder(DesignRecord& record, Responses& responses, VectorWidth width = DefaultWidth());
 
 // SweepLadder, with the message of a failure; the Schematic page then shows what the network is.
 void AnalyzeSweep(Session& session);

@@ -126,17 +126,26 @@ void ButtonView::ShowValues() {
   const QSignalBlocker quiet(widget_);
   const QString text = MarkedCaption(button_.caption, mnemonic_);
   if (button_.role != ButtonRole::Thumbnail && widget_->text() != text) widget_->setText(text);
-  if (widget_->isCheckable() != button_.pressed) widget_->setCheckable(button_.pressed);
-  if (widget_->isChecked() != button_.pressed) widget_->setChecked(button_.pressed);
+  ShowPressed();
   ShowPicture();
 }
 
+// Only what is pressed can be checked, so that a click changes nothing by itself. The toolkit repaints a button for its
+// check alone, not when it ceases to be checkable.
+void ButtonView::ShowPressed() {
+  if (widget_->isChecked() == button_.pressed) return;
+  widget_->setCheckable(true);
+  widget_->setChecked(button_.pressed);
+  widget_->setCheckable(button_.pressed);
+}
+
 void ButtonView::ShowPicture() {
-  const bool same = shown_.Revision() == button_.picture.Revision() && shown_ == button_.picture;
-  if (same) return;
-  shown_ = button_.picture;
-  widget_->setIcon(shown_.Empty() ? QIcon() : SignIcon(shown_));
-  if (!shown_.Empty()) widget_->setIconSize(IconSize(button_.role, shown_));
+  const Picture& picture = button_.picture;
+  if (pictureShown_ == picture.Drawing() && operationsShown_ == picture.Operations().size()) return;
+  pictureShown_ = picture.Drawing();
+  operationsShown_ = picture.Operations().size();
+  widget_->setIcon(picture.Empty() ? QIcon() : SignIcon(picture));
+  if (!picture.Empty()) widget_->setIconSize(IconSize(button_.role, picture));
 }
 
 OptionView::OptionView(OptionButton& option, ActSink& sink, QWidget* parent)

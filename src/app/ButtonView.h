@@ -44,12 +44,14 @@ class ButtonView : public ControlView {
   void ShowValues() override;
 
  private:
+  void ShowPressed();
   void ShowPicture();
 
   Button& button_;
   QAbstractButton* widget_;
   QChar mnemonic_;
-  Picture shown_;
+  std::shared_ptr<const PictureOps> pictureShown_;
+  std::size_t operationsShown_ = 0;
 };
 
 class OptionView : public ControlView {

@@ -2,6 +2,7 @@
 
 #include "app/ButtonView.h"
 #include "app/EntryView.h"
+#include "app/ListView.h"
 #include "app/PlainViews.h"
 #include "app/QtText.h"
 

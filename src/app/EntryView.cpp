@@ -1,10 +1,10 @@
 #include "app/EntryView.h"
 
+#include <QApplication>
 #include <QKeyEvent>
 #include <QSignalBlocker>
 #include <QStyle>
 #include <QStyleOptionFrame>
-#include <QTimer>
 #include <QWheelEvent>
 #include <algorithm>
 
@@ -29,6 +29,9 @@ int WidthFor(const QLineEdit& box, int characters) {
 }  // namespace
 
 EntryBox::EntryBox(QWidget* parent) : QLineEdit(parent) {
+  warmth_.setSingleShot(true);
+  warmth_.setInterval(repairMilliseconds);
+  connect(&warmth_, &QTimer::timeout, this, [this] { setPalette(QPalette()); });
   connect(this, &QLineEdit::textEdited, this, &EntryBox::Typed);
 }
 
@@ -51,13 +54,14 @@ void EntryBox::ReplaceText(const QString& shown) {
   setCursorPosition(std::min(cursor, static_cast<int>(shown.size())));
 }
 
+// From the program's palette, not from the box's own, which may be warm from a repair just before.
 void EntryBox::ShowRepair() {
-  const QColor base = palette().color(QPalette::Base);
+  QPalette warm = QApplication::palette(this);
+  const QColor base = warm.color(QPalette::Base);
   constexpr int darkBelow = 128;
-  QPalette warm = palette();
   warm.setColor(QPalette::Base, base.lightness() < darkBelow ? QColor(0x5c, 0x45, 0x16) : QColor(0xff, 0xe2, 0xa8));
   setPalette(warm);
-  QTimer::singleShot(repairMilliseconds, this, [this] { setPalette(QPalette()); });
+  warmth_.start();
 }
 
 void EntryBox::LeaveIfTouched() {

@@ -3,6 +3,7 @@
 
 #include <QLineEdit>
 #include <QPalette>
+#include <QTimer>
 #include <functional>
 
 #include "app/ControlView.h"
@@ -41,6 +42,7 @@ class EntryBox : public QLineEdit {
   void ForgetTyping();
   bool IsForDesign(const QKeyEvent& press) const;
 
+  QTimer warmth_;   // runs as long as a repair shows
   QString before_;  // when the box was entered
   bool touched_ = false;
   int wheelTurned_ = 0;  // eighths of a degree not yet stepped

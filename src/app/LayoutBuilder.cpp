@@ -7,6 +7,7 @@
 #include <algorithm>
 
 #include "app/PlainViews.h"
+#include "app/SideStack.h"
 
 namespace quilm {
 
@@ -106,6 +107,7 @@ QWidget* LayoutBuilder::BuildWidget(const Layout& node, const Place& place) {
   const Place inner{place.parent, place.keepsPlace || node.keepsPlace, place.inGroup};
   if (node.kind == Kind::Control) return BuildControl(node, inner);
   if (node.kind == Kind::Group) return BuildGroup(node, inner);
+  if (node.kind == Kind::SidePlace) return BuildSidePlace(node, inner);
   return nullptr;
 }
 
@@ -120,6 +122,15 @@ QWidget* LayoutBuilder::BuildControl(const Layout& node, const Place& place) {
   policy.setRetainSizeWhenHidden(place.keepsPlace);
   widget->setSizePolicy(policy);
   return widget;
+}
+
+QWidget* LayoutBuilder::BuildSidePlace(const Layout& node, const Place& place) {
+  auto* content = new QWidget;
+  auto* side = new SideStack(*content, place.parent);
+  auto* column = new QVBoxLayout(content);
+  column->setContentsMargins(0, 0, 0, 0);
+  AddToBox(*column, node.items.front(), {content, place.keepsPlace, place.inGroup}, false);
+  return side;
 }
 
 QWidget* LayoutBuilder::BuildGroup(const Layout& node, const Place& place) {
@@ -152,6 +163,7 @@ QLayout* LayoutBuilder::BuildLayout(const Layout& node, const Place& place) {
     case Kind::Column:
     case Kind::Control:
     case Kind::Group:
+    case Kind::SidePlace:
     case Kind::Space:
       break;
   }

@@ -40,6 +40,7 @@ class LayoutBuilder {
   QLayout* BuildGrid(const Layout& node, const Place& place);
   QLayout* BuildForm(const Layout& node, const Place& place);
   QWidget* BuildControl(const Layout& node, const Place& place);
+  QWidget* BuildSidePlace(const Layout& node, const Place& place);
   QWidget* BuildGroup(const Layout& node, const Place& place);
   void AddCell(QGridLayout& grid, const Layout& item, const Place& place, int row, int column, Qt::Alignment align);
 

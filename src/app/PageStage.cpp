@@ -9,6 +9,7 @@
 
 #include "app/MainWindow.h"
 #include "app/QtText.h"
+#include "app/SideStack.h"
 #include "shell/Page.h"
 #include "shell/Session.h"
 
@@ -64,16 +65,16 @@ void PageStage::Show(Page& page) {
     std::rotate(at, at + 1, standing_.end());
   } else {
     auto* view = new PageView(page, *this);
-    standing_.push_back({&page, view, nullptr});
+    standing_.push_back({&page, view, nullptr, nullptr});
     window_->AddPage(*view);
   }
-  if (standing_.back().window.isNull()) ShowTopMainPage();
+  if (standing_.back().IsMain()) ShowTopMainPage();
   Sync();
 }
 
 void PageStage::ShowTopMainPage() {
   for (auto at = standing_.rbegin(); at != standing_.rend(); ++at) {
-    if (!at->window.isNull()) continue;
+    if (!at->IsMain()) continue;
     window_->ShowPage(*at->view, ToQt(at->page->title));
     return;
   }
@@ -86,9 +87,12 @@ void PageStage::Unload(Page& page) {
   const Standing gone = *at;
   standing_.erase(at);
   gone.view->Detach();
-  if (gone.window.isNull()) {
+  if (gone.IsMain()) {
     ShowTopMainPage();
     window_->RemovePage(*gone.view);
+  } else if (!gone.panel.isNull()) {
+    static_cast<SideStack*>(gone.panel->parentWidget())->Release(*gone.panel);
+    gone.panel->deleteLater();
   } else {
     gone.window->hide();
     gone.window->deleteLater();
@@ -96,22 +100,46 @@ void PageStage::Unload(Page& page) {
   if (gone.loop != nullptr) gone.loop->quit();
 }
 
+std::function<void()> PageStage::CloseBoxOf(PageView& view) {
+  return [this, &view] {
+    if (Page* shown = view.Shown()) Perform([shown](Session& session) { quilm::PressCloseBox(session, *shown); });
+  };
+}
+
 void PageStage::RunModal(Page& page) {
-  QEventLoop loop;
   Sync();
   auto* view = new PageView(page, *this);
   auto* window = new ModalWindow(*view, FrontWindow());
   window->setWindowTitle(page.title.empty() ? QStringLiteral("Quilm") : ToQt(page.title));
-  window->onCloseBox = [this, view] {
-    if (Page* shown = view->Shown()) Perform([shown](Session& session) { quilm::PressCloseBox(session, *shown); });
-  };
-  standing_.push_back({&page, view, window, &loop});
-  window->show();
-  view->FocusFirst();
+  window->onCloseBox = CloseBoxOf(*view);
+  RunUntilClosed({&page, view, window, nullptr}, *window);
+}
+
+void PageStage::RunBeside(Page& tool, Page& main) {
+  const PageView* below = ViewOf(main);
+  if (below == nullptr || below->Side() == nullptr) throw Fault("There is nothing to stand beside.");
+  const QPointer<QWidget> focused = QApplication::focusWidget();
+  auto* view = new PageView(tool, *this);
+  auto* panel = new SidePanel(*view, ToQt(tool.title));
+  panel->onCloseBox = CloseBoxOf(*view);
+  below->Side()->Take(*panel);
+  Sync();
+  RunUntilClosed({&tool, view, nullptr, panel}, *panel);
+  if (focused.isNull()) return;
+  // The page is locked until the handler that opened the tool goes on.
+  QTimer::singleShot(0, focused, [focused] { focused->setFocus(Qt::OtherFocusReason); });
+}
+
+void PageStage::RunUntilClosed(Standing standing, QWidget& frame) {
+  QEventLoop loop;
+  standing.loop = &loop;
+  standing_.push_back(standing);
+  frame.show();
+  standing.view->FocusFirst();
   try {
     Run(loop);
   } catch (const ProgramEnd&) {
-    window->hide();
+    frame.hide();
     Forget(loop);
     throw;
   }
@@ -191,7 +219,7 @@ int PageStage::RunDialog(QDialog& dialog) {
 
 void PageStage::PressCloseBox() {
   for (auto at = standing_.rbegin(); at != standing_.rend(); ++at) {
-    if (!at->window.isNull()) continue;
+    if (!at->IsMain()) continue;
     Page* page = at->page;
     Perform([page](Session& session) { quilm::PressCloseBox(session, *page); });
     return;

@@ -13,6 +13,7 @@
 namespace quilm {
 
 class MainWindow;
+class SidePanel;
 
 // A modal page's window. Its close box is the page's.
 class ModalWindow : public QDialog {
@@ -39,6 +40,8 @@ class PageStage : public ActHost {
   void Unload(Page& page);
   // Returns when the page has closed. Throws ProgramEnd when the program has ended meanwhile.
   void RunModal(Page& page);
+  // The same for a tool that stands in the side place of `main`.
+  void RunBeside(Page& tool, Page& main);
 
   void Perform(const std::function<void(Session&)>& act) override;
   bool IsOnTop(const Page& page) const override;
@@ -72,9 +75,14 @@ class PageStage : public ActHost {
     Page* page;
     PageView* view;
     QPointer<ModalWindow> window;  // of a modal page
+    QPointer<SidePanel> panel;     // of a tool that stands beside a page
     QEventLoop* loop = nullptr;
+
+    bool IsMain() const { return window.isNull() && panel.isNull(); }
   };
 
+  std::function<void()> CloseBoxOf(PageView& view);
+  void RunUntilClosed(Standing standing, QWidget& frame);
   void Run(QEventLoop& loop, QEventLoop::ProcessEventsFlags flags = QEventLoop::AllEvents);
   void Forget(const QEventLoop& loop);
   void ThrowIfEnded() const;

@@ -13,6 +13,7 @@
 #include "app/Mnemonics.h"
 #include "app/PictureView.h"
 #include "app/QtText.h"
+#include "app/SideStack.h"
 #include "shell/Acts.h"
 #include "shell/Page.h"
 
@@ -69,6 +70,7 @@ PageView::PageView(Page& page, ActHost& host, QWidget* parent) : QWidget(parent)
   LayoutBuilder builder(*this,
                         [this](Control& control, QWidget* owner) -> ControlView& { return AddView(control, owner); });
   builder.Build(page.MakeLayout());
+  side_ = findChild<SideStack*>();
   for (Control* control : page.Controls()) {
     if (control->kind == ControlKind::Timer) AddView(*control, this);
   }
@@ -112,21 +114,27 @@ void PageView::AddShortcuts() {
     if (page_->Find(key.control) == nullptr) continue;
     auto* shortcut = new QShortcut(key.keys, this);
     connect(shortcut, &QShortcut::activated, this, [this, name = key.control] { PressNamed(name); });
+    shortcuts_.push_back(shortcut);
   }
   // A box takes these keys for itself while it has something of its own to take back.
-  connect(new QShortcut(UndoKeys(), this), &QShortcut::activated, this, [this] { Press(Undo); });
-  connect(new QShortcut(RedoKeys(), this), &QShortcut::activated, this, [this] { Press(Redo); });
+  auto* undo = new QShortcut(UndoKeys(), this);
+  connect(undo, &QShortcut::activated, this, [this] { Press(Undo); });
+  auto* redo = new QShortcut(RedoKeys(), this);
+  connect(redo, &QShortcut::activated, this, [this] { Press(Redo); });
   auto* copy = new QShortcut(QKeySequence::Copy, this);
   connect(copy, &QShortcut::activated, this, [this] {
     if (const PictureView* picture = PictureToCopy()) picture->Copy();
   });
+  shortcuts_.insert(shortcuts_.end(), {undo, redo, copy});
 }
 
-// The picture with the focus, else the largest one that is seen.
+bool PageView::HasTool() const { return side_ != nullptr && side_->Panel() != nullptr; }
+
+// The picture with the focus, else the largest one that is seen, be it of the page beside which this one stands.
 PictureView* PageView::PictureToCopy() const {
   if (auto* focused = qobject_cast<PictureView*>(QApplication::focusWidget())) return focused;
   PictureView* largest = nullptr;
-  for (PictureView* picture : findChildren<PictureView*>()) {
+  for (PictureView* picture : window()->findChildren<PictureView*>()) {
     const bool larger =
         largest == nullptr || picture->width() * picture->height() > largest->width() * largest->height();
     if (picture->isVisible() && larger) largest = picture;
@@ -137,6 +145,8 @@ PictureView* PageView::PictureToCopy() const {
 void PageView::Sync() {
   if (page_ == nullptr) return;
   for (const auto& view : views_) view->Sync();
+  // The same key of two pages in one window would mean neither: it is the tool's.
+  for (QShortcut* shortcut : shortcuts_) shortcut->setEnabled(!HasTool());
   const auto wished = viewOf_.find(page_->TakeFocusWish());
   if (wished == viewOf_.end() || wished->second->Widget() == nullptr) return;
   // As if reached by Tab: a box has its text selected.
@@ -214,7 +224,8 @@ bool PageView::TakeKey(const QKeyEvent& event) {
 }
 
 void PageView::keyPressEvent(QKeyEvent* event) {
-  if (TakeKey(*event)) {
+  const bool taken = HasTool() ? side_->Panel()->TakeKey(*event) : TakeKey(*event);
+  if (taken) {
     event->accept();
   } else {
     QWidget::keyPressEvent(event);

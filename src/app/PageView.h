@@ -9,10 +9,13 @@
 
 #include "app/ControlView.h"
 
+class QShortcut;
+
 namespace quilm {
 
 class Page;
 class PictureView;
+class SideStack;
 
 // Runs acts for all page views of the window.
 class ActHost {
@@ -46,6 +49,9 @@ class PageView : public QWidget, public ActSink {
   // Presses a control by its name if the page has it and the user could. False when not.
   bool PressNamed(const char* name);
 
+  // Where tools stand beside the page; nullptr when it has no such place.
+  SideStack* Side() const { return side_; }
+
   // Return, Escape and the keys of the window that no widget took.
   bool TakeKey(const QKeyEvent& event);
 
@@ -64,11 +70,14 @@ class PageView : public QWidget, public ActSink {
   bool PressButton(Button* button);
   bool PressFocused();
   PictureView* PictureToCopy() const;
+  bool HasTool() const;
 
   Page* page_;
   ActHost& host_;
   std::vector<std::unique_ptr<ControlView>> views_;  // in reading order
   std::map<const Control*, ControlView*> viewOf_;
+  std::vector<QShortcut*> shortcuts_;
+  SideStack* side_ = nullptr;
 };
 
 }  // namespace quilm

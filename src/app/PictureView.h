@@ -1,11 +1,12 @@
 // Shows a picture box: its picture on white paper, in its own proportions, as large as the room allows.
 #pragma once
 
-#include <QImage>
+#include <QElapsedTimer>
+#include <QTimer>
 #include <QWidget>
 #include <functional>
 
-#include "app/QtCanvas.h"
+#include "app/PictureSheet.h"
 #include "shell/Acts.h"
 
 namespace quilm {
@@ -16,8 +17,8 @@ class PictureView : public QWidget {
  public:
   explicit PictureView(QWidget* parent = nullptr);
 
-  // Takes over what the box shows; cheap when nothing has changed.
-  void Show(const Picture& picture, const Picture& mark);
+  // Takes over what the box shows; cheap when nothing has changed. The window is repainted once a frame at most.
+  void Show(const Picture& picture, const LiveLayer& live, const Picture& mark);
 
   // Called with the position in user scale. The pages get no event outside the paper, but for a release.
   std::function<void(MouseAct, f32 x, f32 y, MouseButton)> onMouse;
@@ -46,16 +47,17 @@ class PictureView : public QWidget {
   void contextMenuEvent(QContextMenuEvent* event) override;
 
  private:
-  QImage Render(QSize size, f64 density) const;
-  void RefreshSheet();
+  QImage Render() const;
+  void RefreshPaper();
+  void RequestRepaint();
   bool Pass(MouseAct act, QMouseEvent* event);
   void ReleaseForMenu(QPointF place);
 
-  Picture picture_;
-  Picture mark_;
+  PictureSheet sheet_;
+  QElapsedTimer sincePaint_;
+  QTimer nextFrame_;
   bool leftDown_ = false;  // the page was told
   bool rightDown_ = false;
-  QImage sheet_;  // the picture without its mark, in device pixels
 };
 
 }  // namespace quilm

@@ -1,11 +1,6 @@
 #include "app/PlainViews.h"
 
-#include <QClipboard>
 #include <QFontDatabase>
-#include <QGuiApplication>
-#include <QScrollBar>
-#include <QShortcut>
-#include <QSignalBlocker>
 #include <QVBoxLayout>
 
 #include "app/QtText.h"
@@ -17,7 +12,6 @@ namespace {
 
 constexpr int wrapBeyond = 90;  // characters in a line of a label
 constexpr int wrappedWidth = 520;
-constexpr int listLines = 10;
 
 bool HasLongLine(const QString& text) {
   for (const QString& line : text.split(QLatin1Char('\n'))) {
@@ -90,50 +84,6 @@ void FrameView::ShowValues() {
   if (heading->isHidden() != caption.isEmpty()) heading->setVisible(!caption.isEmpty());
 }
 
-ListView::ListView(ListBox& list, ActSink& sink, QWidget* parent)
-    : ControlView(list), list_(list), widget_(new QListWidget(parent)) {
-  widget_->setUniformItemSizes(true);
-  widget_->setMinimumHeight(widget_->fontMetrics().lineSpacing() * listLines);
-  SetWidget(widget_);
-  if (list_.table) MakeTable();
-  QObject::connect(widget_, &QListWidget::itemClicked, widget_, [this, &sink](QListWidgetItem* item) {
-    sink.Press([this, line = widget_->row(item) + 1](Session& session) { Choose(session, list_, line); });
-  });
-  QObject::connect(widget_, &QListWidget::currentRowChanged, widget_, [this, &sink](int row) {
-    // A click is told by itemClicked; here the arrow keys have moved the line.
-    if (row < 0 || !widget_->hasFocus()) return;
-    if (QGuiApplication::mouseButtons() != Qt::NoButton) return;
-    sink.Press([this, line = row + 1](Session& session) { Choose(session, list_, line); });
-  });
-}
-
-// Rows of columns, to be read, marked and copied.
-void ListView::MakeTable() {
-  widget_->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
-  widget_->setSelectionMode(QAbstractItemView::ExtendedSelection);
-  auto* copy = new QShortcut(QKeySequence::Copy, widget_, nullptr, nullptr, Qt::WidgetShortcut);
-  QObject::connect(copy, &QShortcut::activated, widget_, [this] {
-    QStringList rows;
-    for (int row = 0; row < widget_->count(); ++row) {
-      if (widget_->item(row)->isSelected()) rows << widget_->item(row)->text();
-    }
-    QGuiApplication::clipboard()->setText(rows.join(QLatin1Char('\n')));
-  });
-}
-
-void ListView::ShowValues() {
-  const QSignalBlocker quiet(widget_);
-  if (shown_ != list_.items) {
-    shown_ = list_.items;
-    const int scrolled = widget_->verticalScrollBar()->value();
-    widget_->clear();
-    for (const std::string& item : shown_) widget_->addItem(ToQt(item));
-    widget_->verticalScrollBar()->setValue(scrolled);
-  }
-  // What the user has marked in a table is the user's alone.
-  if (!list_.table && widget_->currentRow() != list_.selected - 1) widget_->setCurrentRow(list_.selected - 1);
-}
-
 SpinView::SpinView(Spin& spin, ActSink& sink, QWidget* parent) : ControlView(spin), spin_(spin) {
   auto* both = new QWidget(parent);
   auto* column = new QVBoxLayout(both);
@@ -177,13 +127,13 @@ void TimerView::ShowValues() {
 }
 
 PictureBoxView::PictureBoxView(PictureBox& box, ActSink& sink, QWidget* parent)
-    : ControlView(box), box_(box), view_(new PictureView(parent)) {
+    : ControlView(box), box_(box), view_(new PictureView(parent)), areas_(new PictureAreas(*view_)) {
   view_->onMouse = [this, &sink](MouseAct act, f32 x, f32 y, MouseButton button) {
-    const auto& handler = act == MouseAct::Down   ? box_.onMouseDown
-                          : act == MouseAct::Move ? box_.onMouseMove
-                                                  : box_.onMouseUp;
-    if (!handler) return;
+    if (!HearsMouse(box_, act, x, y, button)) return;
     sink.Perform([=, this](Session& session) { Mouse(session, box_, act, x, y, button); });
+  };
+  areas_->onPress = [this, &sink](const std::string& name) {
+    sink.Press([this, name](Session& session) { PressArea(session, box_, name); });
   };
   QObject::connect(view_, &PictureView::SaveRequested, view_, [this, &sink] {
     sink.Perform([view = view_](Session& session) {
@@ -195,6 +145,13 @@ PictureBoxView::PictureBoxView(PictureBox& box, ActSink& sink, QWidget* parent)
     });
   });
   SetWidget(view_);
+}
+
+void PictureBoxView::ShowValues() {
+  view_->Show(box_.picture, box_.live, box_.mark);
+  areas_->Show(box_.areas);
+  const QString description = ToQt(box_.description);
+  if (view_->accessibleDescription() != description) view_->setAccessibleDescription(description);
 }
 
 }  // namespace quilm

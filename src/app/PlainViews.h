@@ -1,12 +1,12 @@
-// The adapters of labels, frames, lists, spin controls, timers and picture boxes.
+// The adapters of labels, frames, spin controls, timers and picture boxes.
 #pragma once
 
 #include <QLabel>
-#include <QListWidget>
 #include <QTimer>
 #include <QToolButton>
 
 #include "app/ControlView.h"
+#include "app/PictureAreas.h"
 #include "app/PictureView.h"
 
 namespace quilm {
@@ -40,21 +40,6 @@ class FrameView : public ControlView {
 // The quiet heading of a group, quieter still for a group within another one.
 QLabel* MakeHeading(const std::string& title, bool nested, QWidget* parent);
 
-class ListView : public ControlView {
- public:
-  ListView(ListBox& list, ActSink& sink, QWidget* parent);
-
- protected:
-  void ShowValues() override;
-
- private:
-  void MakeTable();
-
-  ListBox& list_;
-  QListWidget* widget_;
-  std::vector<std::string> shown_;
-};
-
 // Two small arrow buttons, one above the other.
 class SpinView : public ControlView {
  public:
@@ -87,11 +72,12 @@ class PictureBoxView : public ControlView {
   PictureBoxView(PictureBox& box, ActSink& sink, QWidget* parent);
 
  protected:
-  void ShowValues() override { view_->Show(box_.picture, box_.mark); }
+  void ShowValues() override;
 
  private:
   PictureBox& box_;
   PictureView* view_;
+  PictureAreas* areas_;
 };
 
 }  // namespace quilm

@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "core/Fault.h"
+
 namespace quilm {
 
 namespace {
@@ -28,11 +30,16 @@ PrinterCanvas::PrinterCanvas(std::unique_ptr<QPrinter> device)
 }
 
 void PrinterCanvas::NewPage() {
-  printer->newPage();
+  if (!printer->newPage()) throw Fault("The printer did not take another sheet.");
   CurrentX = 0;
   CurrentY = 0;
 }
 
-void PrinterCanvas::EndDoc() { painter.end(); }
+// A printer that has failed before tells so here; of a document that was closed already there is nothing to tell.
+void PrinterCanvas::EndDoc() {
+  if (!painter.isActive()) return;
+  const bool ended = painter.end();
+  if (!ended || printer->printerState() == QPrinter::Error) throw Fault("The printer did not take the document.");
+}
 
 }  // namespace quilm

@@ -29,6 +29,7 @@ class PrinterCanvas : private detail::PrintJob, public QtCanvas {
   // False when the printer did not take the document.
   bool IsReady() const { return ready; }
 
+  // Both throw a Fault when the printer fails.
   void NewPage() override;
   void EndDoc() override;
 };

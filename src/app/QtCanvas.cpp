@@ -7,6 +7,7 @@
 #include <numbers>
 
 #include "app/QtText.h"
+#include "app/TraceMask.h"
 
 namespace quilm {
 
@@ -42,6 +43,22 @@ bool CutSegment(QPointF& from, QPointF& to) {
 
 bool IsFinite(QPointF point) { return std::isfinite(point.x()) && std::isfinite(point.y()); }
 
+// Lays an opaque colour over pixels as far as they are covered. The alpha of a premultiplied pixel goes the same way as
+// its colours.
+void Blend(QRgb* pixels, const std::uint8_t* cover, int count, QRgb ink) {
+  constexpr QRgb odd = 0x00FF00FF;
+  constexpr QRgb whole = 256;
+  for (int i = 0; i < count; ++i) {
+    if (cover[i] == 0) continue;
+    // 255 becomes 256, so that full coverage leaves nothing of what was there.
+    const QRgb part = cover[i] + (cover[i] >> 7U);
+    const QRgb rest = whole - part;
+    const QRgb low = ((ink & odd) * part + (pixels[i] & odd) * rest) >> 8U & odd;
+    const QRgb high = ((ink >> 8U & odd) * part + (pixels[i] >> 8U & odd) * rest) & ~odd;
+    pixels[i] = high | low;
+  }
+}
+
 constexpr f64 linePitch = 1.15;  // of an em, as the font metrics have it
 constexpr f64 baseline = 0.92;   // of an em below the top of the line
 
@@ -64,7 +81,8 @@ QFont PainterFont(const Font& font, f64 emHeight, const QPaintDevice& device) {
   return result;
 }
 
-QtCanvas::QtCanvas(QPainter& painter, const Surface& surface) : painter_(painter), surface_(surface) {
+QtCanvas::QtCanvas(QPainter& painter, const Surface& surface)
+    : painter_(painter), image_(dynamic_cast<QImage*>(painter.device())), surface_(surface) {
   painter_.setClipRect(surface_.target);
 }
 
@@ -117,7 +135,11 @@ void QtCanvas::DrawPolyline(std::span<const Point> points, Color color) {
   const QColor ink = Ink(color);
   const bool upright = points.size() == 2 && (points[0].x == points[1].x || points[0].y == points[1].y);
   if (!upright) {
-    if (Prepare(ink, true)) StrokeTrace(points, ink);
+    if (SetsPixels(ink)) {
+      SetTrace(points, ink);
+    } else if (Prepare(ink, true)) {
+      StrokeTrace(points);
+    }
     return;
   }
   QPointF from = Map(points[0]);
@@ -129,31 +151,59 @@ void QtCanvas::DrawPolyline(std::span<const Point> points, Color color) {
   painter_.drawLine(OntoPixels(from), OntoPixels(to));
 }
 
-// One stroke from point to point. It is broken where the trace leaves what the painter can count, or where a point has
-// no place.
-void QtCanvas::StrokeTrace(std::span<const Point> points, const QColor& ink) {
-  painter_.setPen(MakePen(ink));
-  QPolygonF run;
-  const auto flush = [&] {
-    if (run.size() > 1) painter_.drawPolyline(run);
+// Whether a line can be set pixel by pixel on the image.
+bool QtCanvas::SetsPixels(const QColor& ink) const {
+  constexpr int opaque = 255;
+  if (image_ == nullptr || ink.alpha() != opaque) return false;
+  // Of thin lines the toolkit has a fast way of its own.
+  if (PenWidth() * painter_.deviceTransform().m11() <= 1) return false;
+  const bool words =
+      image_->format() == QImage::Format_RGB32 || image_->format() == QImage::Format_ARGB32_Premultiplied;
+  return words && DrawStyle == LineStyle::Solid && DrawMode == PenMode::Copy &&
+         painter_.deviceTransform().type() <= QTransform::TxScale;
+}
+
+void QtCanvas::SetTrace(std::span<const Point> points, const QColor& ink) {
+  const QTransform toPixels = painter_.deviceTransform();
+  const QRectF clip = toPixels.mapRect(surface_.target) & QRectF(image_->rect());
+  // As the toolkit clips: a pixel belongs to the side where its centre lies.
+  const auto firstInside = [](f64 edge) { return static_cast<int>(std::ceil(edge - 0.5)); };
+  TraceMask mask(
+      {firstInside(clip.left()), firstInside(clip.top()), firstInside(clip.right()), firstInside(clip.bottom())});
+  const auto width = static_cast<f32>(PenWidth() * toPixels.m11());
+  std::vector<Point> run;
+  for (const QPolygonF& places : RunsOf(points, toPixels)) {
     run.clear();
-  };
+    for (const QPointF& place : places) run.push_back({static_cast<f32>(place.x()), static_cast<f32>(place.y())});
+    mask.AddTrace(run, width);
+  }
+  mask.ForEachRun([this, word = ink.rgb()](int x, int y, const std::uint8_t* cover, int count) {
+    Blend(reinterpret_cast<QRgb*>(image_->scanLine(y)) + x, cover, count, word);
+  });
+}
+
+void QtCanvas::StrokeTrace(std::span<const Point> points) {
+  for (const QPolygonF& run : RunsOf(points, QTransform())) painter_.drawPolyline(run);
+}
+
+// The places of the points, in runs of two and more. A trace is broken where it leaves what the painter can count, or
+// where a point has no place.
+std::vector<QPolygonF> QtCanvas::RunsOf(std::span<const Point> points, const QTransform& place) const {
+  std::vector<QPolygonF> runs;
+  bool open = false;
   for (std::size_t i = 1; i < points.size(); ++i) {
-    QPointF from = Map(points[i - 1]);
-    QPointF to = Map(points[i]);
+    QPointF from = place.map(Map(points[i - 1]));
+    QPointF to = place.map(Map(points[i]));
     const QPointF end = to;
     if (!IsFinite(from) || !IsFinite(to) || !CutSegment(from, to)) {
-      flush();
+      open = false;
       continue;
     }
-    if (run.isEmpty() || run.last() != from) {
-      flush();
-      run << from;
-    }
-    run << to;
-    if (to != end) flush();
+    if (!open || runs.back().last() != from) runs.push_back(QPolygonF{from});
+    runs.back() << to;
+    open = to == end;
   }
-  flush();
+  return runs;
 }
 
 void QtCanvas::DrawRectangle(Point from, Point to, Color color, bool filled) {

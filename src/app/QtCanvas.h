@@ -3,9 +3,12 @@
 #pragma once
 
 #include <QFont>
+#include <QImage>
 #include <QPainter>
 #include <QPen>
+#include <QPolygonF>
 #include <QRectF>
+#include <vector>
 
 #include "shell/Canvas.h"
 
@@ -23,6 +26,7 @@ struct Surface {
 class QtCanvas : public Canvas {
  public:
   // Draws with `painter` for as long as both live. The clip becomes the surface's target.
+  // On an image, solid traces wider than a device pixel are set pixel by pixel, past the painter.
   QtCanvas(QPainter& painter, const Surface& surface);
 
  protected:
@@ -45,10 +49,14 @@ class QtCanvas : public Canvas {
   f64 OntoPixel(f64 coordinate) const;
   QPointF OntoPixels(QPointF point) const;
   bool Prepare(const QColor& ink, bool smooth);
-  void StrokeTrace(std::span<const Point> points, const QColor& ink);
+  bool SetsPixels(const QColor& ink) const;
+  std::vector<QPolygonF> RunsOf(std::span<const Point> points, const QTransform& place) const;
+  void StrokeTrace(std::span<const Point> points);
+  void SetTrace(std::span<const Point> points, const QColor& ink);
   void DrawTextLine(const QString& line, QPointF topLeft, f64 emHeight);
 
   QPainter& painter_;
+  QImage* image_;  // that is painted on; nullptr for anything else
   Surface surface_;
 };
 

@@ -17,6 +17,7 @@
 #include "app/FileFilters.h"
 #include "app/PrinterCanvas.h"
 #include "app/QtText.h"
+#include "core/Fault.h"
 
 namespace quilm {
 
@@ -104,7 +105,7 @@ Canvas* WindowPlatform::PrintDialog() {
   QPrintDialog dialog(printer.get(), stage_.FrontWindow());
   if (stage_.RunDialog(dialog) != QDialog::Accepted) return nullptr;
   auto canvas = std::make_unique<PrinterCanvas>(std::move(printer));
-  if (!canvas->IsReady()) return nullptr;
+  if (!canvas->IsReady()) throw Fault("The printer did not take the document.");
   printer_ = std::move(canvas);
   return printer_.get();
 }

@@ -29,6 +29,7 @@ class WindowPlatform : public Platform {
   void ShellOpen(const std::string& path) override;
   bool ShowSystemInformation() override;
   void Yield() override { stage_.RunEvents(); }
+  f64 YieldInterval() const override { return 0.01; }
   void Pause(f64 seconds) override;
   std::string ProgramFolder() override { return folder_.toStdString(); }
   std::string HelpFolder() override;
@@ -36,6 +37,7 @@ class WindowPlatform : public Platform {
   void PageShown(Page& page) override { stage_.Show(page); }
   void PageUnloaded(Page& page) override { stage_.Unload(page); }
   void RunModal(Page& page) override { stage_.RunModal(page); }
+  void RunBeside(Page& tool, Page& main) override { stage_.RunBeside(tool, main); }
 
   // The file that keeps the window's place.
   QString SettingsPath() const { return folder_ + QStringLiteral("/window.ini"); }

@@ -4,6 +4,7 @@
 #include <array>
 #include <string_view>
 
+#include "core/EntryLimits.h"
 #include "core/NumberText.h"
 #include "core/NumericFault.h"
 #include "core/modGeneral.h"
@@ -97,8 +98,8 @@ bool TakeSettings(DesignRecord& record, const Configuration& configuration) {
   } catch (const NumericFault&) {
     return false;
   }
-  record.SmithAspect = std::max(record.SmithAspect, 0.5F);
-  record.PlotLineWidth = std::max<i16>(record.PlotLineWidth, 1);
+  record.SmithAspect = std::max(record.SmithAspect, limitsOf::SmithAspect.lowest);
+  record.PlotLineWidth = std::max(record.PlotLineWidth, static_cast<i16>(limitsOf::PlotLineWidth.lowest));
   return true;
 }
 
@@ -109,12 +110,12 @@ f32 WrittenValue(int line, f32 value, Configuration& configuration) {
     case lineUnits:
       return value;
     case lineNrYints:
-      if (value == 0 && !(configured > 3)) configured = 6;
+      if (value == 0 && !(configured > 3)) configured = SettingOf(lineNrYints).byDefault;
       return value == 0 ? configured : value;
     case lineSmithAspect:
-      return value <= 0 ? 0.75F : value;
+      return value <= 0 ? SettingOf(lineSmithAspect).byDefault : value;
     case lineLineWidth:
-      return std::clamp(value, 1.0F, 6.0F);
+      return limitsOf::PlotLineWidth.Held(value);
     default:
       return value == 0 ? configured : value;
   }

@@ -45,9 +45,4 @@ struct Identity {
 // "Butterworth", ..., "Manual entry"; empty for a code that is no family.
 std::string FamilyName(i16 family);
 
-// The topologies without a centre frequency: lowpass and highpass.
-inline bool IsLowOrHighpass(const std::string& topology) {
-  return topology == "A" || topology == "B" || topology == "I" || topology == "J";
-}
-
 }  // namespace quilm

@@ -2,14 +2,33 @@
 // sweeps. All arrays are indexed 0..2049.
 #pragma once
 
+#include <array>
+
 #include "core/BoundedArray.h"
+#include "core/Sweep.h"
 #include "core/Types.h"
 
 namespace quilm {
 
 inline constexpr int responseBound = 2049;
 
-using ResponseArray = BoundedArray<f32, 0, responseBound>;
+// Aligned for the vectors of the sweep.
+struct alignas(64) ResponseArray : BoundedArray<f32, 0, responseBound> {};
+
+// The kernel reads whole groups of points: a multiple of this many, of which the last ones are of no consequence.
+inline constexpr int sweepPadding = 32;
+
+// What of a sweep depends on its settings alone, kept while they stand.
+struct SweepTable {
+  static constexpr int room = (responseBound / sweepPadding + 1) * sweepPadding;
+
+  SweepSettings settings;
+  int points = 0;                                       // 0: nothing is kept
+  std::array<f32, room> frequency{};                    // Hz
+  alignas(64) std::array<f64, room> w{};                // rad/s
+  alignas(64) std::array<f64, room> wInverse{};         // s/rad, 1 where w is 0
+  alignas(64) std::array<f64, room> degreesPerDelay{};  // 360 times the step to each frequency, degrees per second
+};
 
 struct Responses {
   ResponseArray RespFreq;      // Hz
@@ -33,6 +52,8 @@ struct Responses {
   f64 TransPeak = -300;   // dB, absolute
   f64 TransPeakFreq = 0;  // Hz
   f32 Fq = 0;             // Hz, the frequency at which inductor Q is quoted
+
+  SweepTable table;
 };
 
 }  // namespace quilm

@@ -133,7 +133,7 @@ constexpr Row inductanceRows[] = {{1e9F, 1e9, "GH"},     {1e6F, 1e6, "MH"},   {1
 constexpr Mask partMask = {{2, 3, 4, 5, 6}};
 
 // The thresholds sit a hundredfold away from the divisors so that capacitors from 0.01 uF up read in uF and all below
-// in pF. The divisor of the first row is meant too.
+// in pF. The divisor of the first row is out of this line; no part comes near its 1e7 F, and scripts compare the texts.
 constexpr Row capacitanceRows[] = {{1e7F, 1e11, "GF"},   {10000, 1e6, "MF"},  {10, 1000, "kF"}, {1, 1, "F"},
                                    {0.01F, 0.001, "mF"}, {1e-8F, 1e-6, "uF"}, {0, 1e-12, "pF"}};
 constexpr f32 smallestCapacitance = 1e-15F;
@@ -165,6 +165,11 @@ void ParseEntry(std::string& Text, f32& Result) {
   constexpr f64 largest = std::numeric_limits<f32>::max();
   const f32 number = static_cast<f32>(std::clamp(LeadingNumber(scanner.Kept()), -largest, largest));
   Result = std::clamp(number * scanner.Scale(), -largestEntry, largestEntry) + 0.0F;
+}
+
+std::optional<f32> MultiplierOf(char letter) {
+  const Multiplier* multiplier = FindMultiplier(letter);
+  return multiplier == nullptr ? std::nullopt : std::optional<f32>(multiplier->scale);
 }
 
 std::string FormatFrequency(f32 Value) {

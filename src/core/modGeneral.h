@@ -1,6 +1,7 @@
 // The one road for numbers between the user and the record: entry in engineering notation and the display formats.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -13,6 +14,9 @@ namespace quilm {
 // the result is held within -1e10..1e10, and an underflow is 0. Each step rounds to 32 bits. Trims Text and cuts it to
 // its first 12 characters.
 void ParseEntry(std::string& Text, f32& Result);
+
+// The multiplier that a letter of an entry stands for; nothing for any other character.
+std::optional<f32> MultiplierOf(char letter);
 
 // Display formats: up to six significant places, followed by the multiplier and unit. The last blanks are part of the
 // texts. The unit is chosen before the rounding, so just under 1 mH reads "1000uH". FormatFrequency serves any plain

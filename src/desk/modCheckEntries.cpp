@@ -9,7 +9,7 @@ namespace quilm {
 
 namespace {
 
-void ShowEntry(Session& session, const EntryBox& box) {
+void ShowEntry(Session& session, const RepairedEntry& box) {
   const Page* page = session.pages.Find(box.page);
   Control* control = page == nullptr ? nullptr : page->Find(box.control);
   if (auto* text = dynamic_cast<TextBox*>(control)) text->Repair(box.text);
@@ -21,7 +21,7 @@ void ShowEntry(Session& session, const EntryBox& box) {
 
 bool CheckEntries(Session& session) {
   const EntryReport report = ExamineEntries(session.record);
-  for (const EntryBox& box : report.boxes) ShowEntry(session, box);
+  for (const RepairedEntry& box : report.boxes) ShowEntry(session, box);
   for (const EntryFinding& finding : report.findings) {
     session.platform.MessageBox(finding.text, Buttons::Ok, Icon::Exclamation, finding.title);
   }

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "display/PlotText.h"
+#include "shell/PenScope.h"
 
 namespace quilm {
 
@@ -197,6 +198,7 @@ void BoxedPath::Break() {
 }
 
 void DrawSmithGrid(const ChartScale& scale, Canvas& canvas) {
+  const PenScope pen(canvas);
   canvas.DrawWidth = 1;
   ResistanceCircle(scale, canvas, 0, pale);
   for (const f64 value : FineValues()) {
@@ -216,6 +218,7 @@ void DrawSmithGrid(const ChartScale& scale, Canvas& canvas) {
 }
 
 void DrawPolarGrid(const ChartScale& scale, Canvas& canvas) {
+  const PenScope pen(canvas);
   canvas.DrawWidth = 1;
   for (int decibels = -20; decibels <= -2; decibels += 2) {
     Ring(scale, canvas, std::pow(10.0, decibels / 20.0), pale);

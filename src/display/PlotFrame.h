@@ -1,7 +1,10 @@
-// The frame of the rectangular plots, and how frequencies and values map onto it.
+// The frame of the rectangular plots, and how places along the axis and values map onto it.
 #pragma once
 
-#include "core/DesignRecord.h"
+#include <span>
+#include <vector>
+
+#include "core/Types.h"
 #include "shell/Canvas.h"
 
 namespace quilm {
@@ -27,18 +30,18 @@ struct ValueScale {
   f32 bottom = 0;
 };
 
-// The index of the sweep's last point. Throws NumericFault when the number of intervals is no 16-bit number.
-int LastPoint(const DesignRecord& record);
-
-// How far along the sweep a frequency lies, 0 at Fstart and 1 at Fstop, by difference or by logarithm. Throws
-// NumericFault when the sweep has no width.
-f64 SweepFraction(const DesignRecord& record, f32 frequency);
-
-// The x of a frequency in a frame.
-f32 FrameX(const DesignRecord& record, f32 frequency, const PlotBox& box = plotFrame);
+// The x of a place along the axis, 0 at its start and 1 at its stop (see HorizontalAxis); not held within the frame.
+f32 FrameX(f64 fraction, const PlotBox& box = plotFrame);
 
 // The y of a value in a frame, held within it: a trace rides along the edge where it leaves the scale. Throws
 // NumericFault when the scale has no height.
 f32 FrameY(const ValueScale& scale, f64 value, const PlotBox& box = plotFrame);
+
+// The places of the points of a curve, held within the frame on all sides: what lies before or behind the axis stands
+// on its edge. `fractions` and `values` are of the same length. Throws like FrameY.
+std::vector<Point> FramePoints(std::span<const f64> fractions, const ValueScale& scale, std::span<const f32> values,
+                               const PlotBox& box = plotFrame);
+std::vector<Point> FramePoints(std::span<const f64> fractions, const ValueScale& scale, std::span<const f64> values,
+                               const PlotBox& box = plotFrame);
 
 }  // namespace quilm

@@ -7,37 +7,40 @@
 
 #include "core/NumericFault.h"
 #include "core/modGeneral.h"
-#include "display/PlotFrame.h"
+#include "display/PlotText.h"
+#include "shell/PenScope.h"
 
 namespace quilm {
 
 namespace {
 
 constexpr std::size_t mostLabels = 21;
+constexpr f32 labelsLeft = 1900;  // of the label at the frame's left edge
+constexpr f32 labelRow = 7100;
 constexpr f32 linearDistance = 0.05F - 1e-6F;  // of the frame's width; the tolerance lets equal steps through
 constexpr f32 logarithmicDistance = 0.04F - 1e-6F;
 constexpr std::array<f64, 10> decade = {1, 1.5, 2, 3, 4, 5, 6, 7, 8, 9};
 
-void Add(FrequencyGrid& grid, const DesignRecord& record, f32 frequency) {
+void Add(FrequencyGrid& grid, const HorizontalAxis& axis, f32 frequency) {
   grid.GridFreq[++grid.GridLast] = frequency;
-  grid.GridFraction[grid.GridLast] = static_cast<f32>(SweepFraction(record, frequency));
+  grid.GridFraction[grid.GridLast] = static_cast<f32>(axis.Fraction(frequency));
 }
 
-void AddLinear(FrequencyGrid& grid, const DesignRecord& record) {
-  const f64 start = record.Fstart;
-  const f64 span = static_cast<f64>(record.Fstop) - start;
-  for (int k = 0; k <= record.NrXints; ++k) Add(grid, record, static_cast<f32>(start + span * k / record.NrXints));
+void AddLinear(FrequencyGrid& grid, const HorizontalAxis& axis, i16 intervals) {
+  const f64 start = axis.Settings().start;
+  const f64 span = static_cast<f64>(axis.Settings().stop) - start;
+  for (int k = 0; k <= intervals; ++k) Add(grid, axis, static_cast<f32>(start + span * k / intervals));
 }
 
-void AddDecades(FrequencyGrid& grid, const DesignRecord& record) {
-  const f64 last = static_cast<f64>(record.Fstop) * 1.0001;
+void AddDecades(FrequencyGrid& grid, const HorizontalAxis& axis) {
+  const f64 last = static_cast<f64>(axis.Settings().stop) * 1.0001;
   for (f64 base = 0.001;; base *= 10) {
     for (const f64 step : decade) {
       const f64 value = base * step;
       if (!(value <= last)) return;
       // Compared in 32 bits: the decades are multiplied up and may miss a whole number by a hair.
       const f32 frequency = static_cast<f32>(value);
-      if (frequency >= record.Fstart) Add(grid, record, frequency);
+      if (frequency >= axis.Settings().start) Add(grid, axis, frequency);
     }
   }
 }
@@ -48,32 +51,32 @@ bool IsMultipleOf(f64 number, std::span<const f64> digits) {
                      [number](f64 digit) { return number == digit || number == 10 * digit || number == 100 * digit; });
 }
 
-bool IsUnnamed(const DesignRecord& record, const std::string& text) {
+bool IsUnnamed(const HorizontalAxis& axis, const std::string& text) {
   static constexpr f64 always[] = {1.5, 7, 9};
   static constexpr f64 overDecades[] = {2, 3, 4, 5, 6, 7, 8, 9};
   static constexpr f64 overOneDecade[] = {3, 4, 6, 7, 8, 9};
   const f64 number = LeadingNumber(text);  // "15k" counts as 15, whatever the multiplier
   if (IsMultipleOf(number, always)) return true;
-  const f32 ratio = record.Fstop / record.Fstart;
+  const f32 ratio = axis.Settings().stop / axis.Settings().start;
   if (ratio > 1000) return IsMultipleOf(number, overDecades);
   return ratio > 10 && IsMultipleOf(number, overOneDecade);
 }
 
 }  // namespace
 
-FrequencyGrid MakeFrequencyGrid(const DesignRecord& record) {
+FrequencyGrid MakeFrequencyGrid(const HorizontalAxis& axis, i16 intervals) {
   FrequencyGrid grid;
-  if (record.SweepMode == 1) {
-    AddLinear(grid, record);
+  if (axis.Settings().logarithmic) {
+    AddDecades(grid, axis);
   } else {
-    AddDecades(grid, record);
+    AddLinear(grid, axis, intervals);
   }
   return grid;
 }
 
-std::vector<GridLabel> LabelsOf(const DesignRecord& record, const FrequencyGrid& grid) {
-  const bool linear = record.SweepMode == 1;
-  const f32 distance = linear ? linearDistance : logarithmicDistance;
+std::vector<GridLabel> LabelsOf(const HorizontalAxis& axis, const FrequencyGrid& grid) {
+  const bool logarithmic = axis.Settings().logarithmic;
+  const f32 distance = logarithmic ? logarithmicDistance : linearDistance;
   std::vector<GridLabel> labels;
   f32 lastLabelled = -1;
   for (int k = 0; k <= grid.GridLast && labels.size() < mostLabels; ++k) {
@@ -82,16 +85,41 @@ std::vector<GridLabel> LabelsOf(const DesignRecord& record, const FrequencyGrid&
     // Nothing is crowded just before the label at the end of the frame.
     if (fraction > 0.95F && fraction < 0.999F) continue;
     const std::string text = Trimmed(FormatFrequency(grid.GridFreq[k]));
-    if (!linear && IsUnnamed(record, text)) continue;
+    if (logarithmic && IsUnnamed(axis, text)) continue;
     labels.push_back({fraction, text});
     lastLabelled = fraction;
   }
   return labels;
 }
 
-f32 HorizontalStep(const DesignRecord& record) {
-  if (record.NrYints == 0) throw NumericFault("Division by zero");
-  return static_cast<f32>(ToI16(static_cast<f64>(plotFrame.height) / static_cast<f64>(record.NrYints) - 1));
+f32 HorizontalStep(f32 intervals) {
+  if (intervals == 0) throw NumericFault("Division by zero");
+  return static_cast<f32>(ToI16(static_cast<f64>(plotFrame.height) / static_cast<f64>(intervals) - 1));
+}
+
+void DrawFrequencyLines(const FrequencyGrid& grid, Canvas& canvas, const PlotBox& box) {
+  for (int k = 0; k <= grid.GridLast; ++k) {
+    const f32 x = box.left + box.width * grid.GridFraction[k];
+    canvas.Line(x, box.top, x, box.Bottom(), gridColor);
+  }
+}
+
+void DrawVerticalGrid(const HorizontalAxis& axis, i16 intervals, Canvas& canvas) {
+  const FrequencyGrid grid = MakeFrequencyGrid(axis, intervals);
+  DrawFrequencyLines(grid, canvas);
+  const PenScope pen(canvas);
+  canvas.FontSize = labelSize;
+  for (const GridLabel& label : LabelsOf(axis, grid)) {
+    canvas.PrintAt(labelsLeft + plotFrame.width * label.fraction, labelRow, label.text);
+  }
+}
+
+void DrawHorizontalGrid(f32 intervals, Canvas& canvas) {
+  const f32 step = HorizontalStep(intervals);
+  if (!(step > 0)) throw NumericFault("Division by zero");
+  for (f32 y = plotFrame.top; y <= plotFrame.Bottom(); y += step) {
+    canvas.Line(plotFrame.left, y, plotFrame.Right(), y, gridColor);
+  }
 }
 
 }  // namespace quilm

@@ -1,11 +1,12 @@
-// The grid of the plots: which frequencies have a line, and which lines a label.
+// The grid of the plots: which frequencies have a line, which lines a label, and how they are drawn.
 #pragma once
 
 #include <string>
 #include <vector>
 
 #include "core/BoundedArray.h"
-#include "core/DesignRecord.h"
+#include "display/HorizontalAxis.h"
+#include "display/PlotFrame.h"
 #include "shell/Canvas.h"
 
 namespace quilm {
@@ -20,19 +21,29 @@ struct FrequencyGrid {
   i16 GridLast = -1;                             // index of the last line
 };
 
-// A linear sweep has NrXints equal steps; a logarithmic one the values 1, 1.5, 2, 3, ... 9 of each decade within it.
-FrequencyGrid MakeFrequencyGrid(const DesignRecord& record);
+// A linear axis has `intervals` equal steps; a logarithmic one the values 1, 1.5, 2, 3, ... 9 of each decade within it.
+FrequencyGrid MakeFrequencyGrid(const HorizontalAxis& axis, i16 intervals);
 
 struct GridLabel {
   f32 fraction;
   std::string text;
 };
 
-// The labels that leave one another room, at most 21. In a logarithmic sweep the more decades there are the fewer of a
+// The labels that leave one another room, at most 21. On a logarithmic axis the more decades there are the fewer of a
 // decade's lines are named.
-std::vector<GridLabel> LabelsOf(const DesignRecord& record, const FrequencyGrid& grid);
+std::vector<GridLabel> LabelsOf(const HorizontalAxis& axis, const FrequencyGrid& grid);
 
-// The distance between horizontal lines: one less than an even division, so that rounding never loses the bottom line.
-f32 HorizontalStep(const DesignRecord& record);
+// The distance between `intervals` + 1 horizontal lines in the frame: one less than an even division, so that rounding
+// never loses the bottom line. Throws NumericFault for no interval.
+f32 HorizontalStep(f32 intervals);
+
+// The vertical lines in any frame.
+void DrawFrequencyLines(const FrequencyGrid& grid, Canvas& canvas, const PlotBox& box = plotFrame);
+
+// The vertical lines of the plots' frame with their labels below it.
+void DrawVerticalGrid(const HorizontalAxis& axis, i16 intervals, Canvas& canvas);
+
+// The horizontal lines of the plots' frame. Throws NumericFault when they have no distance.
+void DrawHorizontalGrid(f32 intervals, Canvas& canvas);
 
 }  // namespace quilm

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cmath>
 
 #include "core/Fault.h"
 
@@ -41,8 +40,6 @@ const std::array<PlotKind, 10> kinds = {
      {10, {{"Input (real)", Q::Real}, {"Input (imaginary)", Q::Imaginary}}, {{Q::Real, 1}, {Q::Imaginary, 2}}},
      {13, {vswr, transmission}, {{Q::VSWR, 1}, {Q::Transmission, 2}}}}};
 
-constexpr f64 degreesPerRadian = 57.29578;
-
 }  // namespace
 
 std::span<const PlotButton> PlotButtons() { return buttons; }
@@ -55,64 +52,40 @@ bool IsRectangular(i16 code) {
   return std::any_of(kinds.begin(), kinds.end(), [code](const PlotKind& kind) { return kind.code == code; });
 }
 
-PlotKind KindOf(const DesignRecord& record, i16 code) {
+PlotKind KindOf(const PlotScales& scales) {
+  const i16 code = scales.PlotCode;
   const auto at = std::find_if(kinds.begin(), kinds.end(), [code](const PlotKind& kind) { return kind.code == code; });
   if (at == kinds.end()) throw Fault("There is no rectangular plot of code " + std::to_string(code));
   PlotKind kind = *at;
-  if (code == 1 && record.MagnifyMode == 1) {
+  if (code == 1 && scales.MagnifyMode == 1) {
     kind.axes.push_back({transmission.title, Quantity::TransmissionTimes10});
     kind.traces.insert(kind.traces.begin(), {Quantity::TransmissionTimes10, 2});
   }
   return kind;
 }
 
-ValueScale ScaleOf(const DesignRecord& record, Quantity quantity) {
+ValueScale ScaleOf(const PlotScales& scales, Quantity quantity) {
   switch (quantity) {
     case Quantity::Transmission:
     case Quantity::Return:
-      return {0, record.LossBottom};
+      return {0, scales.LossBottom};
     case Quantity::TransmissionTimes10:
-      return {0, 0.1F * record.LossBottom};
+      return {0, 0.1F * scales.LossBottom};
     case Quantity::Angle:
       return {180, -180};
     case Quantity::Delay:
-      return {record.DelayTop, record.DelayBottom};
+      return {scales.DelayTop, scales.DelayBottom};
     case Quantity::VSWR:
-      return {record.VSWRTop, 1};
+      return {scales.VSWRTop, 1};
     case Quantity::Zin:
     case Quantity::Real:
-      return {record.ImpedanceTop, 0};
+      return {scales.ImpedanceTop, 0};
     case Quantity::ZinAngle:
       return {90, -90};
     case Quantity::Imaginary:
-      return {record.ImpedanceTop, -record.ImpedanceTop};
+      return {scales.ImpedanceTop, -scales.ImpedanceTop};
   }
   return {};
-}
-
-f64 ValueOf(const Responses& r, Quantity quantity, int point) {
-  switch (quantity) {
-    case Quantity::Transmission:
-    case Quantity::TransmissionTimes10:
-      return r.RespTrans[point];
-    case Quantity::Return:
-      return r.RespReturn[point];
-    case Quantity::Angle:
-      return r.RespAngle[point];
-    case Quantity::Delay:
-      return r.RespDelay[point];
-    case Quantity::VSWR:
-      return r.RespVSWR[point];
-    case Quantity::Zin:
-      return r.RespZin[point];
-    case Quantity::ZinAngle:
-      return r.RespZinAngle[point];
-    case Quantity::Real:
-      return r.RespZin[point] * std::cos(r.RespZinAngle[point] / degreesPerRadian);
-    case Quantity::Imaginary:
-      return r.RespZin[point] * std::sin(r.RespZinAngle[point] / degreesPerRadian);
-  }
-  return 0;
 }
 
 }  // namespace quilm

@@ -5,14 +5,11 @@
 #include <string>
 #include <vector>
 
-#include "core/DesignRecord.h"
-#include "core/Responses.h"
+#include "core/PlotScales.h"
 #include "display/PlotFrame.h"
+#include "display/ResponseCurves.h"
 
 namespace quilm {
-
-// What a trace shows.
-enum class Quantity { Transmission, TransmissionTimes10, Return, Angle, Delay, VSWR, Zin, ZinAngle, Real, Imaginary };
 
 struct PlotAxis {
   std::string title;
@@ -40,18 +37,15 @@ struct PlotButton {
 
 std::span<const PlotButton> PlotButtons();
 
-// The plot of a code 1..7, 9, 10 or 13. With MagnifyMode 1 plot 1 has a second scale and a trace ten times as high.
+// The plot of PlotCode 1..7, 9, 10 or 13. With MagnifyMode 1 plot 1 has a second scale and a trace ten times as high.
 // Throws Fault for other codes.
-PlotKind KindOf(const DesignRecord& record, i16 code);
+PlotKind KindOf(const PlotScales& scales);
 
 // Whether one of the twelve plots has the code, and whether it stands in the rectangular frame.
 bool IsPlot(i16 code);
 bool IsRectangular(i16 code);
 
 // The scale of a quantity by the present settings.
-ValueScale ScaleOf(const DesignRecord& record, Quantity quantity);
-
-// The quantity at a sweep point.
-f64 ValueOf(const Responses& responses, Quantity quantity, int point);
+ValueScale ScaleOf(const PlotScales& scales, Quantity quantity);
 
 }  // namespace quilm

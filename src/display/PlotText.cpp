@@ -1,5 +1,7 @@
 #include "display/PlotText.h"
 
+#include "shell/PenScope.h"
+
 namespace quilm {
 
 void PrintEndingAt(Canvas& canvas, f32 x, f32 y, const std::string& text) {
@@ -19,6 +21,7 @@ void PrintAbout(Canvas& canvas, Point middle, const std::string& text) {
 void DrawFooters(Canvas& canvas) {
   constexpr f32 startLeft = 1400;
   constexpr f32 startRow = 7660;
+  const PenScope pen(canvas);
   canvas.FontSize = labelSize;
   canvas.PrintAt(footerLeft, footerRow, "Mousedown for data");
   canvas.PrintAt(startLeft, startRow, "Start");

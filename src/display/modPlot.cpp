@@ -4,13 +4,11 @@
 #include <cmath>
 #include <string>
 
-#include "core/NumericFault.h"
 #include "core/modGeneral.h"
-#include "display/PlotFrame.h"
+#include "display/PlotCurve.h"
 #include "display/PlotGrid.h"
-#include "display/PlotKinds.h"
 #include "display/PlotText.h"
-#include "display/PlotTrace.h"
+#include "shell/PenScope.h"
 
 namespace quilm {
 
@@ -21,28 +19,28 @@ constexpr f32 leftTitleStart = 1000;
 constexpr f32 rightTitleEnd = 12000;
 constexpr f32 leftLabelsEnd = 1800;
 constexpr f32 rightLabelsStart = 11130;
-constexpr f32 frequencyLabelRow = 7100;
-constexpr f32 highestLossBottom = -0.3F;
-constexpr f32 highestVSWR = 7;
-
-void DrawHorizontalGrid(const DesignRecord& record, Canvas& canvas) {
-  const f32 step = HorizontalStep(record);
-  if (!(step > 0)) throw NumericFault("Division by zero");
-  for (f32 y = plotFrame.top; y <= plotFrame.Bottom(); y += step) {
-    canvas.Line(plotFrame.left, y, plotFrame.Right(), y, gridColor);
-  }
-}
 
 std::string ScaleLabel(const ValueScale& scale, f64 part) {
   const f64 value = part * (static_cast<f64>(scale.bottom) - static_cast<f64>(scale.top)) + static_cast<f64>(scale.top);
   return Trimmed(FormatTime(static_cast<f32>(value)));
 }
 
-void DrawScale(const DesignRecord& record, const PlotAxis& axis, bool left, Canvas& canvas) {
-  const ValueScale scale = ScaleOf(record, axis.quantity);
+void DrawScales(const PlotSetup& setup, const PlotKind& kind, Canvas& canvas) {
+  ScaleSide side = ScaleSide::Left;
+  for (const PlotAxis& axis : kind.axes) {
+    DrawScale(ScaleOf(setup.scales, axis.quantity), axis.title, setup.scales.NrYints, side, canvas);
+    side = ScaleSide::Right;
+  }
+}
+
+}  // namespace
+
+void DrawScale(const ValueScale& scale, const std::string& title, f32 intervals, ScaleSide side, Canvas& canvas) {
+  const PenScope pen(canvas);
+  const bool left = side == ScaleSide::Left;
   canvas.FontSize = labelSize;
-  for (int k = 0; static_cast<f32>(k) <= record.NrYints; ++k) {
-    const f64 part = k / static_cast<f64>(record.NrYints);
+  for (int k = 0; static_cast<f32>(k) <= intervals; ++k) {
+    const f64 part = k / static_cast<f64>(intervals);
     const f32 y = static_cast<f32>(std::floor(part * static_cast<f64>(plotFrame.height))) + plotFrame.top - labelRise;
     if (left) {
       PrintEndingAt(canvas, leftLabelsEnd, y, ScaleLabel(scale, part));
@@ -52,39 +50,32 @@ void DrawScale(const DesignRecord& record, const PlotAxis& axis, bool left, Canv
   }
   canvas.FontSize = titleSize;
   if (left) {
-    canvas.PrintAt(leftTitleStart, titleRow, axis.title);
+    canvas.PrintAt(leftTitleStart, titleRow, title);
   } else {
-    PrintEndingAt(canvas, rightTitleEnd, titleRow, axis.title);
+    PrintEndingAt(canvas, rightTitleEnd, titleRow, title);
   }
 }
 
-void DrawVerticalGrid(const DesignRecord& record, Canvas& canvas) {
-  const FrequencyGrid grid = MakeFrequencyGrid(record);
-  DrawFrequencyLines(grid, canvas);
-  canvas.FontSize = labelSize;
-  for (const GridLabel& label : LabelsOf(record, grid)) {
-    canvas.PrintAt(1900 + plotFrame.width * label.fraction, frequencyLabelRow, label.text);
+i16 TraceWidth(const PlotScales& scales) { return std::max<i16>(scales.PlotLineWidth, 1); }
+
+void DrawTraces(const PlotSetup& setup, const ResponseSpans& responses, AxisPlaces& places, Canvas& canvas) {
+  const PenScope pen(canvas);
+  canvas.DrawWidth = TraceWidth(setup.scales);
+  const PlotPlane plane{setup.axis, places};
+  std::vector<f64> derived;
+  for (const PlotTrace& trace : KindOf(setup.scales).traces) {
+    const Color color = trace.color == 1 ? setup.colors.TraceColor1 : setup.colors.TraceColor2;
+    DrawCurve(CurveOf(responses, trace.quantity, derived), ScaleOf(setup.scales, trace.quantity), color, plane, canvas);
   }
 }
 
-// The round plots have theirs in the corner.
-bool HasDecibelScale(const DesignRecord& record, i16 plotCode) {
-  if (!IsRectangular(plotCode)) return true;
-  const PlotKind kind = KindOf(record, plotCode);
-  return std::any_of(kind.axes.begin(), kind.axes.end(), [](const PlotAxis& axis) {
-    return axis.quantity == Quantity::Transmission || axis.quantity == Quantity::Return;
-  });
-}
-
-}  // namespace
-
-void DrawTraces(const DesignRecord& record, const Responses& responses, i16 plotCode, const TraceColors& colors,
-                Canvas& canvas) {
-  canvas.DrawWidth = std::max<i16>(record.PlotLineWidth, 1);
-  for (const PlotTrace& trace : KindOf(record, plotCode).traces) {
-    DrawTrace(record, responses, trace.quantity, trace.color == 1 ? colors.TraceColor1 : colors.TraceColor2, canvas);
+std::vector<Point> TracePoints(const PlotSetup& setup, const ResponseSpans& responses, std::size_t i) {
+  std::vector<Point> points;
+  const f32 x = FrameX(setup.axis.Fraction(responses.freq[i]));
+  for (const PlotTrace& trace : KindOf(setup.scales).traces) {
+    points.push_back({x, FrameY(ScaleOf(setup.scales, trace.quantity), ValueOf(responses, trace.quantity, i))});
   }
-  canvas.DrawWidth = 1;
+  return points;
 }
 
 void BeginPlot(Canvas& canvas) {
@@ -95,38 +86,15 @@ void BeginPlot(Canvas& canvas) {
   canvas.FontName = "Arial";
 }
 
-void DrawPlot(const DesignRecord& record, const Responses& responses, i16 plotCode, const TraceColors& colors,
-              Canvas& canvas) {
-  const PlotKind kind = KindOf(record, plotCode);
+void DrawPlot(const PlotSetup& setup, const ResponseSpans& responses, AxisPlaces& places, Canvas& canvas) {
+  const PenScope pen(canvas);
+  const PlotKind kind = KindOf(setup.scales);
   BeginPlot(canvas);
-  DrawHorizontalGrid(record, canvas);
-  for (std::size_t i = 0; i < kind.axes.size(); ++i) DrawScale(record, kind.axes[i], i == 0, canvas);
-  DrawVerticalGrid(record, canvas);
-  DrawTraces(record, responses, plotCode, colors, canvas);
+  DrawHorizontalGrid(setup.scales.NrYints, canvas);
+  DrawScales(setup, kind, canvas);
+  DrawVerticalGrid(setup.axis, setup.scales.NrXints, canvas);
+  DrawTraces(setup, responses, places, canvas);
   DrawFooters(canvas);
-}
-
-void HoldLossBottom(DesignRecord& record, i16 plotCode) {
-  if (!HasDecibelScale(record, plotCode)) return;
-  record.LossBottom = std::min(record.LossBottom, highestLossBottom);
-}
-
-void AutoScale(DesignRecord& record, const Responses& responses) {
-  f32 lowestTransmission = 0;
-  f32 highestDelay = 0;
-  f32 highestRatio = 0;
-  f32 highestImpedance = 0;
-  const int last = LastPoint(record);
-  for (int i = 0; i <= last; ++i) {
-    lowestTransmission = std::min(lowestTransmission, responses.RespTrans[i]);
-    highestDelay = std::max(highestDelay, responses.RespDelay[i]);
-    highestRatio = std::max(highestRatio, responses.RespVSWR[i]);
-    highestImpedance = std::max(highestImpedance, responses.RespZin[i]);
-  }
-  record.LossBottom = lowestTransmission;
-  record.DelayTop = highestDelay;
-  record.VSWRTop = std::min(highestRatio, highestVSWR);
-  record.ImpedanceTop = highestImpedance;
 }
 
 }  // namespace quilm

@@ -1,34 +1,34 @@
 // Draws the rectangular plots of the responses.
 #pragma once
 
-#include "core/DesignRecord.h"
-#include "core/Responses.h"
+#include "display/PlotKinds.h"
+#include "display/PlotSetup.h"
+#include "display/ResponseCurves.h"
 #include "shell/Canvas.h"
 
 namespace quilm {
 
-struct TraceColors {
-  Color TraceColor1 = colorBlue;
-  Color TraceColor2 = colorRed;
-};
-
 // Draws the whole plot of a code 1..7, 9, 10 or 13 into an emptied canvas: grid, scales, labels, traces and footers.
-// Throws NumericFault when a scale has no height or the sweep no width.
-void DrawPlot(const DesignRecord& record, const Responses& responses, i16 plotCode, const TraceColors& colors,
-              Canvas& canvas);
+// `places` keeps what was computed for the frequencies. Throws NumericFault when a scale has no height or the sweep no
+// width.
+void DrawPlot(const PlotSetup& setup, const ResponseSpans& responses, AxisPlaces& places, Canvas& canvas);
+
+// Draws the traces alone, over what the canvas holds. Throws like DrawPlot.
+void DrawTraces(const PlotSetup& setup, const ResponseSpans& responses, AxisPlaces& places, Canvas& canvas);
+
+// Where sweep point i of the responses stands on each trace, in drawing order. Throws like DrawPlot.
+std::vector<Point> TracePoints(const PlotSetup& setup, const ResponseSpans& responses, std::size_t i);
+
+// The side of the frame that a scale stands on.
+enum class ScaleSide { Left, Right };
+
+// The title and the labels of a scale in `intervals` steps.
+void DrawScale(const ValueScale& scale, const std::string& title, f32 intervals, ScaleSide side, Canvas& canvas);
 
 // Empties the canvas for a plot and sets its scale and pen.
 void BeginPlot(Canvas& canvas);
 
-// Draws the traces alone, over what the canvas holds.
-void DrawTraces(const DesignRecord& record, const Responses& responses, i16 plotCode, const TraceColors& colors,
-                Canvas& canvas);
-
-// Holds LossBottom at -0.3 or below before a plot with a transmission or return scale.
-void HoldLossBottom(DesignRecord& record, i16 plotCode);
-
-// Sets the scales from the responses: LossBottom from the lowest transmission, the tops from the highest delay, VSWR (7
-// at most) and impedance. A response that never falls below 0 dB leaves LossBottom at 0.
-void AutoScale(DesignRecord& record, const Responses& responses);
+// The width of a trace's pen, at least 1 pixel.
+i16 TraceWidth(const PlotScales& scales);
 
 }  // namespace quilm

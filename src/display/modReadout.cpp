@@ -10,8 +10,9 @@
 #include "core/modGeneral.h"
 #include "display/PlotKinds.h"
 #include "display/PlotText.h"
-#include "display/PlotTrace.h"
+#include "display/modPlot.h"
 #include "display/modSmith.h"
+#include "shell/PenScope.h"
 
 namespace quilm {
 
@@ -33,15 +34,15 @@ constexpr std::array<const char*, columns> headings = {
 
 std::string Number(f64 value) { return FormatValue(static_cast<f32>(value)); }
 
-std::array<std::string, columns> ValuesAt(const Responses& r, int i) {
-  return {FormatFrequency(r.RespFreq[i]),
-          r.RespTrans[i] < lowestPrinted ? "<-120" : Number(r.RespTrans[i]),
-          Number(r.RespAngle[i]),
-          r.RespReturn[i] < lowestPrinted ? "< -120" : Number(r.RespReturn[i]),
-          FormatTime(r.RespDelay[i]),
-          r.RespVSWR[i] > highestRatio ? ">1000" : Number(r.RespVSWR[i]),
-          Number(r.RespZin[i]),
-          Number(r.RespZinAngle[i]),
+std::array<std::string, columns> ValuesAt(const ResponseSpans& r, std::size_t i) {
+  return {FormatFrequency(r.freq[i]),
+          r.trans[i] < lowestPrinted ? "<-120" : Number(r.trans[i]),
+          Number(r.angle[i]),
+          r.returnLoss[i] < lowestPrinted ? "< -120" : Number(r.returnLoss[i]),
+          FormatTime(r.delay[i]),
+          r.vswr[i] > highestRatio ? ">1000" : Number(r.vswr[i]),
+          Number(r.zin[i]),
+          Number(r.zinAngle[i]),
           Number(ValueOf(r, Quantity::Real, i)),
           Number(ValueOf(r, Quantity::Imaginary, i))};
 }
@@ -55,36 +56,31 @@ void PrintColumns(f32 row, const Texts& texts, Canvas& canvas) {
   }
 }
 
-std::vector<Point> MarkedPoints(const DesignRecord& record, const Responses& responses, const SmithView& view, int i) {
-  if (!IsRectangular(record.PlotCode)) return ChartPoints(record, responses, record.PlotCode, view, i);
-  std::vector<Point> points;
-  for (const PlotTrace& trace : KindOf(record, record.PlotCode).traces) {
-    points.push_back(TracePoint(record, responses, trace.quantity, i));
-  }
-  return points;
+std::vector<Point> MarkedPoints(const PlotSetup& setup, const ResponseSpans& responses, std::size_t i) {
+  if (IsRectangular(setup.scales.PlotCode)) return TracePoints(setup, responses, i);
+  return ChartPoints(setup, responses, i);
 }
 
 void DrawMarks(const std::vector<Point>& points, Canvas& canvas) {
+  const PenScope pen(canvas);
   canvas.DrawMode = PenMode::ExclusiveOr;
   canvas.DrawWidth = markWidth;
   for (const Point at : points) canvas.PSet(at.x, at.y, markColor);
-  canvas.DrawMode = PenMode::Copy;
-  canvas.DrawWidth = 1;
 }
 
 }  // namespace
 
 bool InReadoutFrame(f32 x, f32 y) { return x > plotFrame.left && x < plotFrame.Right() && y > plotFrame.top; }
 
-i16 CursorIndex(const DesignRecord& record, f32 x) {
+i16 CursorIndex(const SweepSettings& sweep, f32 x) {
   const f64 part = (static_cast<f64>(x) - static_cast<f64>(plotFrame.left)) / static_cast<f64>(plotFrame.width);
-  const f64 index = std::floor(part * (static_cast<f64>(record.NrIntervals) + 1));
+  const f64 index = std::floor(part * (static_cast<f64>(sweep.NrIntervals) + 1));
   if (!(index >= 0 && index <= responseBound)) throw BoundFault();
   return static_cast<i16>(index);
 }
 
-void DrawReadout(const DesignRecord& record, const Responses& responses, const SmithView& view, i16 index,
-                 Canvas& canvas) {
+void DrawReadout(const PlotSetup& setup, const ResponseSpans& responses, std::size_t index, Canvas& canvas) {
+  const PenScope pen(canvas);
   const f32 right = canvas.ScaleLeft + canvas.ScaleWidth;
   canvas.Rectangle(stripCorner.x, stripCorner.y, right, stripBottom, colorWhite, true);
   canvas.ForeColor = colorBlack;
@@ -92,7 +88,7 @@ void DrawReadout(const DesignRecord& record, const Responses& responses, const S
   PrintColumns(headingRow, headings, canvas);
   PrintColumns(headingRow + ReadoutValueRow, ValuesAt(responses, index), canvas);
   try {
-    DrawMarks(MarkedPoints(record, responses, view, index), canvas);
+    DrawMarks(MarkedPoints(setup, responses, index), canvas);
   } catch (const NumericFault&) {
     // The plot has told of its missing scale already; the values are worth reading all the same.
   }

@@ -1,9 +1,9 @@
 // The readout under the mouse: every response at one sweep point, and a mark on each trace.
 #pragma once
 
-#include "core/DesignRecord.h"
-#include "core/Responses.h"
-#include "core/SmithView.h"
+#include "core/Sweep.h"
+#include "display/PlotSetup.h"
+#include "display/ResponseCurves.h"
 #include "shell/Canvas.h"
 
 namespace quilm {
@@ -13,11 +13,10 @@ bool InReadoutFrame(f32 x, f32 y);
 
 // The sweep point under a pointer in the frame, 0..NrIntervals. It is linear in x for both kinds of sweep, as their
 // points lie evenly on the frame. Throws a BoundFault for a point that the responses do not hold.
-i16 CursorIndex(const DesignRecord& record, f32 x);
+i16 CursorIndex(const SweepSettings& sweep, f32 x);
 
-// Draws headings, values and marks of the sweep point over a plot. The marks are drawn in exclusive or, so that they
-// disturb no trace; a mark that has no place, for want of a scale, is left out.
-void DrawReadout(const DesignRecord& record, const Responses& responses, const SmithView& view, i16 index,
-                 Canvas& canvas);
+// Draws headings, values and marks of a point of the responses over a plot. The marks are drawn in exclusive or, so
+// that they disturb no trace; a mark that has no place, for want of a scale, is left out.
+void DrawReadout(const PlotSetup& setup, const ResponseSpans& responses, std::size_t index, Canvas& canvas);
 
 }  // namespace quilm

@@ -8,9 +8,12 @@
 #include "core/NumericFault.h"
 #include "core/modGeneral.h"
 #include "display/ChartGrid.h"
+#include "display/PlotCurve.h"
 #include "display/PlotGrid.h"
+#include "display/PlotKinds.h"
 #include "display/PlotText.h"
-#include "display/PlotTrace.h"
+#include "display/modPlot.h"
+#include "shell/PenScope.h"
 
 namespace quilm {
 
@@ -33,23 +36,25 @@ struct CornerTrace {
   Color color;
 };
 
-std::vector<CornerTrace> CornerTraces(i16 plotCode, const TraceColors& colors) {
-  std::vector<CornerTrace> traces = {{Quantity::Transmission, colors.TraceColor1}};
-  if (plotCode == polarCode) traces.push_back({Quantity::Angle, cornerAngleColor});
+bool IsSmith(const PlotSetup& setup) { return setup.scales.PlotCode == smithCode; }
+
+std::vector<CornerTrace> CornerTraces(const PlotSetup& setup) {
+  std::vector<CornerTrace> traces = {{Quantity::Transmission, setup.colors.TraceColor1}};
+  if (!IsSmith(setup)) traces.push_back({Quantity::Angle, cornerAngleColor});
   return traces;
 }
 
 // The zoom is the Smith chart's alone.
-ChartScale ScaleFor(const DesignRecord& record, i16 plotCode, const SmithView& view) {
-  return {record.SmithAspect, plotCode == smithCode ? view.ZoomFactor : 1};
+ChartScale ScaleFor(const PlotSetup& setup) {
+  return {setup.scales.SmithAspect, IsSmith(setup) ? setup.chart.ZoomFactor : 1};
 }
 
-const ChartBox& BoundsOf(i16 plotCode) { return plotCode == smithCode ? smithBounds : polarBounds; }
+const ChartBox& BoundsOf(const PlotSetup& setup) { return IsSmith(setup) ? smithBounds : polarBounds; }
 
 // The trace of a chart; in polar form a point beyond the right bound stands on it.
-Point ChartPoint(const DesignRecord& record, const Responses& responses, i16 plotCode, const ChartScale& scale, int i) {
-  if (plotCode == smithCode) {
-    const Phasor s11 = InputReflection(record, responses, i);
+Point ChartPoint(const PlotSetup& setup, const ResponseSpans& responses, const ChartScale& scale, std::size_t i) {
+  if (IsSmith(setup)) {
+    const Phasor s11 = InputReflection(responses, setup.reference, i);
     return scale.At(s11.u, s11.w);
   }
   const Phasor s21 = Transmission(responses, i);
@@ -58,15 +63,12 @@ Point ChartPoint(const DesignRecord& record, const Responses& responses, i16 plo
   return point;
 }
 
-void DrawChartTrace(const DesignRecord& record, const Responses& responses, i16 plotCode, const ChartScale& scale,
-                    Color color, Canvas& canvas) {
-  canvas.DrawWidth = std::max<i16>(record.PlotLineWidth, 1);
-  {
-    BoxedPath path(canvas, BoundsOf(plotCode), color);
-    const int last = LastPoint(record);
-    for (int i = 0; i <= last; ++i) path.To(ChartPoint(record, responses, plotCode, scale, i));
-  }
-  canvas.DrawWidth = 1;
+void DrawRoundTrace(const PlotSetup& setup, const ResponseSpans& responses, Canvas& canvas) {
+  const PenScope pen(canvas);
+  canvas.DrawWidth = TraceWidth(setup.scales);
+  const ChartScale scale = ScaleFor(setup);
+  BoxedPath path(canvas, BoundsOf(setup), setup.colors.TraceColor1);
+  for (std::size_t i = 0; i < responses.Count(); ++i) path.To(ChartPoint(setup, responses, scale, i));
 }
 
 // All reflections of one VSWR. Of a VSWR of 1 it is a point at the centre.
@@ -81,14 +83,15 @@ void DrawVSWRCircle(const ChartScale& scale, f32 vswr, Canvas& canvas) {
   canvas.Polyline(points, vswrColor);
 }
 
-void PrintCornerLabels(const DesignRecord& record, i16 plotCode, Canvas& canvas) {
+void PrintCornerLabels(const PlotSetup& setup, Canvas& canvas) {
+  const PenScope pen(canvas);
   canvas.FontSize = labelSize;
   const auto left = [&canvas](f32 y, const std::string& text) {
     PrintOnPatch(canvas, corner.left - cornerGap - canvas.TextWidth(text), y - labelRise, text);
   };
   left(corner.top, "0");
-  left(corner.Bottom(), ShortText(record.LossBottom, LeadingZero::Keep));
-  if (plotCode == polarCode) {
+  left(corner.Bottom(), ShortText(setup.scales.LossBottom, LeadingZero::Keep));
+  if (!IsSmith(setup)) {
     constexpr f32 pitch = corner.height / 2;
     f32 y = corner.top - labelRise;
     for (const char* text : {"180", "0", "-180"}) {
@@ -96,75 +99,93 @@ void PrintCornerLabels(const DesignRecord& record, i16 plotCode, Canvas& canvas)
       y += pitch;
     }
   }
-  canvas.PrintAt(corner.left, corner.Bottom() + cornerGap, FormatFrequency(record.Fstart));
-  PrintEndingAt(canvas, corner.Right(), corner.Bottom() + cornerGap, FormatFrequency(record.Fstop));
+  const AxisSettings& axis = setup.axis.Settings();
+  canvas.PrintAt(corner.left, corner.Bottom() + cornerGap, FormatFrequency(axis.start));
+  PrintEndingAt(canvas, corner.Right(), corner.Bottom() + cornerGap, FormatFrequency(axis.stop));
   canvas.PrintAt(corner.left, cornerTitleRow, "S21");
-  if (plotCode == polarCode) PrintEndingAt(canvas, corner.Right(), cornerTitleRow, "S21 angle");
+  if (!IsSmith(setup)) PrintEndingAt(canvas, corner.Right(), cornerTitleRow, "S21 angle");
 }
 
-void DrawCorner(const DesignRecord& record, const Responses& responses, i16 plotCode, const TraceColors& colors,
-                Canvas& canvas) {
+void DrawCornerFrame(const PlotSetup& setup, Canvas& canvas) {
   // Its own paper: a chart that is zoomed or stretched goes below it.
   canvas.Rectangle(corner.left, corner.top, corner.Right(), corner.Bottom(), colorWhite, true);
-  DrawFrequencyLines(MakeFrequencyGrid(record), canvas, corner);
+  DrawFrequencyLines(MakeFrequencyGrid(setup.axis, setup.scales.NrXints), canvas, corner);
   canvas.Rectangle(corner.left, corner.top, corner.Right(), corner.Bottom(), gridColor, false);
-  PrintCornerLabels(record, plotCode, canvas);
-  for (const CornerTrace& trace : CornerTraces(plotCode, colors)) {
-    DrawTrace(record, responses, trace.quantity, trace.color, canvas, corner);
+  PrintCornerLabels(setup, canvas);
+}
+
+void DrawCornerTraces(const PlotSetup& setup, const ResponseSpans& responses, AxisPlaces& places, Canvas& canvas) {
+  const PenScope pen(canvas);
+  canvas.DrawWidth = 1;
+  const PlotPlane plane{setup.axis, places, corner};
+  std::vector<f64> derived;
+  for (const CornerTrace& trace : CornerTraces(setup)) {
+    DrawCurve(CurveOf(responses, trace.quantity, derived), ScaleOf(setup.scales, trace.quantity), trace.color, plane,
+              canvas);
   }
 }
 
-void PrintNotes(const DesignRecord& record, i16 plotCode, Canvas& canvas) {
+void PrintNotes(const PlotSetup& setup, Canvas& canvas) {
+  const PenScope pen(canvas);
   canvas.FontSize = titleSize;
-  const std::string title = plotCode == smithCode ? "S11" : "S21";
+  const std::string title = IsSmith(setup) ? "S11" : "S21";
   PrintOnPatch(canvas, chartCenter.x - canvas.TextWidth(title) / 2, chartTitleRow, title);
-  if (plotCode != smithCode) return;
+  if (!IsSmith(setup)) return;
   canvas.FontSize = labelSize;
-  const std::string note = "Normalized to " + ShortText(record.Rstandard, LeadingZero::Keep) + " ohms";
+  const std::string note = "Normalized to " + ShortText(setup.reference, LeadingZero::Keep) + " ohms";
   PrintOnPatch(canvas, noteEnd.x - canvas.TextWidth(note), noteEnd.y, note);
+}
+
+void DrawRoundGrid(const PlotSetup& setup, Canvas& canvas) {
+  if (IsSmith(setup)) {
+    DrawSmithGrid(ScaleFor(setup), canvas);
+  } else {
+    DrawPolarGrid(ScaleFor(setup), canvas);
+  }
 }
 
 }  // namespace
 
-Phasor InputReflection(const DesignRecord& record, const Responses& responses, int i) {
-  if (record.Rstandard == 0) throw NumericFault("Division by zero");
-  const f64 reference = record.Rstandard;
-  const f64 r = ValueOf(responses, Quantity::Real, i) / reference;
-  const f64 x = ValueOf(responses, Quantity::Imaginary, i) / reference;
+Phasor InputReflection(const ResponseSpans& responses, f32 reference, std::size_t point) {
+  if (reference == 0) throw NumericFault("Division by zero");
+  const f64 r = ValueOf(responses, Quantity::Real, point) / reference;
+  const f64 x = ValueOf(responses, Quantity::Imaginary, point) / reference;
   const f64 square = (r + 1) * (r + 1) + x * x;
   if (square == 0) throw NumericFault("Division by zero");
   return {(r * r + x * x - 1) / square, 2 * x / square};
 }
 
-Phasor Transmission(const Responses& responses, int i) {
-  const f64 magnitude = std::pow(10.0, static_cast<f64>(responses.RespTrans[i]) / 20);
-  const f64 angle = static_cast<f64>(responses.RespAngle[i]) / degreesPerRadian;
+Phasor Transmission(const ResponseSpans& responses, std::size_t point) {
+  const f64 magnitude = std::pow(10.0, static_cast<f64>(responses.trans[point]) / 20);
+  const f64 angle = static_cast<f64>(responses.angle[point]) / degreesPerRadian;
   return {magnitude * std::cos(angle), magnitude * std::sin(angle)};
 }
 
-void DrawChart(const DesignRecord& record, const Responses& responses, i16 plotCode, const SmithView& view,
-               const TraceColors& colors, Canvas& canvas) {
-  const ChartScale scale = ScaleFor(record, plotCode, view);
+void DrawChart(const PlotSetup& setup, const ResponseSpans& responses, AxisPlaces& places, Canvas& canvas) {
+  const PenScope pen(canvas);
   BeginPlot(canvas);
-  if (plotCode == smithCode) {
-    DrawSmithGrid(scale, canvas);
-  } else {
-    DrawPolarGrid(scale, canvas);
-  }
-  DrawChartTrace(record, responses, plotCode, scale, colors.TraceColor1, canvas);
-  if (plotCode == smithCode && view.VSWRCircleOn == 1) DrawVSWRCircle(scale, view.VSWRCircle, canvas);
-  DrawCorner(record, responses, plotCode, colors, canvas);
-  PrintNotes(record, plotCode, canvas);
+  DrawRoundGrid(setup, canvas);
+  DrawRoundTrace(setup, responses, canvas);
+  if (IsSmith(setup) && setup.chart.VSWRCircleOn == 1) DrawVSWRCircle(ScaleFor(setup), setup.chart.VSWRCircle, canvas);
+  DrawCornerFrame(setup, canvas);
+  DrawCornerTraces(setup, responses, places, canvas);
+  PrintNotes(setup, canvas);
   DrawFooters(canvas);
 }
 
-std::vector<Point> ChartPoints(const DesignRecord& record, const Responses& responses, i16 plotCode,
-                               const SmithView& view, int i) {
+void DrawChartTraces(const PlotSetup& setup, const ResponseSpans& responses, AxisPlaces& places, Canvas& canvas) {
+  DrawRoundTrace(setup, responses, canvas);
+  DrawCornerTraces(setup, responses, places, canvas);
+}
+
+std::vector<Point> ChartPoints(const PlotSetup& setup, const ResponseSpans& responses, std::size_t point) {
   std::vector<Point> points;
-  const Point onChart = ChartPoint(record, responses, plotCode, ScaleFor(record, plotCode, view), i);
-  if (BoundsOf(plotCode).Holds(onChart)) points.push_back(onChart);
-  for (const CornerTrace& trace : CornerTraces(plotCode, TraceColors{})) {
-    points.push_back(TracePoint(record, responses, trace.quantity, i, corner));
+  const Point onChart = ChartPoint(setup, responses, ScaleFor(setup), point);
+  if (BoundsOf(setup).Holds(onChart)) points.push_back(onChart);
+  const f32 x = FrameX(setup.axis.Fraction(responses.freq[point]), corner);
+  for (const CornerTrace& trace : CornerTraces(setup)) {
+    const ValueScale scale = ScaleOf(setup.scales, trace.quantity);
+    points.push_back({x, FrameY(scale, ValueOf(responses, trace.quantity, point), corner)});
   }
   return points;
 }

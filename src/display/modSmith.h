@@ -4,10 +4,9 @@
 
 #include <vector>
 
-#include "core/DesignRecord.h"
-#include "core/Responses.h"
-#include "core/SmithView.h"
-#include "display/modPlot.h"
+#include "display/PlotSetup.h"
+#include "display/ResponseCurves.h"
+#include "shell/Canvas.h"
 
 namespace quilm {
 
@@ -15,23 +14,27 @@ inline constexpr i16 smithCode = 11;
 inline constexpr i16 polarCode = 12;
 inline constexpr f32 largestZoom = 16;
 
-// The input reflection at sweep point i against Rstandard, or the transmission as a complex amplitude: u the real part,
-// w the imaginary one. A reference impedance of 0 throws NumericFault.
+// A reflection or a transmission as a complex amplitude: u the real part, w the imaginary one.
 struct Phasor {
   f64 u = 0;
   f64 w = 0;
 };
-Phasor InputReflection(const DesignRecord& record, const Responses& responses, int i);
-Phasor Transmission(const Responses& responses, int i);
 
-// Draws the whole plot of code 11 or 12 into an emptied canvas. Throws NumericFault when Rstandard is 0, the sweep has
-// no width or the transmission's scale no height.
-void DrawChart(const DesignRecord& record, const Responses& responses, i16 plotCode, const SmithView& view,
-               const TraceColors& colors, Canvas& canvas);
+// The input reflection at a point against a reference in ohms. A reference of 0 throws NumericFault.
+Phasor InputReflection(const ResponseSpans& responses, f32 reference, std::size_t point);
 
-// Where sweep point i stands on the chart's traces, the round one first. A point that lies outside the chart's bounds
-// is left out, as the trace leaves it out. Throws like DrawChart.
-std::vector<Point> ChartPoints(const DesignRecord& record, const Responses& responses, i16 plotCode,
-                               const SmithView& view, int i);
+// The transmission at a point.
+Phasor Transmission(const ResponseSpans& responses, std::size_t point);
+
+// Draws the whole plot of code 11 or 12 into an emptied canvas. `places` keeps what was computed for the frequencies.
+// Throws NumericFault when the reference is 0, the sweep has no width or the transmission's scale no height.
+void DrawChart(const PlotSetup& setup, const ResponseSpans& responses, AxisPlaces& places, Canvas& canvas);
+
+// Draws the traces alone, the round one and those of the corner, over what the canvas holds. Throws like DrawChart.
+void DrawChartTraces(const PlotSetup& setup, const ResponseSpans& responses, AxisPlaces& places, Canvas& canvas);
+
+// Where a point of the responses stands on the chart's traces, the round one first. A point that lies outside the
+// chart's bounds is left out, as the trace leaves it out. Throws like DrawChart.
+std::vector<Point> ChartPoints(const PlotSetup& setup, const ResponseSpans& responses, std::size_t point);
 
 }  // namespace quilm

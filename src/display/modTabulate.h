@@ -1,27 +1,29 @@
 // The responses as a table of text.
 #pragma once
 
+#include <array>
 #include <string>
 #include <vector>
 
 #include "core/DesignRecord.h"
 #include "core/Responses.h"
-#include "shell/Canvas.h"
 
 namespace quilm {
 
-// One row a sweep point: frequency, transmission, angle, return, delay, VSWR, impedance and its angle, each
-// right-justified in ten characters (longer texts take what they need).
+// A row of the table by columns: frequency, transmission, angle, return, delay, VSWR, impedance and its angle.
+using TableRow = std::array<std::string, 8>;
+
+TableRow TableHeadings();
+TableRow TableUnits();
+
+// The texts of the sweep point `i`. Transmission and return below -120 dB read "<-120".
+TableRow TableFields(const Responses& responses, int i);
+
+// One row a sweep point, each text right-justified in ten characters (longer ones take what they need).
 std::vector<std::string> TabulatedRows(const DesignRecord& record, const Responses& responses);
 
 // The headings over the rows, in the same fields.
 std::string TabulatedHeadings();
 std::string TabulatedUnits();
-
-inline constexpr int rowsPerSheet = 40;
-
-// Draws the title and all rows on a printer, forty rows to a sheet, with the headings on each and the design file's
-// name at the foot, and ends the document.
-void PrintTable(const DesignRecord& record, const Responses& responses, Canvas& printer);
 
 }  // namespace quilm

@@ -3,9 +3,12 @@
 #include <algorithm>
 #include <cmath>
 
+#include "core/EntryLimits.h"
 #include "core/NumericFault.h"
+#include "core/Topology.h"
 #include "core/modGeneral.h"
 #include "files/LineReader.h"
+#include "files/StageLine.h"
 #include "network/DesignStanding.h"
 
 namespace quilm {
@@ -13,10 +16,6 @@ namespace quilm {
 namespace {
 
 constexpr f32 smallestRatio = 1.001F;  // of stopband to passband edge
-constexpr f32 smallestRipple = 0.0001F;
-constexpr f32 shortestStub = 1E-06F;  // degrees
-constexpr f32 fewestIntervals = 4;
-constexpr f32 mostIntervals = 2049;
 constexpr int mostMarkerWords = 10;
 constexpr int mostZeros = 41;
 constexpr std::size_t longestTitle = 80;
@@ -76,9 +75,6 @@ class Reader {
   void Prototype();
   void Stages();
   void ReadStage(Stage& stage);
-  void ReadParts(Stage& stage, bool keepL, bool keepC);
-  void ReadLine(LineValue& line, bool open);
-  void ReadCoupled(CoupledValue& coupled);
   void Sweep();
   void Scales();
   void Limits();
@@ -110,7 +106,7 @@ void Reader::DesignLine() {
   TakeWords("63");
   marker_ = "71";
   const i16 family = ToI16(PlainWhole());
-  // Family 8 returns as a manual network too: deliberate, its ladder is what counts.
+  // Family 8 returns as a manual network too: its ladder is what counts.
   record_.Family = family < familyButterworth || family > familyMderived ? i16{familyManual} : family;
   marker_ = "78";
   promisedOrder_ = PlainWhole();
@@ -148,13 +144,9 @@ void Reader::Frequencies() {
   record_.Width = Entry();
   record_.Fcenter = Entry();
   record_.FstopNorm = Entry();
-  const std::string& topology = record_.Topology;
-  if (IsLowOrHighpass(topology)) record_.Fcenter = 0;
+  if (IsLowOrHighpass(record_.Topology)) record_.Fcenter = 0;
   record_.FstopNorm = std::max(record_.FstopNorm, smallestRatio);
-  if (record_.CauerFlag == 1) {
-    const bool highpass = topology == "I" || topology == "J";
-    record_.Fstopband = highpass ? record_.Width / record_.FstopNorm : record_.Width * record_.FstopNorm;
-  }
+  if (record_.CauerFlag == 1) record_.Fstopband = StopbandEdge(record_.Topology, record_.Width, record_.FstopNorm);
   if (record_.CauerFlag == 0) record_.FstopNorm = 0;
 }
 
@@ -162,7 +154,7 @@ void Reader::Attenuations() {
   TakeWords("178");
   record_.Apass = Entry();
   record_.Astop = Entry();
-  if (record_.Family == familyCauer) record_.Apass = std::max(record_.Apass, smallestRipple);
+  if (record_.Family == familyCauer) record_.Apass = std::max(record_.Apass, limitsOf::Apass.lowest);
 }
 
 void Reader::Terminations() {
@@ -199,80 +191,25 @@ void Reader::Stages() {
   }
 }
 
-void Reader::ReadParts(Stage& stage, bool keepL, bool keepC) {
-  const PartValue L{Plain(), Plain()};
-  const PartValue C{Plain(), Plain()};
-  stage.Lval = keepL ? L : PartValue{};
-  stage.Cval = keepC ? C : PartValue{};
-}
-
-// Older files have no tolerances behind the three values of a line.
-void Reader::ReadLine(LineValue& line, bool open) {
-  line.degrees = Plain();
-  line.freq = Plain();
-  line.impedance = Plain();
-  if (open) line.degrees = std::max(line.degrees, shortestStub);
-  if (words_.More()) line.degreesTolerance = Plain();
-  if (words_.More()) line.impedanceTolerance = Plain();
-}
-
-void Reader::ReadCoupled(CoupledValue& coupled) {
-  coupled.primary = Plain();
-  coupled.secondary = Plain();
-  coupled.k = Plain();
-  if (words_.More()) coupled.primaryTolerance = Plain();
-  if (words_.More()) coupled.secondaryTolerance = Plain();
-  if (words_.More()) coupled.kTolerance = Plain();
-}
-
+// A missing word would repeat the one before it, so what older files do not have is not asked for. Of the places of a
+// pair the one that the type does not have is dropped.
 void Reader::ReadStage(Stage& stage) {
   stage.ElementType = ToI16(Entry());
-  switch (stage.ElementType) {
-    case SeriesL:
-    case ShuntL:
-      return ReadParts(stage, true, false);
-    case SeriesC:
-    case ShuntC:
-      return ReadParts(stage, false, true);
-    case SeriesSLC:
-    case ShuntSLC:
-    case SeriesPLC:
-    case ShuntPLC:
-      return ReadParts(stage, true, true);
-    case SeriesR:
-    case ShuntR:
-      stage.Rval = {Plain(), Plain()};
-      return;
-    case TransLine:
-    case SeriesShortStub:
-    case ShuntOpenStub:
-      return ReadLine(stage.TLval, false);
-    case SeriesOpenStub:
-    case ShuntShortStub:
-      return ReadLine(stage.TLval, true);
-    case Transformer:
-      stage.XfmrVal.value = Plain();
-      if (words_.More()) stage.XfmrVal.tolerance = Plain();
-      return;
-    case CoupledInductors:
-      return ReadCoupled(stage.CoupledVal);
-    case ShuntRLC:
-    case SeriesRLC:
-      ReadParts(stage, true, true);
-      stage.Rval = {Plain(), Plain()};
-      return;
-    default:
-      return;  // an empty place has no further fields
+  for (const StageNumber& number : StageLine(stage.ElementType)) {
+    if (!number.optional || words_.More()) number.field(stage) = Plain();
   }
+  if (!HasSlot(stage.ElementType, SlotCode::Inductance)) stage.Lval = {};
+  if (!HasSlot(stage.ElementType, SlotCode::Capacitance)) stage.Cval = {};
+  HoldStubLength(stage);
 }
 
 // The number of intervals that a linear sweep's step stands for. The step is written with seven digits, so a quotient
 // that misses a whole number by a thousandth is that number.
 f32 IntervalsOfStep(f32 span, f32 step) {
-  if (!(step > 0)) return fewestIntervals;
+  if (!(step > 0)) return limitsOf::NrIntervals.lowest;
   const f32 quotient = Fitting(static_cast<f64>(span) / static_cast<f64>(step));
   const f32 whole = std::round(quotient);
-  return std::min(std::fabs(quotient - whole) <= 0.001F ? whole : quotient, mostIntervals);
+  return std::min(std::fabs(quotient - whole) <= 0.001F ? whole : quotient, limitsOf::NrIntervals.highest);
 }
 
 void Reader::Sweep() {
@@ -286,7 +223,7 @@ void Reader::Sweep() {
   if (record_.SweepMode == 1) {
     record_.NrIntervals = IntervalsOfStep(record_.Fstop - record_.Fstart, Plain());
   } else if (record_.SweepMode == 2) {
-    record_.NrIntervals = std::clamp(Plain(), fewestIntervals, mostIntervals);
+    record_.NrIntervals = limitsOf::NrIntervals.Held(Plain());
   }
 }
 
@@ -399,6 +336,9 @@ void ClearCircuit(DesignRecord& record, Responses& responses) {
   }
   record.LimitsShown = 0;
   record.MarkerFreq.Fill(0);
+  record.MderivedZero.Fill(0);
+  record.Gj.Fill(0);
+  record.Hj.Fill(0);
   record.Apass = record.Astop = record.Width = record.Fcenter = record.Fstopband = 0;
   record.Family = familyNone;
   record.SweepMode = 0;

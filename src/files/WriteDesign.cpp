@@ -3,15 +3,18 @@
 #include <algorithm>
 #include <array>
 #include <initializer_list>
+#include <span>
+#include <vector>
 
 #include "core/NumberText.h"
+#include "core/Topology.h"
 #include "core/modGeneral.h"
+#include "files/StageLine.h"
 
 namespace quilm {
 
 namespace {
 
-constexpr f32 shortestStub = 1E-06F;  // degrees
 constexpr f32 highestVSWR = 7;
 constexpr std::size_t longestTitle = 80;
 
@@ -21,7 +24,8 @@ class Writer {
     text_ += text;
     text_ += "\r\n";
   }
-  void Numbers(std::initializer_list<f32> values) {
+  void Numbers(std::initializer_list<f32> values) { Numbers(std::span(values.begin(), values.size())); }
+  void Numbers(std::span<const f32> values) {
     for (const f32 value : values) text_ += NumText(value);
     Line({});
   }
@@ -78,46 +82,14 @@ bool Holds(const DesignRecord& record, std::initializer_list<i16> types) {
   return false;
 }
 
+// An empty place and a form of entry have no line.
 void WriteStage(Stage& stage, Writer& out) {
-  const f32 type = stage.ElementType;
-  const auto& [L, Ltol] = stage.Lval;
-  const auto& [C, Ctol] = stage.Cval;
-  const auto& [R, Rtol] = stage.Rval;
-  LineValue& line = stage.TLval;
-  const CoupledValue& pair = stage.CoupledVal;
-  switch (stage.ElementType) {
-    case SeriesL:
-    case ShuntL:
-    case SeriesC:
-    case ShuntC:
-    case SeriesSLC:
-    case ShuntSLC:
-    case SeriesPLC:
-    case ShuntPLC:
-      return out.Numbers({type, L, Ltol, C, Ctol});
-    case SeriesR:
-    case ShuntR:
-      return out.Numbers({type, R, Rtol});
-    case SeriesOpenStub:
-    case ShuntShortStub:
-      line.degrees = std::max(line.degrees, shortestStub);
-      [[fallthrough]];
-    case TransLine:
-    case SeriesShortStub:
-    case ShuntOpenStub:
-      return out.Numbers(
-          {type, line.degrees, line.freq, line.impedance, line.degreesTolerance, line.impedanceTolerance});
-    case Transformer:
-      return out.Numbers({type, stage.XfmrVal.value, stage.XfmrVal.tolerance});
-    case CoupledInductors:
-      return out.Numbers({type, pair.primary, pair.secondary, pair.k, pair.primaryTolerance, pair.secondaryTolerance,
-                          pair.kTolerance});
-    case ShuntRLC:
-    case SeriesRLC:
-      return out.Numbers({type, L, Ltol, C, Ctol, R, Rtol});
-    default:
-      return;  // an empty place has no line
-  }
+  const std::vector<StageNumber> numbers = StageLine(stage.ElementType);
+  if (numbers.empty()) return;
+  HoldStubLength(stage);
+  std::vector<f32> line = {static_cast<f32>(stage.ElementType)};
+  for (const StageNumber& number : numbers) line.push_back(number.field(stage));
+  out.Numbers(line);
 }
 
 void WriteStages(DesignRecord& record, Writer& out) {
@@ -131,7 +103,7 @@ void WriteStages(DesignRecord& record, Writer& out) {
 // The last field of the sweep line: a step for a linear sweep, a number of intervals for a logarithmic one.
 std::string SweepField(const DesignRecord& record) {
   if (record.SweepMode == 1) {
-    // Below 8 intervals the step is written as 0, which reads back as 4 intervals: deliberate, part of the format.
+    // Below 8 intervals the step is written as 0, which every reader of the format takes for 4 intervals.
     return NumText(record.NrIntervals >= 8 ? (record.Fstop - record.Fstart) / record.NrIntervals : 0.0F);
   }
   if (record.SweepMode == 2) return record.NrIntervals <= 10 ? NumText(i16{10}) : NumText(record.NrIntervals);
@@ -151,7 +123,8 @@ void WriteSweepAndScales(const DesignRecord& record, Writer& out) {
 constexpr std::array<const char*, plotTypes> plotNames = {"transmission plot", "return plot", "transmission angle plot",
                                                           "group delay plot",  "VSWR plot",   "input impedance plot"};
 
-// Rows are counted, then numbered from 1 to the count: a gap in the table loses the rows behind it. Required.
+// Rows are counted, then numbered from 1 to the count: a gap in the table loses the rows behind it. The numbering is
+// the format's, and its other readers count on it.
 void WriteLimitsOfPlot(const DesignRecord& record, int plot, Writer& out) {
   const int count = record.LimitCount[plot];
   out.Line(std::to_string(count) + " limits for " + plotNames[static_cast<std::size_t>(plot - 1)] +

@@ -29,13 +29,9 @@ void TakeOldLayout(Session& session, FileLayout layout) {
   session.pages.ShowPage(PageId::Schematic);
 }
 
-}  // namespace
-
-Got modReadQuilmFiles(Session& session, std::string& path) {
-  if (path.empty()) return Got::Nothing;
+Got TakeDesign(Session& session, std::istream& in, std::string& path) {
   ClearCircuit(session.record, session.responses);
   UnloadDesignPages(session);
-  std::ifstream in(path, std::ios::binary);
   const ReadOutcome outcome = ReadDesign(in, session.record);
   session.familyOption = session.record.Family;
   if (outcome.failed) {
@@ -48,15 +44,24 @@ Got modReadQuilmFiles(Session& session, std::string& path) {
   return Got::OlderDesign;
 }
 
+}  // namespace
+
+Got modReadQuilmFiles(Session& session, std::string& path) {
+  if (path.empty()) return Got::Nothing;
+  std::ifstream in(path, std::ios::binary);
+  return TakeDesign(session, in, path);
+}
+
 Got GetDesign(Session& session, const std::string& title) {
   const std::optional<std::string> chosen = session.platform.OpenDialog(title, quilmFileFilter);
   if (!chosen) return Got::Nothing;
-  if (!std::ifstream(*chosen, std::ios::binary)) {
+  std::ifstream in(*chosen, std::ios::binary);
+  if (!in) {
     session.platform.MessageBox("The file " + *chosen + " cannot be opened.", Buttons::Ok, Icon::Exclamation, title);
     return Got::Nothing;
   }
   std::string path = *chosen;
-  const Got got = modReadQuilmFiles(session, path);
+  const Got got = TakeDesign(session, in, path);
   if (got == Got::Failure) return got;
   session.record.DesignFileName = path;
   session.note = "Read " + path;

@@ -1,8 +1,8 @@
 #include "files/modWriteQuilmFile.h"
 
 #include <cstdio>
-#include <fstream>
 
+#include "core/TextFile.h"
 #include "files/WriteDesign.h"
 #include "files/modReadQuilmFiles.h"
 #include "shell/Session.h"
@@ -37,10 +37,7 @@ bool modWriteQuilmFile(Session& session) {
     throw ProgramEnd{};
   }
   const std::string text = DesignText(session.record, ShortDate(session.platform.Now()));
-  std::ofstream file(session.record.DesignFileName, std::ios::binary | std::ios::trunc);
-  file << text;
-  file.flush();
-  if (file.good()) return true;
+  if (WriteTextFile(session.record.DesignFileName, text)) return true;
   session.platform.Beep();
   return false;
 }

@@ -7,9 +7,11 @@ namespace quilm {
 
 class Session;
 
-// Writes the design to DesignFileName, over any file there. False when that failed: after a beep, with the file as far
-// as it got and without a message. With no network the program waits a moment and ends: so does a save with no design.
-// Meant, and kept.
+// Writes the design to DesignFileName, over any file there. False when that failed: after a beep, without a message and
+// with the old file as it was.
+//
+// With no network the program waits a moment and ends. The ways out of the program rest on it: a run that designed
+// nothing leaves through the same call, and a save with no design ends likewise.
 bool modWriteQuilmFile(Session& session);
 
 // Asks for a file name and writes the design there. A cancelled dialog changes nothing.

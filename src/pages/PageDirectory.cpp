@@ -55,8 +55,6 @@ PageDirectory AllPages() {
       {PageId::EnterCenterFreq, Make<frmEnterCenterFreq>},
       {PageId::EnterInput, Make<frmEnterInput>},
       {PageId::EnterFstopband, Make<frmEnterFstopband>},
-      {PageId::EnterAstop, Make<frmEnterAstop>},
-      {PageId::EnterTopology, Make<frmEnterTopology>},
   };
 }
 

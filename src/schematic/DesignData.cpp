@@ -3,9 +3,10 @@
 #include <algorithm>
 #include <cmath>
 
+#include "core/ElementCatalogue.h"
 #include "core/NumberText.h"
+#include "core/Topology.h"
 #include "core/modGeneral.h"
-#include "schematic/StageLabels.h"
 
 namespace quilm {
 
@@ -17,15 +18,16 @@ using Formatter = std::string (*)(f32);
 
 std::string Text(f32 value, Formatter format) { return Trimmed(format(value)); }
 
-std::optional<PartRange> RangeOf(const DesignRecord& record, bool (*has)(i16), f32 (*valueOf)(const Stage&)) {
+std::optional<PartRange> RangeOf(const DesignRecord& record, SlotCode part) {
   std::optional<PartRange> range;
   for (int s = 1; s <= record.Stages; ++s) {
-    const Stage& stage = record.stage[s];
-    const f32 value = std::fabs(valueOf(stage));
-    if (!has(stage.ElementType) || value == 0) continue;
-    if (!range) range = PartRange{value, value};
-    range->largest = std::max(range->largest, value);
-    range->smallest = std::min(range->smallest, value);
+    for (const Slot& slot : SlotsOf(record.stage[s].ElementType)) {
+      const f32 value = std::fabs(slot.value(record.stage[s]));
+      if (slot.code != part || value == 0) continue;
+      if (!range) range = PartRange{value, value};
+      range->largest = std::max(range->largest, value);
+      range->smallest = std::min(range->smallest, value);
+    }
   }
   return range;
 }
@@ -35,16 +37,15 @@ std::string RatioText(const std::optional<PartRange>& range) {
 }
 
 // The stopband's edge follows from the prototype where there is one: an even order has it as a result.
-f32 StopbandEdge(const DesignRecord& record) {
+f32 CauerStopband(const DesignRecord& record) {
   if (!(record.FstopNorm > 0)) return record.Fstopband;
-  const bool highpass = record.Topology == "I" || record.Topology == "J";
-  return highpass ? record.Width / record.FstopNorm : record.Width * record.FstopNorm;
+  return StopbandEdge(record.Topology, record.Width, record.FstopNorm);
 }
 
 // Cauer data of the lowpass that the design is made of.
 void AddStopband(std::vector<std::string>& rows, const DesignRecord& record) {
   if (record.Family != familyCauer) return;
-  const f32 edge = StopbandEdge(record);
+  const f32 edge = CauerStopband(record);
   if (edge > 0) rows.push_back("Cauer LP stopband freq:  " + Text(edge, FormatFrequency));
   if (record.Astop > 0) rows.push_back("Cauer LP stopband depth:  " + Text(record.Astop, FormatValue));
 }
@@ -77,13 +78,9 @@ DataGroup Extremes(const DesignRecord& record) {
 
 }  // namespace
 
-std::optional<PartRange> CapacitorRange(const DesignRecord& record) {
-  return RangeOf(record, HasCapacitor, [](const Stage& stage) { return stage.Cval.value; });
-}
+std::optional<PartRange> CapacitorRange(const DesignRecord& record) { return RangeOf(record, SlotCode::Capacitance); }
 
-std::optional<PartRange> InductorRange(const DesignRecord& record) {
-  return RangeOf(record, HasInductor, [](const Stage& stage) { return stage.Lval.value; });
-}
+std::optional<PartRange> InductorRange(const DesignRecord& record) { return RangeOf(record, SlotCode::Inductance); }
 
 std::string CapacitorRatioText(const DesignRecord& record) {
   return "Capacitors: " + RatioText(CapacitorRange(record));

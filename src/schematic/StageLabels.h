@@ -30,11 +30,8 @@ struct LossLabel {
 // capacitor's is left out, as is one that cannot be computed.
 std::vector<LossLabel> LossLabels(const DesignRecord& record, const Stage& stage, f32 Fq);
 
-// Whether the type's parts lie in the line, so that a balanced network has them on both rails.
+// Whether the type is parts in the line or a piece of line, which a balanced network has on both rails.
 bool IsSeriesElement(i16 elementType);
-
-bool HasInductor(i16 elementType);
-bool HasCapacitor(i16 elementType);
 
 // Whether any value of the stage is below 0, in use or not.
 bool HasNegativeValue(const Stage& stage);

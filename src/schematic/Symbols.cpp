@@ -2,9 +2,10 @@
 
 #include <array>
 #include <cmath>
-#include <initializer_list>
 #include <span>
+#include <vector>
 
+#include "core/ElementCatalogue.h"
 #include "schematic/PartSymbols.h"
 
 namespace quilm {
@@ -17,8 +18,22 @@ constexpr std::array inductor = {Part::Inductor};
 constexpr std::array mirroredInductor = {Part::MirroredInductor};
 constexpr std::array capacitor = {Part::Capacitor};
 constexpr std::array resistor = {Part::Resistor};
-constexpr std::array inductorAndCapacitor = {Part::Inductor, Part::Capacitor};
-constexpr std::array allThree = {Part::Resistor, Part::Inductor, Part::Capacitor};
+
+// From the line on: a resistor comes first.
+std::vector<Part> PartsOf(const Element& element) {
+  std::vector<Part> parts;
+  if (element.Has(SlotCode::Resistance)) parts.push_back(Part::Resistor);
+  if (element.Has(SlotCode::Inductance)) parts.push_back(Part::Inductor);
+  if (element.Has(SlotCode::Capacitance)) parts.push_back(Part::Capacitor);
+  return parts;
+}
+
+// From the rail on: a resistor comes last.
+std::vector<Parts> BranchesOf(const Element& element) {
+  std::vector<Parts> branches = {inductor, capacitor};
+  if (element.Has(SlotCode::Resistance)) branches.push_back(resistor);
+  return branches;
+}
 
 struct StageWidths {
   f32 schematic;
@@ -47,7 +62,7 @@ class StageDrawing {
   }
 
   // Branches side by side in the line, the first on the rail and the others between the rails.
-  void InLineParallel(std::initializer_list<Parts> branches) const {
+  void InLineParallel(const std::vector<Parts>& branches) const {
     constexpr f32 mostSpread = 1.25F;
     constexpr f32 sharedSpread = 0.95F;  // both rails' branches share the room between them
     if (balanced_) {
@@ -141,7 +156,7 @@ class StageDrawing {
   void LowerRail() const { Rail(box_.gap).Lead(0, box_.width); }
 
   // Below the rail for a positive spread, above it for a negative one.
-  void HangBranches(std::initializer_list<Parts> branches, f32 rail, f32 spread) const {
+  void HangBranches(const std::vector<Parts>& branches, f32 rail, f32 spread) const {
     constexpr f32 halfFrame = 320;
     constexpr f32 firstDrop = 210;
     constexpr f32 nextDrop = 230;
@@ -207,43 +222,24 @@ f32 SymbolWidth(i16 elementType) { return WidthsOf(elementType).symbol; }
 
 void DrawStage(Canvas& canvas, i16 elementType, const StageBox& box, Color color, RailForm form) {
   const StageDrawing stage(canvas, box, color, form);
-  switch (elementType) {
-    case SeriesL:
-      return stage.InLine(inductor);
-    case SeriesC:
-      return stage.InLine(capacitor);
-    case SeriesR:
-      return stage.InLine(resistor);
-    case SeriesSLC:
-      return stage.InLine(inductorAndCapacitor);
-    case SeriesPLC:
-      return stage.InLineParallel({inductor, capacitor});
-    case SeriesRLC:
-      return stage.InLineParallel({inductor, capacitor, resistor});
-    case ShuntL:
-      return stage.ToCommon(inductor);
-    case ShuntC:
-      return stage.ToCommon(capacitor);
-    case ShuntR:
-      return stage.ToCommon(resistor);
-    case ShuntSLC:
-      return stage.ToCommon(inductorAndCapacitor);
-    case ShuntRLC:
-      return stage.ToCommon(allThree);
-    case ShuntPLC:
-      return stage.ToCommonParallel(mirroredInductor, capacitor);
-    case TransLine:
+  const Element* element = FindElement(elementType);
+  if (element == nullptr) return;
+  const bool series = element->placement == Placement::Series;
+  switch (element->joint) {
+    case Joint::Chain:
+      return series ? stage.InLine(PartsOf(*element)) : stage.ToCommon(PartsOf(*element));
+    case Joint::Parallel:
+      return series ? stage.InLineParallel(BranchesOf(*element)) : stage.ToCommonParallel(mirroredInductor, capacitor);
+    case Joint::Line:
       return stage.LineInLine();
-    case SeriesShortStub:
-    case SeriesOpenStub:
-      return stage.StubInLine(elementType == SeriesShortStub);
-    case ShuntShortStub:
-    case ShuntOpenStub:
-      return stage.StubToCommon(elementType == ShuntShortStub);
-    case Transformer:
-    case CoupledInductors:
-      return stage.Windings(elementType == Transformer);
-    default:
+    case Joint::ShortStub:
+    case Joint::OpenStub:
+      return series ? stage.StubInLine(element->joint == Joint::ShortStub)
+                    : stage.StubToCommon(element->joint == Joint::ShortStub);
+    case Joint::Transformer:
+    case Joint::Coupled:
+      return stage.Windings(element->joint == Joint::Transformer);
+    case Joint::Reactance:
       return;
   }
 }

@@ -12,7 +12,7 @@ namespace {
 
 // Takes the focus to the control, which leaves the text box that had it. What its handler does may lead elsewhere.
 void GoTo(ScriptRun& run, const std::string& name) {
-  FindControl(run, name);
+  if (LookUpArea(run, name) == nullptr) FindControl(run, name);
   run.focus.MoveTo(run.Top(), name);
   run.focus.FollowWish();
 }
@@ -20,7 +20,12 @@ void GoTo(ScriptRun& run, const std::string& name) {
 void Press(ScriptRun& run, const std::string& arguments) {
   const std::string name = Arguments(arguments, 1, 1, "press NAME").front();
   GoTo(run, name);
-  Click(run.session, FindControl(run, name));
+  PictureBox* picture = LookUpControl(run, name) == nullptr ? LookUpArea(run, name) : nullptr;
+  if (picture != nullptr) {
+    PressArea(run.session, *picture, name);
+  } else {
+    Click(run.session, FindControl(run, name));
+  }
 }
 
 // The first character of UTF-8 text with the bytes that belong to it.

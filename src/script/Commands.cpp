@@ -18,6 +18,21 @@ NumberType Parsed(const std::string& word, const char* kind) {
   return value;
 }
 
+// The page on top and, where it is a tool that stands beside another page, that one.
+std::vector<Page*> PagesInSight(ScriptRun& run) {
+  std::vector<Page*> pages{&run.Top()};
+  if (Page* beside = run.session.pages.Beside()) pages.push_back(beside);
+  return pages;
+}
+
+std::vector<PictureBox*> PicturesOf(const Page& page) {
+  std::vector<PictureBox*> boxes;
+  for (Control* control : page.Controls()) {
+    if (auto* box = dynamic_cast<PictureBox*>(control)) boxes.push_back(box);
+  }
+  return boxes;
+}
+
 }  // namespace
 
 void RunCommand(ScriptRun& run, const Command& command) {
@@ -38,7 +53,7 @@ std::vector<std::string> Arguments(const std::string& arguments, std::size_t lea
 }
 
 std::string WholeArgument(const std::string& arguments, std::string_view form) {
-  std::string text = Trimmed(arguments);
+  std::string text = WithoutBlanksAtEnd(arguments);
   if (text.empty()) throw CommandFailure{"the form is: " + std::string(form)};
   return text;
 }
@@ -57,20 +72,44 @@ int CountArgument(const std::string& word, int least, int most) {
   return value;
 }
 
+Control* LookUpControl(ScriptRun& run, const std::string& name) {
+  for (const Page* page : PagesInSight(run)) {
+    if (Control* control = page->Find(name)) return control;
+  }
+  return nullptr;
+}
+
 Control& FindControl(ScriptRun& run, const std::string& name) {
-  const Page& page = run.Top();
-  Control* control = page.Find(name);
-  if (control == nullptr) throw CommandFailure{"there is no " + name + " on " + std::string(page.Name())};
+  Control* control = LookUpControl(run, name);
+  if (control == nullptr) throw CommandFailure{"there is no " + name + " on " + std::string(run.Top().Name())};
   return *control;
 }
 
-PictureBox& PagePicture(ScriptRun& run) {
-  const Page& page = run.Top();
-  for (Control* control : page.Controls()) {
-    auto* box = dynamic_cast<PictureBox*>(control);
-    if (box != nullptr && box->Shown()) return *box;
+PictureBox* LookUpArea(ScriptRun& run, const std::string& name) {
+  PictureBox* hidden = nullptr;
+  for (const Page* page : PagesInSight(run)) {
+    for (PictureBox* box : PicturesOf(*page)) {
+      if (box->FindArea(name) == nullptr) continue;
+      if (box->Shown()) return box;
+      hidden = box;
+    }
   }
-  throw CommandFailure{"there is no picture on " + std::string(page.Name())};
+  return hidden;
+}
+
+PictureBox& PagePicture(ScriptRun& run) {
+  const std::vector<Page*> pages = PagesInSight(run);
+  if (pages.size() > 1) {
+    for (PictureBox* box : PicturesOf(*pages.back())) {
+      if (box->Usable()) return *box;
+    }
+  }
+  for (const Page* page : pages) {
+    for (PictureBox* box : PicturesOf(*page)) {
+      if (box->Shown()) return *box;
+    }
+  }
+  throw CommandFailure{"there is no picture on " + std::string(run.Top().Name())};
 }
 
 }  // namespace quilm

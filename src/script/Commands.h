@@ -37,8 +37,12 @@ std::string WholeArgument(const std::string& arguments, std::string_view form);
 f32 NumberArgument(const std::string& word);
 int CountArgument(const std::string& word, int least, int most);
 
-// The control of the page on top.
+// The control of the page on top, or of the page that it stands beside; nullptr for none. FindControl fails instead.
+Control* LookUpControl(ScriptRun& run, const std::string& name);
 Control& FindControl(ScriptRun& run, const std::string& name);
+
+// The picture with an area of that name on these pages, one that is seen before one that is hidden; nullptr for none.
+PictureBox* LookUpArea(ScriptRun& run, const std::string& name);
 
 template <class Kind>
 Kind& FindKind(ScriptRun& run, const std::string& name, std::string_view kind) {
@@ -47,7 +51,8 @@ Kind& FindKind(ScriptRun& run, const std::string& name, std::string_view kind) {
   return *control;
 }
 
-// The picture of the page on top that the user sees.
+// The picture that the mouse is for and that is printed without a name: the one left free on the page beside which a
+// tool stands, else the first one seen of the page on top, else of the page beside.
 PictureBox& PagePicture(ScriptRun& run);
 
 }  // namespace quilm

@@ -10,7 +10,9 @@
 
 namespace quilm {
 
+class Button;
 class Page;
+class PictureBox;
 
 // The event "record" with the fields of these names, with all of them when there are none. "stages" asks for the
 // ladder, the name of a stage's value ("Lval") for that value of each stage. Throws CommandFailure for a name that the
@@ -24,7 +26,9 @@ Json ResponsesEvent(const DesignRecord& record, const Responses& responses, cons
 // The event "page": what the user sees of the page.
 Json PageEvent(const Page& page);
 
-// The event "canvas": the operations of a picture by the names of the canvas' members.
-Json CanvasEvent(const std::string& name, const Picture& picture);
+// The event "canvas": the operations of a picture by the names of the canvas' members, those of the mark that lies over
+// it, and its named areas. A button has neither mark nor areas.
+Json CanvasEvent(const PictureBox& box);
+Json CanvasEvent(const Button& button);
 
 }  // namespace quilm

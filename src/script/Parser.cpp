@@ -14,7 +14,7 @@ std::string_view WithoutLeadingBlanks(std::string_view text) {
 
 }  // namespace
 
-std::string Trimmed(std::string_view text) {
+std::string WithoutBlanksAtEnd(std::string_view text) {
   const std::size_t last = text.find_last_not_of(blanks);
   return std::string(text.substr(0, last == std::string_view::npos ? 0 : last + 1));
 }
@@ -40,7 +40,7 @@ std::optional<Command> ParseLine(std::string_view line, int number) {
   const std::string_view text = WithoutLeadingBlanks(line);
   if (text.empty() || text.front() == '#') return std::nullopt;
   const FirstWord split = SplitFirst(text);
-  return Command{number, Trimmed(text), split.word, split.rest};
+  return Command{number, WithoutBlanksAtEnd(text), split.word, split.rest};
 }
 
 std::optional<Command> ScriptSource::Next() {

@@ -30,7 +30,7 @@ struct FirstWord {
 FirstWord SplitFirst(std::string_view text);
 
 // `text` without blanks at its end.
-std::string Trimmed(std::string_view text);
+std::string WithoutBlanksAtEnd(std::string_view text);
 
 // The commands of a script one after the other. Lines end with LF or CR LF; a byte order mark is skipped.
 class ScriptSource {

@@ -1,5 +1,5 @@
 #include "script/Json.h"
-#include "shell/Picture.h"
+#include "shell/Control.h"
 
 namespace quilm {
 
@@ -75,14 +75,40 @@ Json ToJson(const TextOp& op) {
   return json;
 }
 
-}  // namespace
-
-Json CanvasEvent(const std::string& name, const Picture& picture) {
+Json OperationsOf(const Picture& picture) {
   Json operations = Json::array();
   for (const PictureOp& operation : picture.Operations()) {
     operations.push_back(std::visit([](const auto& op) { return ToJson(op); }, operation));
   }
-  return {{"event", "canvas"}, {"name", name}, {"operations", std::move(operations)}};
+  return operations;
+}
+
+Json ToJson(const HitArea& area) {
+  Json json{{"name", area.name}};
+  AddCorners(json, area.from, area.to);
+  json["enabled"] = area.enabled;
+  json["toolTip"] = area.toolTip;
+  return json;
+}
+
+}  // namespace
+
+Json CanvasEvent(const PictureBox& box) {
+  Json areas = Json::array();
+  for (const HitArea& area : box.areas) areas.push_back(ToJson(area));
+  return {{"event", "canvas"},
+          {"name", box.name},
+          {"operations", OperationsOf(box.picture)},
+          {"mark", OperationsOf(box.mark)},
+          {"areas", std::move(areas)}};
+}
+
+Json CanvasEvent(const Button& button) {
+  return {{"event", "canvas"},
+          {"name", button.name},
+          {"operations", OperationsOf(button.picture)},
+          {"mark", Json::array()},
+          {"areas", Json::array()}};
 }
 
 }  // namespace quilm

@@ -1,9 +1,9 @@
 // What a script prints and writes.
 #include <filesystem>
-#include <fstream>
 #include <limits>
 
 #include "core/NumberText.h"
+#include "core/TextFile.h"
 #include "core/modGeneral.h"
 #include "script/Commands.h"
 #include "script/Json.h"
@@ -30,42 +30,37 @@ void PrintPage(ScriptRun& run, const std::string& arguments) {
   run.Emit(PageEvent(run.Top()));
 }
 
-struct NamedPicture {
-  const std::string& name;
-  const Picture& picture;
+// What has a picture: one of the two is there.
+struct Pictured {
+  const PictureBox* box = nullptr;
+  const Button* button = nullptr;
 };
 
-// The picture of the named picture box or button, of the page itself without a name.
-NamedPicture FindPicture(ScriptRun& run, const std::string& name) {
-  if (name.empty()) {
-    const PictureBox& box = PagePicture(run);
-    return {box.name, box.picture};
-  }
+// The named picture box or button, the picture of the page itself without a name.
+Pictured FindPictured(ScriptRun& run, const std::string& name) {
+  if (name.empty()) return {.box = &PagePicture(run)};
   const Control& control = FindControl(run, name);
-  if (const auto* box = dynamic_cast<const PictureBox*>(&control)) return {box->name, box->picture};
-  if (const auto* button = dynamic_cast<const Button*>(&control)) return {button->name, button->picture};
-  throw CommandFailure{name + " has no picture"};
+  const Pictured found{dynamic_cast<const PictureBox*>(&control), dynamic_cast<const Button*>(&control)};
+  if (found.box == nullptr && found.button == nullptr) throw CommandFailure{name + " has no picture"};
+  return found;
 }
 
 void PrintCanvas(ScriptRun& run, const std::string& arguments) {
   const auto words = Arguments(arguments, 0, 1, "canvas [NAME]");
-  const NamedPicture found = FindPicture(run, words.empty() ? std::string() : words[0]);
-  run.Emit(CanvasEvent(found.name, found.picture));
+  const Pictured found = FindPictured(run, words.empty() ? std::string() : words[0]);
+  run.Emit(found.box != nullptr ? CanvasEvent(*found.box) : CanvasEvent(*found.button));
 }
 
 void WriteFile(const std::filesystem::path& path, const std::string& text) {
   std::error_code failed;
   if (path.has_parent_path()) std::filesystem::create_directories(path.parent_path(), failed);
-  std::ofstream file(path, std::ios::binary | std::ios::trunc);
-  file << text;
-  file.close();
-  if (!file) throw CommandFailure{path.string() + " cannot be written"};
+  if (!WriteTextFile(path.string(), text)) throw CommandFailure{path.string() + " cannot be written"};
 }
 
 void WritePicture(ScriptRun& run, const std::string& arguments) {
   const auto words = Arguments(arguments, 1, 2, "picture FILE.svg [NAME]");
-  const NamedPicture found = FindPicture(run, words.size() == 2 ? words[1] : std::string());
-  WriteFile(words[0], SvgText(found.picture));
+  const Pictured found = FindPictured(run, words.size() == 2 ? words[1] : std::string());
+  WriteFile(words[0], SvgText(found.box != nullptr ? found.box->AsSeen() : found.button->picture));
 }
 
 // One sheet is FILE itself; of several, sheet 2 of "plot.svg" is "plot-2.svg".

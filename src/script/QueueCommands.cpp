@@ -31,8 +31,7 @@ void QueuePrinter(ScriptRun& run, const std::string& arguments) {
 
 void Seed(ScriptRun& run, const std::string& arguments) {
   const std::string word = Arguments(arguments, 1, 1, "seed N").front();
-  run.session.random.seed(
-      static_cast<std::mt19937::result_type>(CountArgument(word, 0, std::numeric_limits<int>::max())));
+  run.session.random.Seed(static_cast<std::uint32_t>(CountArgument(word, 0, std::numeric_limits<int>::max())));
 }
 
 constexpr std::string_view dateForm = "date YYYY-MM-DD HH:MM:SS";

@@ -3,6 +3,7 @@
 #include <cmath>
 #include <utility>
 
+#include "core/ElementCatalogue.h"
 #include "script/Json.h"
 #include "script/ScriptPlatform.h"
 
@@ -21,16 +22,14 @@ Json ToJson(const BoundedArray<T, First, Last>& items, int last = Last) {
   return list;
 }
 
-Json ToJson(const PartValue& part) { return {NumberJson(part.value), NumberJson(part.tolerance)}; }
-
-Json ToJson(const LineValue& line) {
-  return {NumberJson(line.degrees), NumberJson(line.freq), NumberJson(line.impedance),
-          NumberJson(line.degreesTolerance), NumberJson(line.impedanceTolerance)};
-}
-
-Json ToJson(const CoupledValue& pair) {
-  return {NumberJson(pair.primary),          NumberJson(pair.secondary),          NumberJson(pair.k),
-          NumberJson(pair.primaryTolerance), NumberJson(pair.secondaryTolerance), NumberJson(pair.kTolerance)};
+// Values, then tolerances.
+Json ToJson(const Stage& stage, StageColumn column) {
+  Json list = Json::array();
+  for (const Slot& slot : SlotsIn(column)) list.push_back(NumberJson(slot.value(stage)));
+  for (const Slot& slot : SlotsIn(column)) {
+    if (slot.tolerance) list.push_back(NumberJson(slot.tolerance(stage)));
+  }
+  return list;
 }
 
 // How much of the prototype is in use.
@@ -113,20 +112,15 @@ const std::array fields{
     QUILM_FIELD(MarkersShown)};
 #undef QUILM_FIELD
 
-struct StageField {
+struct ColumnName {
   std::string_view name;
-  Json (*read)(const Stage&);
+  StageColumn column;
 };
 
-#define QUILM_STAGE_FIELD(name)                                  \
-  StageField {                                                   \
-    #name, [](const Stage& stage) { return ToJson(stage.name); } \
-  }
-
-const std::array stageFields{QUILM_STAGE_FIELD(ElementType), QUILM_STAGE_FIELD(Lval),  QUILM_STAGE_FIELD(Cval),
-                             QUILM_STAGE_FIELD(Rval),        QUILM_STAGE_FIELD(TLval), QUILM_STAGE_FIELD(XfmrVal),
-                             QUILM_STAGE_FIELD(CoupledVal)};
-#undef QUILM_STAGE_FIELD
+constexpr std::array columns{ColumnName{"Lval", StageColumn::L},        ColumnName{"Cval", StageColumn::C},
+                             ColumnName{"Rval", StageColumn::R},        ColumnName{"TLval", StageColumn::Line},
+                             ColumnName{"XfmrVal", StageColumn::Turns}, ColumnName{"CoupledVal", StageColumn::Coupled}};
+constexpr std::string_view typeName = "ElementType";
 
 using Names = std::vector<std::string>;
 
@@ -139,21 +133,26 @@ bool HasField(const Table& table, std::string_view name) {
   return std::any_of(table.begin(), table.end(), [name](const auto& field) { return field.name == name; });
 }
 
+bool IsOfStages(const std::string& name) { return name == typeName || HasField(columns, name); }
+
 void RequireKnown(const Names& names) {
   for (const std::string& name : names) {
-    if (name != "stages" && !HasField(fields, name) && !HasField(stageFields, name)) {
+    if (name != "stages" && !HasField(fields, name) && !IsOfStages(name)) {
       throw CommandFailure{"the record has no field " + name};
     }
   }
 }
 
-Json StagesJson(const DesignRecord& record, const Names& names, bool whole) {
+Json StagesJson(const Network& network, const Names& names, bool whole) {
   Json list = Json::array();
-  const int stages = std::clamp<int>(record.Stages, 0, stageBound);
+  const auto asked = [&names, whole](std::string_view name) { return whole || Contains(names, name); };
+  const int stages = std::clamp<int>(network.Stages, 0, stageBound);
   for (int s = 1; s <= stages; ++s) {
+    const Stage& from = network.stage[s];
     Json stage = Json::object();
-    for (const StageField& field : stageFields) {
-      if (whole || Contains(names, field.name)) stage[std::string(field.name)] = field.read(record.stage[s]);
+    if (asked(typeName)) stage[std::string(typeName)] = from.ElementType;
+    for (const auto& [name, column] : columns) {
+      if (asked(name)) stage[std::string(name)] = ToJson(from, column);
     }
     list.push_back(std::move(stage));
   }
@@ -170,9 +169,7 @@ Json RecordEvent(const DesignRecord& record, const std::vector<std::string>& nam
   }
   Json event{{"event", "record"}, {"record", std::move(values)}};
   const bool whole = names.empty() || Contains(names, "stages");
-  const bool some =
-      std::any_of(names.begin(), names.end(), [](const std::string& name) { return HasField(stageFields, name); });
-  if (whole || some) event["stages"] = StagesJson(record, names, whole);
+  if (whole || std::any_of(names.begin(), names.end(), IsOfStages)) event["stages"] = StagesJson(record, names, whole);
   return event;
 }
 

@@ -39,6 +39,27 @@ std::string NameOf(const Control& control) {
   return name.substr(0, name.find(','));
 }
 
+using MouseHandler = std::function<void(f32, f32, MouseButton)>;
+
+const MouseHandler& HandlerOf(const PictureBox& box, MouseAct act) {
+  switch (act) {
+    case MouseAct::Down:
+      return box.onMouseDown;
+    case MouseAct::Move:
+      return box.onMouseMove;
+    case MouseAct::Up:
+      break;
+  }
+  return box.onMouseUp;
+}
+
+// The area with a handler of its own that a press of the mouse is meant for.
+const HitArea* AreaThatTakes(const PictureBox& box, MouseAct act, f32 x, f32 y, MouseButton button) {
+  if (act != MouseAct::Down || button != MouseButton::Left) return nullptr;
+  const HitArea* area = box.AreaAt({x, y});
+  return area != nullptr && area->onPress ? area : nullptr;
+}
+
 void RunAct(Session& session, const Deed& deed, const std::function<void()>& handler) {
   if (session.ended) return;
   const Depth depth(session);
@@ -121,7 +142,7 @@ void Click(Session& session, Control& control) {
   RunAct(session, {NameOf(control)}, handler);
 }
 
-void Type(Session& session, TextBox& box, std::string text) {
+void Type(Session& session, TextBox& box, const std::string& text) {
   Require(box);
   if (box.readOnly) throw ActRefused(box.name + " cannot be typed in");
   box.text = FirstCharacters(text, static_cast<std::size_t>(box.maxLength));
@@ -154,11 +175,36 @@ void PressCloseBox(Session& session, Page& page) {
 
 void Mouse(Session& session, PictureBox& box, MouseAct act, f32 x, f32 y, MouseButton button) {
   Require(box);
-  const auto& handler = act == MouseAct::Down   ? box.onMouseDown
-                        : act == MouseAct::Move ? box.onMouseMove
-                                                : box.onMouseUp;
-  if (!handler) return;
-  RunAct(session, {NameOf(box), {}, act != MouseAct::Move}, [&] { handler(x, y, button); });
+  if (const HitArea* area = AreaThatTakes(box, act, x, y, button)) {
+    if (area->enabled) RunAct(session, {area->SpokenName()}, std::function<void()>(area->onPress));
+    return;
+  }
+  const MouseHandler& handler = HandlerOf(box, act);
+  if (handler) RunAct(session, {NameOf(box), {}, act != MouseAct::Move}, [&] { handler(x, y, button); });
+}
+
+bool HearsMouse(const PictureBox& box, MouseAct act, f32 x, f32 y, MouseButton button) {
+  if (const HitArea* area = AreaThatTakes(box, act, x, y, button)) return area->enabled;
+  return static_cast<bool>(HandlerOf(box, act));
+}
+
+void PressArea(Session& session, PictureBox& box, std::string_view name) {
+  Require(box);
+  const HitArea* area = box.FindArea(name);
+  if (area == nullptr) throw ActRefused(box.name + " has no area " + std::string(name));
+  if (!area->enabled) throw ActRefused(area->name + " is disabled");
+  if (area->onPress) {
+    // The handler may lay out other areas; the function it runs from must outlive that.
+    RunAct(session, {area->SpokenName()}, std::function<void()>(area->onPress));
+    return;
+  }
+  const Point at = area->Middle();
+  // Down and up in one handler: the page, with the box, lives until it is done.
+  RunAct(session, {area->SpokenName()}, [&session, &box, at] {
+    const Page* page = session.pages.Top();
+    Mouse(session, box, MouseAct::Down, at.x, at.y, MouseButton::Left);
+    if (session.pages.Top() == page && box.Usable()) Mouse(session, box, MouseAct::Up, at.x, at.y, MouseButton::Left);
+  });
 }
 
 }  // namespace quilm

@@ -20,17 +20,24 @@ class ActRefused : public Fault {
 // Each runs the control's handler and returns when it is done. A fault that leaves a handler is told to the user in a
 // message box and ends that handler alone; ProgramEnd marks the session as ended. Acts on a control that the user
 // could not use throw ActRefused.
-void Click(Session& session, Control& control);               // a button or an option
-void Type(Session& session, TextBox& box, std::string text);  // one change that leaves `text` in the box
-void Leave(Session& session, TextBox& box);                   // the focus goes elsewhere
-void Step(Session& session, Spin& spin, int direction);       // +1 up, -1 down
-void Choose(Session& session, ListBox& list, int line);       // line from 1
+void Click(Session& session, Control& control);                      // a button or an option
+void Type(Session& session, TextBox& box, const std::string& text);  // one change that leaves `text` in the box
+void Leave(Session& session, TextBox& box);                          // the focus goes elsewhere
+void Step(Session& session, Spin& spin, int direction);              // +1 up, -1 down
+void Choose(Session& session, ListBox& list, int line);              // line from 1
 void Tick(Session& session, Timer& timer);
 void PressCloseBox(Session& session, Page& page);
 
 enum class MouseAct { Down, Move, Up };
+// A left press on an area with a handler of its own goes to that handler, and to none when the area is disabled; all
+// else goes to the handlers of the box.
 void Mouse(Session& session, PictureBox& box, MouseAct act, f32 x, f32 y, MouseButton button);
 
+// Whether that would run a handler: moves over a picture that listens to none cost nothing.
+bool HearsMouse(const PictureBox& box, MouseAct act, f32 x, f32 y, MouseButton button);
+
+// Presses a named area of a picture, however the user got there.
+void PressArea(Session& session, PictureBox& box, std::string_view name);
 // Takes back the last change of the design, or makes the one again that was taken back last: the whole record returns
 // (History.h), and the page where the change was made comes up, loaded anew. Throws ActRefused when there is nothing to
 // take back, and while the history is off.

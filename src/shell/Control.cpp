@@ -1,5 +1,6 @@
 #include "shell/Control.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "shell/Page.h"
@@ -31,13 +32,17 @@ std::string_view KindName(ControlKind kind) {
 }
 
 Control::Control(Page& page, ControlKind kindOfControl, std::string nameOfControl)
-    : kind(kindOfControl), name(std::move(nameOfControl)) {
+    : kind(kindOfControl), name(std::move(nameOfControl)), page_(page) {
   page.Register(*this);
 }
 
 bool Control::Shown() const { return visible && (container == nullptr || container->Shown()); }
 
-bool Control::Active() const { return enabled && (container == nullptr || container->Active()); }
+bool Control::EnabledWithContainer() const {
+  return enabled && (container == nullptr || container->EnabledWithContainer());
+}
+
+bool Control::Active() const { return EnabledWithContainer() && !page_.Locks(*this); }
 
 std::string Control::SpokenName() const {
   if (!accessibleName.empty()) return accessibleName;
@@ -117,8 +122,33 @@ Timer::Timer(Page& page, std::string timerName, i32 milliseconds)
 }
 
 PictureBox::PictureBox(Page& page, std::string boxName, std::string accessible)
-    : Control(page, ControlKind::Picture, std::move(boxName)) {
+    : PictureBox(page, std::move(boxName), std::move(accessible), own_) {}
+
+PictureBox::PictureBox(Page& page, std::string boxName, std::string accessible, Picture& shown)
+    : Control(page, ControlKind::Picture, std::move(boxName)), picture(shown) {
   accessibleName = std::move(accessible);
+}
+
+const HitArea* PictureBox::AreaAt(Point at) const {
+  const auto found =
+      std::find_if(areas.rbegin(), areas.rend(), [at](const HitArea& area) { return area.Contains(at); });
+  return found == areas.rend() ? nullptr : &*found;
+}
+
+const HitArea* PictureBox::FindArea(std::string_view areaName) const {
+  const auto found =
+      std::find_if(areas.begin(), areas.end(), [areaName](const HitArea& area) { return area.name == areaName; });
+  return found == areas.end() ? nullptr : &*found;
+}
+
+Picture PictureBox::AsSeen() const {
+  Picture seen = picture;
+  for (const PictureOp& operation : live.Present().kept) DrawOperation(operation, seen);
+  const Scale& scale = mark.CurrentScale();
+  if (!mark.Empty()) {
+    mark.ReplayInto(seen, {scale.left, scale.top}, {scale.left + scale.width, scale.top + scale.height});
+  }
+  return seen;
 }
 
 }  // namespace quilm

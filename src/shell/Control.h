@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "shell/HitArea.h"
+#include "shell/LiveLayer.h"
 #include "shell/Picture.h"
 
 namespace quilm {
@@ -35,13 +37,18 @@ class Control {
   Color foreColor = colorBlack;  // black stands for the palette's own text colour
   Frame* container = nullptr;    // a hidden or disabled frame hides or disables what it holds
 
-  // Whether the user sees it, and whether the user can act on it.
+  // Whether the user sees it, and whether the user can act on it: it is enabled, and no lock of its page is on it.
   bool Shown() const;
   bool Usable() const { return Shown() && Active(); }
   bool Active() const;
 
   // The name that assistive tools speak: accessibleName, else the caption, else the tool tip, else the name.
   std::string SpokenName() const;
+
+ private:
+  bool EnabledWithContainer() const;
+
+  const Page& page_;
 };
 
 // How a button looks, by what it is for.
@@ -147,11 +154,27 @@ enum class MouseButton { Left, Right };
 class PictureBox : public Control {
  public:
   PictureBox(Page& page, std::string name, std::string accessible);
-  Picture picture;
-  Picture mark;  // drawn over the picture and never part of it: the readout under the mouse
+  // Shows a picture that stands elsewhere and outlives the page.
+  PictureBox(Page& page, std::string name, std::string accessible, Picture& shown);
+  Picture& picture;
+  LiveLayer live;  // the traces of trials, drawn over the picture and not kept for long
+  Picture mark;    // drawn over both and never part of it: the readout under the mouse
   std::function<void(f32 x, f32 y, MouseButton)> onMouseDown;
   std::function<void(f32 x, f32 y, MouseButton)> onMouseMove;
   std::function<void(f32 x, f32 y, MouseButton)> onMouseUp;
+
+  HitAreas areas;
+  std::string description;  // for assistive tools: what the picture shows just now
+
+  // The area on top at a place, or of a name; nullptr for none.
+  const HitArea* AreaAt(Point at) const;
+  const HitArea* FindArea(std::string_view areaName) const;
+
+  // All that the user sees: the picture, the live layer as far as it is kept, and the mark over both.
+  Picture AsSeen() const;
+
+ private:
+  Picture own_;
 };
 
 }  // namespace quilm

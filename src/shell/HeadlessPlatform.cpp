@@ -41,8 +41,9 @@ Answer HeadlessPlatform::MessageBox(const std::string& text, Buttons buttons, Ic
 }
 
 std::optional<std::string> HeadlessPlatform::AskFile(FileAsked asked) {
-  if (files.empty()) throw Fault("No answer is queued for the file dialog: " + asked.title);
-  asked.answer = *TakeFirst(files);
+  const auto answer = TakeFirst(files);
+  if (!answer) throw Fault("No answer is queued for the file dialog: " + asked.title);
+  asked.answer = *answer;
   fileDialogs.push_back(asked);
   if (onFile) onFile(asked);
   return asked.answer;

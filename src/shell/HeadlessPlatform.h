@@ -31,6 +31,8 @@ struct FileAsked {
 // The printer of a machine without one: keeps the sheets of the document.
 class SheetPrinter : public Picture {
  public:
+  // The paper is US letter, in twips.
+  SheetPrinter() : Picture({0, 0, 12240, 15840}) {}
   void NewPage() override;
   void EndDoc() override;
   // The finished document, valid after EndDoc.
@@ -53,12 +55,13 @@ class HeadlessPlatform : public Platform {
   std::deque<std::optional<std::string>> files;
   std::deque<bool> printers;
 
-  // What to do while the next modal pages are open, one function a page. A page that is still open afterwards gets its
-  // close box pressed.
+  // What to do while the next modal pages, or tools beside a page, are open, one function a page. A page that is still
+  // open afterwards gets its close box pressed.
   std::deque<std::function<void(Page&)>> modalActs;
 
-  // Runs in every Yield.
+  // Runs in every Yield. A long run yields at each step, so that the number of a yield is that of its step.
   std::function<void()> onYield;
+  f64 yieldInterval = 0;
 
   // Called after each event was recorded, for whoever prints them.
   std::function<void(const MessageShown&)> onMessage;
@@ -88,6 +91,7 @@ class HeadlessPlatform : public Platform {
   void ShellOpen(const std::string& path) override;
   bool ShowSystemInformation() override;
   void Yield() override;
+  f64 YieldInterval() const override { return yieldInterval; }
   void Pause(f64 seconds) override { paused += seconds; }
   std::string ProgramFolder() override { return folder_; }
   std::string HelpFolder() override { return folder_ + "/help"; }
@@ -95,6 +99,7 @@ class HeadlessPlatform : public Platform {
   void PageShown(Page& page) override;
   void PageUnloaded(Page& page) override;
   void RunModal(Page& page) override;
+  void RunBeside(Page& tool, Page& /*main*/) override { RunModal(tool); }  // who looks at pages needs no place for them
 
  private:
   std::optional<std::string> AskFile(FileAsked asked);

@@ -1,5 +1,7 @@
 #include "shell/Layout.h"
 
+#include <algorithm>
+
 namespace quilm {
 
 std::vector<Control*> ControlsOf(const Layout& layout) {
@@ -10,6 +12,10 @@ std::vector<Control*> ControlsOf(const Layout& layout) {
     controls.insert(controls.end(), inner.begin(), inner.end());
   }
   return controls;
+}
+
+bool HasSidePlace(const Layout& layout) {
+  return layout.kind == Layout::Kind::SidePlace || std::any_of(layout.items.begin(), layout.items.end(), HasSidePlace);
 }
 
 }  // namespace quilm

@@ -15,13 +15,14 @@ namespace quilm {
 
 struct Layout {
   enum class Kind {
-    Control,  // one control
-    Row,      // items side by side
-    Column,   // items one below the other
-    Grid,     // items in rows of `columns`, all cells of one width
-    Form,     // rows of `columns` items: label, right-aligned, and fields (with units and readouts after them)
-    Group,    // one item under a quiet heading: `title`, or the caption of the frame `control`
-    Space,    // takes spare room
+    Control,    // one control
+    Row,        // items side by side
+    Column,     // items one below the other
+    Grid,       // items in rows of `columns`, all cells of one width
+    Form,       // rows of `columns` items: label, right-aligned, and fields (with units and readouts after them)
+    Group,      // one item under a quiet heading: `title`, or the caption of the frame `control`
+    Space,      // takes spare room
+    SidePlace,  // one item, whose place a tool takes while it stands beside the page (PageDesk::ShowBeside)
   };
 
   Kind kind = Kind::Space;
@@ -97,6 +98,11 @@ inline Layout KeepPlace(Layout node) {
   node.keepsPlace = true;
   return node;
 }
+
+// At most once on a page. What it holds is hidden while a tool stands there.
+inline Layout SidePlace(Layout content) { return Of(Layout::Kind::SidePlace, {std::move(content)}); }
+
+bool HasSidePlace(const Layout& layout);
 
 // Every control of the tree in reading order, frames before what they hold.
 std::vector<Control*> ControlsOf(const Layout& layout);

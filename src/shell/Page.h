@@ -8,11 +8,13 @@
 #include <vector>
 
 #include "shell/Control.h"
+#include "shell/Entry.h"
 #include "shell/Layout.h"
 #include "shell/PageId.h"
 
 namespace quilm {
 
+class PageLock;
 class Session;
 
 class Page {
@@ -49,7 +51,11 @@ class Page {
   // False once the page was unloaded.
   bool IsOpen() const;
 
+  // Whether a PageLock keeps the user from the control.
+  bool Locks(const Control& control) const;
+
   std::string title;
+  EntryList entries;               // its boxes with the fields behind them
   Button* acceptButton = nullptr;  // pressed by Enter
   Button* cancelButton = nullptr;  // pressed by Escape
 
@@ -58,11 +64,13 @@ class Page {
 
  private:
   friend class Control;
+  friend class PageLock;
   void Register(Control& control) { controls_.push_back(&control); }
 
   PageId id_;
   std::vector<Control*> controls_;
   Control* focusWish_ = nullptr;
+  std::vector<const PageLock*> locks_;
 };
 
 }  // namespace quilm

@@ -1,11 +1,13 @@
 #include "shell/PageDesk.h"
 
 #include <algorithm>
+#include <optional>
 #include <string>
 #include <utility>
 
 #include "core/Fault.h"
 #include "shell/Page.h"
+#include "shell/PageLock.h"
 #include "shell/Platform.h"
 #include "shell/Session.h"
 
@@ -25,6 +27,12 @@ Page* PageDesk::Find(PageId id) const {
 }
 
 Page* PageDesk::Top() const { return open_.empty() ? nullptr : open_.back().get(); }
+
+std::vector<Page*> PageDesk::OpenPages() const {
+  std::vector<Page*> pages;
+  for (const auto& page : open_) pages.push_back(page.get());
+  return pages;
+}
 
 // Makes the page, or brings it to the top if it is open, and runs its load step.
 Page& PageDesk::Open(PageId id) {
@@ -53,12 +61,41 @@ void PageDesk::ShowModal(PageId id) {
   if (Find(id) == &page) session_.platform.RunModal(page);
 }
 
+Page* PageDesk::BesideOf(const Page& tool) const {
+  const auto at =
+      std::find_if(beside_.begin(), beside_.end(), [&tool](const Pair& pair) { return pair.tool == &tool; });
+  return at == beside_.end() ? nullptr : at->page;
+}
+
+Page* PageDesk::Beside() const { return open_.empty() ? nullptr : BesideOf(*open_.back()); }
+
+void PageDesk::ShowBeside(PageId id, std::vector<const Control*> free) {
+  Page* opener = Top();
+  if (opener == nullptr) throw Fault("There is no page to stand beside");
+  Page* main = BesideOf(*opener) == nullptr ? opener : BesideOf(*opener);
+  if (!HasSidePlace(main->MakeLayout())) throw Fault(std::string(main->Name()) + " has no place beside its picture");
+  Page& tool = Open(id);
+  if (Find(id) != &tool) return;
+  const PageLock mainLock(*main, std::move(free));
+  std::optional<PageLock> openerLock;
+  if (opener != main) openerLock.emplace(*opener, std::vector<const Control*>{});
+  beside_.push_back({&tool, main});
+  session_.platform.RunBeside(tool, *main);
+}
+
 void PageDesk::UnloadPage(PageId id) {
-  const auto at = std::find_if(open_.begin(), open_.end(), [id](const auto& page) { return page->Id() == id; });
-  if (at == open_.end()) return;
+  Page* page = Find(id);
+  if (page == nullptr) return;
+  // What stands beside it goes first, the last one opened before the others.
+  const std::vector<Pair> pairs(beside_.rbegin(), beside_.rend());
+  for (const Pair& pair : pairs) {
+    if (pair.page == page) UnloadPage(pair.tool->Id());
+  }
+  std::erase_if(beside_, [page](const Pair& pair) { return pair.tool == page; });
+  const auto at = std::find_if(open_.begin(), open_.end(), [page](const auto& open) { return open.get() == page; });
   unloaded_.push_back(std::move(*at));
   open_.erase(at);
-  session_.platform.PageUnloaded(*unloaded_.back());
+  session_.platform.PageUnloaded(*page);
 }
 
 void PageDesk::Sweep() { unloaded_.clear(); }

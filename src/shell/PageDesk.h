@@ -10,6 +10,7 @@
 
 namespace quilm {
 
+class Control;
 class Page;
 class Session;
 
@@ -33,23 +34,41 @@ class PageDesk {
   // The same, and returns when the page has closed.
   void ShowModal(PageId id);
 
-  // Closes the page; nothing when it is not open. The page object lives on until the handler that runs has returned.
+  // The same for a tool that works on the page on top, which stays in sight and is shown anew after each handler: the
+  // tool takes the side place of that page's layout (Layout::Kind::SidePlace; a page without one is a Fault). Until the
+  // tool has closed the user can act on nothing of that page but the controls in `free`: its picture, where the tool is
+  // told places by the mouse. A tool that opens another one this way gives its place to it for so long.
+  void ShowBeside(PageId id, std::vector<const Control*> free = {});
+
+  // The page that the one on top stands beside; nullptr when it stands alone.
+  Page* Beside() const;
+
+  // Closes the page, with what stands beside it; nothing when it is not open. The page object lives on until the
+  // handler that runs has returned.
   void UnloadPage(PageId id);
 
   // The page on top, modal ones included; nullptr before the first.
   Page* Top() const;
   Page* Find(PageId id) const;
+  std::vector<Page*> OpenPages() const;  // bottom to top
 
   // Destroys the pages that were unloaded. Called when no handler runs.
   void Sweep();
 
  private:
+  struct Pair {
+    Page* tool;
+    Page* page;  // that it stands beside
+  };
+
   Page& Open(PageId id);
+  Page* BesideOf(const Page& tool) const;
 
   Session& session_;
   PageDirectory directory_;
   std::vector<std::unique_ptr<Page>> open_;      // bottom to top
   std::vector<std::unique_ptr<Page>> unloaded_;  // their handlers may still run
+  std::vector<Pair> beside_;                     // in the order in which they were opened
 };
 
 }  // namespace quilm

@@ -40,10 +40,6 @@ std::string_view FormName(PageId id) {
       return "frmEnterInput";
     case PageId::EnterFstopband:
       return "frmEnterFstopband";
-    case PageId::EnterAstop:
-      return "frmEnterAstop";
-    case PageId::EnterTopology:
-      return "frmEnterTopology";
     case PageId::Bailout:
       return "frmBailout";
     case PageId::Mderived:

@@ -24,8 +24,6 @@ enum class PageId {
   EnterCenterFreq,
   EnterInput,
   EnterFstopband,
-  EnterAstop,
-  EnterTopology,
   Bailout,
   Mderived,
   SinglyTermCheby,

@@ -2,73 +2,31 @@
 // replayed into any other canvas. Replaying a picture into an empty one gives an equal one.
 #pragma once
 
+#include <memory>
 #include <string>
-#include <variant>
 #include <vector>
 
-#include "shell/Canvas.h"
+#include "shell/Recorder.h"
 
 namespace quilm {
 
-// The pen of an operation that draws lines.
-struct Pen {
-  Color color = colorBlack;
-  i16 width = 1;
-  LineStyle style = LineStyle::Solid;
-  PenMode mode = PenMode::Copy;
-  bool operator==(const Pen&) const = default;
-};
+using PictureOps = std::vector<PictureOp>;
 
-struct PolylineOp {
-  std::vector<Point> points;  // two of them are a plain line
-  Pen pen;
-  bool operator==(const PolylineOp&) const = default;
-};
-
-struct RectangleOp {
-  Point from;
-  Point to;
-  bool filled = false;
-  Pen pen;
-  bool operator==(const RectangleOp&) const = default;
-};
-
-struct CircleOp {
-  Point center;
-  f32 r = 0;
-  f32 start = 0;
-  f32 stop = 0;
-  f32 aspect = 1;
-  Pen pen;
-  bool operator==(const CircleOp&) const = default;
-};
-
-struct PointOp {
-  Point at;
-  Pen pen;
-  bool operator==(const PointOp&) const = default;
-};
-
-struct TextOp {
-  Point at;
-  std::string text;
-  Color color = colorBlack;
-  Font font;
-  bool operator==(const TextOp&) const = default;
-};
-
-using PictureOp = std::variant<PolylineOp, RectangleOp, CircleOp, PointOp, TextOp>;
-
-class Picture : public Canvas {
+class Picture : public Recorder {
  public:
   Picture() = default;
   explicit Picture(const Scale& scale) { SetScale(scale); }
+  Picture(const Picture& other);
+  Picture& operator=(const Picture& other);
+  ~Picture() override = default;
 
-  const std::vector<PictureOp>& Operations() const { return operations_; }
-  bool Empty() const { return operations_.empty(); }
+  const PictureOps& Operations() const { return *drawing_; }
+  bool Empty() const { return drawing_->empty(); }
 
-  // Grows with every change, also by Clear; a view redraws when it has moved on.
-  i32 Revision() const { return revision_; }
+  // The list of operations, for a view that shows the picture. A list only ever grows while someone else holds it:
+  // Clear, a copy and an assignment begin another one. Who holds the list and knows how many operations it had can
+  // therefore tell what is new by its address and length alone, and can still show it when the picture is gone.
+  std::shared_ptr<const PictureOps> Drawing() const { return drawing_; }
 
   // Draws all operations into `canvas`, which takes this picture's scale and background and is cleared first.
   void Replay(Canvas& canvas) const;
@@ -84,19 +42,11 @@ class Picture : public Canvas {
   friend bool operator==(const Picture& a, const Picture& b);
 
  protected:
-  void DrawPolyline(std::span<const Point> points, Color color) override;
-  void DrawRectangle(Point from, Point to, Color color, bool filled) override;
-  void DrawCircle(Point center, f32 r, Color color, f32 start, f32 stop, f32 aspect) override;
-  void DrawPoint(Point at, Color color) override;
-  void DrawText(Point at, std::string_view text) override;
+  void Append(PictureOp operation) override;
   void DrawClear() override;
 
  private:
-  Pen PenOf(Color color) const { return Pen{color, DrawWidth, DrawStyle, DrawMode}; }
-  void Append(PictureOp operation);
-
-  std::vector<PictureOp> operations_;
-  i32 revision_ = 0;
+  std::shared_ptr<PictureOps> drawing_ = std::make_shared<PictureOps>();
 };
 
 }  // namespace quilm

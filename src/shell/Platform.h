@@ -38,7 +38,8 @@ class Platform {
   virtual std::optional<std::string> SaveDialog(const std::string& title, const std::string& filter,
                                                 const std::string& defaultName) = 0;
 
-  // Offers a printer. The canvas is valid until its EndDoc; nullptr when the user cancels.
+  // Offers a printer. The canvas is valid until its EndDoc, and its scale is the paper's own in twips; nullptr when the
+  // user cancels. A printer that fails, here or at the ends of sheets and of the document, throws a Fault.
   virtual Canvas* PrintDialog() = 0;
 
   virtual void Beep() = 0;
@@ -50,6 +51,10 @@ class Platform {
   // Lets pending events run: the one way in which a long routine sees a press of its Stop button.
   virtual void Yield() = 0;
 
+  // Seconds that a long run may go on between two yields: too short to be noticed, long enough that yields cost little.
+  // 0 asks for one at each step.
+  virtual f64 YieldInterval() const = 0;
+
   // Waits while the page stays visible, as the notes of the exit page do.
   virtual void Pause(f64 seconds) = 0;
 
@@ -60,10 +65,12 @@ class Platform {
 
   virtual DateTime Now() = 0;
 
-  // Called by the page desk. A page is shown after its load step; RunModal returns when the page has closed.
+  // Called by the page desk. A page is shown after its load step; RunModal and RunBeside return when the page has
+  // closed, the latter shows it in the side place of `main`, which stays in sight.
   virtual void PageShown(Page& page) = 0;
   virtual void PageUnloaded(Page& page) = 0;
   virtual void RunModal(Page& page) = 0;
+  virtual void RunBeside(Page& tool, Page& main) = 0;
 };
 
 }  // namespace quilm

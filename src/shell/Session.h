@@ -2,7 +2,6 @@
 // are no globals; whoever needs a session makes one, tests as many as they like.
 #pragma once
 
-#include <random>
 #include <string>
 
 #include "core/Configuration.h"
@@ -13,8 +12,12 @@
 #include "shell/History.h"
 #include "shell/PageDesk.h"
 #include "shell/Platform.h"
+#include "shell/PlotSheet.h"
+#include "shell/UniformNumbers.h"
 
 namespace quilm {
+
+class LongRun;
 
 // The program ends at once: unwinds whatever runs, back to the dispatcher of events.
 struct ProgramEnd {};
@@ -35,11 +38,14 @@ class Session {
   SmithView smithView;
   SchematicView schematicView;
 
-  History history;       // undo and redo
-  std::mt19937 random;   // all random numbers of the program come from here
-  std::string note;      // what the last action did, for the status line
-  int handlerDepth = 0;  // handlers that run just now, one inside the other (see Acts.h)
-  bool ended = false;    // set when the program has ended
+  PlotSheet plot;  // the plot on display
+
+  History history;         // undo and redo
+  UniformNumbers random;   // all random numbers of the program come from here
+  LongRun* run = nullptr;  // the long run in progress
+  std::string note;        // what the last action did, for the status line
+  int handlerDepth = 0;    // handlers that run just now, one inside the other (see Acts.h)
+  bool ended = false;      // set when the program has ended
 
   Platform& platform;
   PageDesk pages;

@@ -4,6 +4,7 @@
 #include <fstream>
 
 #include "core/Configuration.h"
+#include "core/TextFile.h"
 #include "shell/Session.h"
 
 namespace quilm {
@@ -15,13 +16,6 @@ std::string DateAndTime(const DateTime& now) {
   std::snprintf(text, sizeof text, "%04d-%02d-%02d %02d:%02d:%02d", now.year, now.month, now.day, now.hour, now.minute,
                 now.second);
   return text;
-}
-
-bool WriteText(const std::string& path, const std::string& text) {
-  std::ofstream file(path, std::ios::binary | std::ios::trunc);
-  file << text;
-  file.flush();
-  return file.good();
 }
 
 }  // namespace
@@ -43,7 +37,7 @@ void WriteConfig(Session& session) {
   const std::string text =
       FormatConfiguration(session.record, session.configuration, DateAndTime(session.platform.Now()));
   session.record.DesignFileName = InProgramFolder(session, configurationFile);
-  if (WriteText(session.record.DesignFileName, text)) return;
+  if (WriteTextFile(session.record.DesignFileName, text)) return;
   session.platform.MessageBox(
       "The configuration file (QuilmConfiguration.CFG) was not written.\r\nThis is not a serious problem.", Buttons::Ok,
       Icon::Exclamation, "");

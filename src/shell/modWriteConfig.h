@@ -18,10 +18,11 @@ std::string InProgramFolder(Session& session, const std::string& name);
 void ReadConfig(Session& session);
 
 // Writes the present settings. A setting that is 0 keeps what was read at start (see FormatConfiguration); the record
-// takes that value too. Tells the user when the file cannot be written, and goes on.
+// takes that value too. Tells the user when the file cannot be written, and goes on; the old file stays then.
 //
-// Leaves the configuration's name in DesignFileName, which holds the name of whatever file is opened. Harmless, since
-// the configuration is written before the design is, and kept.
+// Leaves the configuration's name in DesignFileName, which holds the name of the file that was last opened to be
+// written: users' scripts that watch the record see it there. No design is written under it, since all that leave the
+// program write the configuration before the last session, which sets the name again.
 void WriteConfig(Session& session);
 
 }  // namespace quilm

@@ -23,8 +23,9 @@ f64 FromDecibels(f64 x) { return std::exp(std::log(10.0) / 10 * x); }
 // Tangent of the sum of the angles with tangents x and y.
 f64 TangentSum(f64 x, f64 y) { return (x + y) / (1 - x * y); }
 
-// Moves the transmission zeros into the ladder's branches one after the other. a, b and c hold the residues, the
-// remaining shunt arms and the squares of the zeros' reciprocals, 1..limit.
+// Moves the transmission zeros into the ladder's branches one after the other (Amstutz 1978). a, b and c hold the
+// residues, the remaining shunt arms and the squares of the zeros' reciprocals, 1..limit. The zeros are taken from both
+// ports of the ladder, which passes 1 and 2 stand for.
 void ShiftZeros(Series& a, Series& b, const Series& c, int limit) {
   for (int pass = 1; pass <= 2; ++pass) {
     for (int i = pass + 2; i <= limit; i += 2) {
@@ -231,7 +232,8 @@ CauerPrototype Written(const EvenDesign& d, const EvenLadder& ladder, NumericFau
 
 // ---- odd order ------------------------------------------------------------------------------------------------------
 
-// The arithmetic-geometric mean from the pair (x, y).
+// The arithmetic-geometric mean from the pair (x, y). The complete elliptic integral of a modulus k is Pi / 2 over the
+// mean of 1 and sqrt(1 - k^2). (M. Abramowitz, I. A. Stegun, Handbook of Mathematical Functions, 1964, 17.6.)
 f64 Mean(f64 x, f64 y) {
   for (int round = 0; round < meanRounds; ++round) {
     const f64 g = std::sqrt(x * y);

@@ -1,5 +1,10 @@
 // The Cauer (elliptic) lowpass prototype, computed from theta-function series.
 //
+// Source: P. Amstutz, "Elliptic approximation and elliptic filter design on small computers", IEEE Transactions on
+// Circuits and Systems 25 (1978): elliptic sines as products in the nome, and the ladder by moving the transmission
+// zeros into its branches one after the other. BestSelectivity and EqualTerminations are the types b and c of R. Saal
+// and E. Ulbrich, "On the design of filters by synthesis", IRE Transactions on Circuit Theory 5 (1958).
+//
 // Both routines return the element values of a doubly terminated ladder for 1 ohm and 1 radian per second: odd
 // positions are shunt capacitors G, even positions a branch of an inductor H with a capacitor G across it, so that its
 // transmission zero lies at 1 / sqrt(H G).

@@ -3,6 +3,7 @@
 #include <array>
 #include <vector>
 
+#include "core/Topology.h"
 #include "core/modGeneral.h"
 
 namespace quilm {
@@ -43,7 +44,7 @@ std::string FileName(const std::string& path) { return path.substr(path.find_las
 }  // namespace
 
 std::string TopologyCaption(const std::string& letter) {
-  if (letter.size() != 1 || letter[0] < 'A' || letter[0] > 'L') return {};
+  if (!IsTopologyLetter(letter)) return {};
   return captions[static_cast<std::size_t>(letter[0] - 'A')];
 }
 

@@ -2,7 +2,9 @@
 
 #include <cmath>
 
+#include "core/ElementCatalogue.h"
 #include "core/NumericFault.h"
+#include "core/Topology.h"
 #include "network/DesignStanding.h"
 #include "network/NetworkEdits.h"
 
@@ -22,11 +24,9 @@ struct EndSection {
   f32 endValue;
 };
 
-bool IsCapacitor(i16 type) { return type == ShuntC || type == SeriesC; }
-PartValue& ValueOf(Stage& stage) { return IsCapacitor(stage.ElementType) ? stage.Cval : stage.Lval; }
-f64 ValueOf(const Stage& stage) {
-  return IsCapacitor(stage.ElementType) ? f64{stage.Cval.value} : f64{stage.Lval.value};
-}
+// The one value of a stage that is a single part.
+f32& ValueOf(Stage& stage) { return SlotsOf(stage.ElementType).front().value(stage); }
+f64 ValueOf(const Stage& stage) { return SlotsOf(stage.ElementType).front().value(stage); }
 
 // The element that alternates with `type` in a ladder; 0 for one that no all-pole lowpass or highpass has.
 i16 PartnerOf(i16 type) {
@@ -112,8 +112,8 @@ void AddEndSections(DesignRecord& record, f32 m) {
   MoveStagesUp(record, 1, 1);
   MoveStagesUp(record, last + 2, 1);
   record.stage[1] = StageOf(atSource.arm);
-  ValueOf(record.stage[2]).value = atSource.endValue;
-  ValueOf(record.stage[last + 1]).value = atLoad.endValue;
+  ValueOf(record.stage[2]) = atSource.endValue;
+  ValueOf(record.stage[last + 1]) = atLoad.endValue;
   record.stage[last + 2] = StageOf(atLoad.arm);
   StandByHand(record);
 }

@@ -1,5 +1,9 @@
 // M-derived half sections at both ends of a lowpass or highpass ladder: a zero in the stopband, and with m near 0.6 a
 // better match.
+//
+// Source: O. J. Zobel, "Theory and design of uniform and composite electric wave filters", Bell System Technical
+// Journal 2 (1923): the half section of the shunt-derived kind, whose tuned arm stands in the line, before a shunt
+// element, and of the series-derived kind before a series element.
 #pragma once
 
 #include <string>

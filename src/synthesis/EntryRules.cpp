@@ -1,9 +1,10 @@
 #include "synthesis/EntryRules.h"
 
-#include <algorithm>
-
+#include "core/EntryLimits.h"
+#include "core/Topology.h"
 #include "core/modGeneral.h"
 #include "network/DesignStanding.h"
+#include "shell/EntryText.h"
 
 namespace quilm {
 
@@ -26,44 +27,35 @@ struct Check {
   }
 };
 
-bool HasCenter(const DesignRecord& record) {
-  return record.Topology.size() == 1 && std::string_view("CDEFGHKL").find(record.Topology) != std::string_view::npos;
-}
-
 bool IsEven(f32 order) { return static_cast<int>(order) % 2 == 0; }
 
 // Settings of the Analysis page that are held in a range without a word.
 struct Range {
   f32& (*field)(DesignRecord&);
-  f32 lowest;
-  f32 highest;
+  const EntryLimits& limits;
   const char* control;
-  const char* lowestText;
-  const char* highestText;
 };
 
-constexpr Range graphRange = {[](DesignRecord& r) -> f32& { return r.NrYints; }, 4, 30, "lblNrYints", "4", "30"};
-constexpr Range sweepRange = {
-    [](DesignRecord& r) -> f32& { return r.NrIntervals; }, 4, 2049, "txtNrIntervals", "4", "2049"};
-constexpr Range VSWRrange = {[](DesignRecord& r) -> f32& { return r.VSWRTop; }, 1.05F, 7, "txtVSWRTop", "1.05", "7"};
-constexpr Range QindRange = {
-    [](DesignRecord& r) -> f32& { return r.Qind[1]; }, 2, 1e7F, "txtQinductor", "2", "10000000"};
-constexpr Range QcapRange = {
-    [](DesignRecord& r) -> f32& { return r.Qcap[1]; }, 2, 1e7F, "txtQcapacitor", "2", "10000000"};
+constexpr Range graphRange = {[](DesignRecord& r) -> f32& { return r.NrYints; }, limitsOf::NrYints, "lblNrYints"};
+constexpr Range sweepRange = {[](DesignRecord& r) -> f32& { return r.NrIntervals; }, limitsOf::NrIntervals,
+                              "txtNrIntervals"};
+constexpr Range VSWRrange = {[](DesignRecord& r) -> f32& { return r.VSWRTop; }, limitsOf::VSWRTop, "txtVSWRTop"};
+constexpr Range QindRange = {[](DesignRecord& r) -> f32& { return r.Qind[1]; }, limitsOf::Q, "txtQinductor"};
+constexpr Range QcapRange = {[](DesignRecord& r) -> f32& { return r.Qcap[1]; }, limitsOf::Q, "txtQcapacitor"};
 
 void Hold(Check& check, const Range& range) {
   f32& value = range.field(check.record);
-  if (value >= range.lowest && value <= range.highest) return;
-  const bool tooHigh = value > range.highest;
-  value = tooHigh ? range.highest : range.lowest;
-  check.Repaired(PageId::Analyze, range.control, tooHigh ? range.highestText : range.lowestText);
+  if (range.limits.Contain(value)) return;
+  value = range.limits.Held(value);
+  check.Repaired(PageId::Analyze, range.control,
+                 value == range.limits.highest ? range.limits.highestText : range.limits.lowestText);
 }
 
 void HoldYints(Check& check) { Hold(check, graphRange); }
 
 void HoldXints(Check& check) {
   i16& value = check.record.NrXints;
-  const i16 held = std::clamp(value, i16{1}, i16{30});
+  const i16 held = static_cast<i16>(limitsOf::NrXints.Held(value));
   if (held == value) return;
   value = held;
   check.Repaired(PageId::Analyze, "lblNrXints", std::to_string(held));
@@ -71,11 +63,11 @@ void HoldXints(Check& check) {
 
 void HoldIntervals(Check& check) { Hold(check, sweepRange); }
 
-void CutOrder(Check& check, i16 highest, const std::string& message) {
+void CutOrder(Check& check, f32 highest, const std::string& message) {
   if (check.record.Order <= highest) return;
   check.record.Order = highest;
-  check.Repaired(PageId::Design, "lblOrderInput", std::to_string(highest));
-  check.Tell("", message + std::to_string(highest));
+  check.Repaired(PageId::Design, "lblOrderInput", PlainText(highest));
+  check.Tell("", message + PlainText(highest));
 }
 
 void HoldOrderToProgram(Check& check) {
@@ -90,16 +82,16 @@ void HoldStages(Check& check) {
                      std::to_string(check.record.StagesMax));
 }
 
-// The limit of the prototype routine, 10, lies below the Bessel limit here: an order of 11 to 17 passes and is cut
-// there. Meant.
 void HoldOrderToFamily(Check& check) {
   switch (check.record.Family) {
     case familyBessel:
-      return CutOrder(check, 17, "Order has been reset to Bessel family upper limit of ");
+      return CutOrder(check, limitsOf::BesselOrder.highest, "Order has been reset to Bessel family upper limit of ");
     case familyGaussian:
-      return CutOrder(check, 10, "Order has been reset to Gaussian family upper limit of ");
+      return CutOrder(check, limitsOf::GaussianOrder.highest,
+                      "Order has been reset to Gaussian family upper limit of ");
     case familyGaussian12:
-      return CutOrder(check, 10, "Order has been reset to Gaussian to 12 family upper limit of ");
+      return CutOrder(check, limitsOf::GaussianOrder.highest,
+                      "Order has been reset to Gaussian to 12 family upper limit of ");
     default:
       return;
   }
@@ -116,31 +108,31 @@ void RequireSource(Check& check) {
 }
 
 void RequireCenter(Check& check) {
-  if (!HasCenter(check.record) || check.record.Fcenter > 0) return;
+  if (!NeedsCenter(check.record.Topology) || check.record.Fcenter > 0) return;
   check.Fail("Error checker 199", "Please enter a center frequency", "txtCenterFrequency");
 }
 
 // Sets a sweep limit to what an unset one becomes, and holds it in its range.
-void HoldSweepLimit(Check& check, f32& limit, f64 unsetValue, f32 lowest, f32 highest, const char* control) {
+void HoldSweepLimit(Check& check, f32& limit, f64 unsetValue, const EntryLimits& limits, const char* control) {
   const f32 wanted = limit == 0 ? static_cast<f32>(unsetValue) : limit;
-  const f32 held = std::clamp(wanted, lowest, highest);
+  const f32 held = limits.Held(wanted);
   if (held == limit) return;
   limit = held;
-  check.Repaired(PageId::Analyze, control, FormatFrequency(held));
+  check.Repaired(PageId::Analyze, control, EntryText(held, FormatFrequency));
 }
 
 void HoldStart(Check& check) {
   DesignRecord& record = check.record;
   const f64 width = record.Width;
-  const f64 unsetValue = HasCenter(record) ? record.Fcenter - 2 * width : width / 2;
-  HoldSweepLimit(check, record.Fstart, unsetValue, 0.01F, 9e9F, "txtFstart");
+  const f64 unsetValue = NeedsCenter(record.Topology) ? record.Fcenter - 2 * width : width / 2;
+  HoldSweepLimit(check, record.Fstart, unsetValue, limitsOf::Fstart, "txtFstart");
 }
 
 void HoldStop(Check& check) {
   DesignRecord& record = check.record;
   const f64 width = record.Width;
-  const f64 unsetValue = HasCenter(record) ? record.Fcenter + 2 * width : 2 * width;
-  HoldSweepLimit(check, record.Fstop, unsetValue, 0.02F, 1e10F, "txtFstop");
+  const f64 unsetValue = NeedsCenter(record.Topology) ? record.Fcenter + 2 * width : 2 * width;
+  HoldSweepLimit(check, record.Fstop, unsetValue, limitsOf::Fstop, "txtFstop");
 }
 
 void SetSweepMode(Check& check) {
@@ -170,15 +162,17 @@ void RequireStopband(Check& check) {
 
 void RequireDepth(Check& check) {
   const DesignRecord& record = check.record;
-  if (record.Family != familyCauer || (record.Astop >= 10 && record.Astop <= 180)) return;
+  if (record.Family != familyCauer || limitsOf::Astop.Contain(record.Astop)) return;
   check.Fail("Error checker 296",
-             "Please enter a stopband depth for the Cauer\r\nfamily of  10 minimum  to  180 maximum",
+             std::string("Please enter a stopband depth for the Cauer\r\nfamily of  ") + limitsOf::Astop.lowestText +
+                 " minimum  to  " + limitsOf::Astop.highestText + " maximum",
              "txtStopbandDepth");
 }
 
 void RequireCauerOrder(Check& check) {
-  if (check.record.Family != familyCauer || check.record.Order >= 3) return;
-  check.Fail("Error checker 305", "Cauer requires order of 3 minimum", "UpDown1");
+  if (check.record.Family != familyCauer || check.record.Order >= limitsOf::CauerOrder.lowest) return;
+  check.Fail("Error checker 305",
+             std::string("Cauer requires order of ") + limitsOf::CauerOrder.lowestText + " minimum", "UpDown1");
 }
 
 // The reference has no box on the Design page; the input termination is what an unset one follows.
@@ -191,7 +185,7 @@ void RequireReference(Check& check) {
 void HoldImpedanceTop(Check& check) {
   if (check.record.ImpedanceTop >= check.record.Rsource[1]) return;
   check.record.ImpedanceTop = check.record.Rsource[1];
-  check.Repaired(PageId::Analyze, "txtImpedanceTop", FormatResistance(check.record.ImpedanceTop));
+  check.Repaired(PageId::Analyze, "txtImpedanceTop", EntryText(check.record.ImpedanceTop, FormatResistance));
 }
 
 // A blank configuration leaves these at 0.
@@ -211,8 +205,8 @@ constexpr Rule rules[] = {
 }  // namespace
 
 bool HasInputTermination(const DesignRecord& record) {
-  constexpr f32 least = 0.01F;  // ohms
-  return record.Rsource[1] > least || (IsByHand(record) && record.Rsource[1] == least);
+  const f32 source = record.Rsource[1];
+  return source > limitsOf::leastEntered || (IsByHand(record) && source == limitsOf::leastEntered);
 }
 
 EntryReport ExamineEntries(DesignRecord& record) {

@@ -23,16 +23,16 @@ struct EntryFinding {
 };
 
 // A repaired entry as its box shows it. An option button is set, a label takes the text as its caption.
-struct EntryBox {
+struct RepairedEntry {
   PageId page;
   std::string control;
   std::string text;
-  bool operator==(const EntryBox&) const = default;
+  bool operator==(const RepairedEntry&) const = default;
 };
 
 struct EntryReport {
   std::vector<EntryFinding> findings;  // in order of the rules; only the last can be a failure
-  std::vector<EntryBox> boxes;
+  std::vector<RepairedEntry> boxes;
   bool Passed() const { return findings.empty() || findings.back().focus.empty(); }
 };
 

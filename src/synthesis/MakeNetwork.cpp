@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <array>
 
+#include "core/ElementCatalogue.h"
 #include "core/NumericFault.h"
+#include "core/Topology.h"
 #include "synthesis/Topologies.h"
 
 namespace quilm {
@@ -27,7 +29,7 @@ constexpr Load O = Load::Own;
 
 // Chebyshev and Cauer of even order need an unequal load; so do the unequally terminated tables in the coupled forms,
 // where all resonators are alike. The column of Gaussian to 12 leaves that family mismatched in "B", "C", "D" and "I"
-// to "L", and is meant to stay.
+// to "L": designs of it are stored and built with these loads, and computing one again must give the same network.
 const std::array<TopologyRow, 12> topologies = {{
     {"A", BuildCapInLowpass, {S, S, S, R, R, S}},
     {"B", BuildIndInLowpass, {S, S, I, I, I, S}},
@@ -82,12 +84,7 @@ void SetLoad(Scales& scales, Load rule) {
 // Tolerances and element types stay.
 void ClearStages(DesignRecord& record) {
   for (Stage& stage : record.stage) {
-    stage.Cval.value = 0;
-    stage.Lval.value = 0;
-    stage.Rval.value = 0;
-    stage.XfmrVal.value = 0;
-    stage.CoupledVal.primary = stage.CoupledVal.secondary = stage.CoupledVal.k = 0;
-    stage.TLval.degrees = stage.TLval.freq = stage.TLval.impedance = 0;
+    for (const Slot& slot : AllSlots()) slot.value(stage) = 0;
   }
 }
 
@@ -112,8 +109,8 @@ void CloseGap(DesignRecord& record, int s) {
 }
 
 // Takes out the places without a part. Each place is looked at once while the stages move down, so the second of two
-// empty neighbours stays; and it is then counted with the blanks at the end, at the cost of the last part. Meant: no
-// topology makes such neighbours of its own.
+// empty neighbours stays; and it is then counted with the blanks at the end, at the cost of the last part. One look is
+// enough, since no prototype gives a topology two such neighbours.
 void CleanUp(DesignRecord& record) {
   const int places = record.Stages;
   for (int s = 1; s <= places; ++s) {

@@ -47,8 +47,8 @@ constexpr f32 gaussianValues[] = {
     0.0512F, 0.1525F, 0.2509F, 0.3451F, 0.4353F, 0.525F,  0.6244F, 0.7597F, 1.0147F, 2.2594F,  // 10
 };
 
-// Orders 3 to 10. The 0.0649 of order 7 breaks the pattern of its neighbours; it is the stored value and is meant to
-// stay.
+// Orders 3 to 10. The 0.0649 of order 7 breaks the pattern of its neighbours. Designs of this order were computed with
+// it: put right here, it would change the parts of a stored design as soon as it is computed again.
 constexpr f32 gaussian12Values[] = {
     2.3452F, 0.905F,  0.4152F,                                                               // 3
     2.1518F, 1.0598F, 0.6545F, 0.3097F,                                                      // 4

@@ -82,7 +82,9 @@ void PutSeriesOfJ(Scales& k, int j) {
     if (h <= 0) {
       k.Put(j, SeriesC, 0, HighFarads(k, g));
     } else {
-      k.Put(j, SeriesPLC, HighHenries(k, h), HighFarads(k, h));  // both from H: meant
+      // Both from H. A prototype without zeros has no H, so only values that a file brought come here; the network
+      // computed from such a file must stay the one that was built.
+      k.Put(j, SeriesPLC, HighHenries(k, h), HighFarads(k, h));
     }
   } else if (j == k.n) {
     k.Put(j, SeriesC, 0, HighFarads(k, h));

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "core/NumericFault.h"
+#include "core/Topology.h"
 #include "network/DesignStanding.h"
 
 namespace quilm {
@@ -20,8 +21,6 @@ struct Sections {
   ZeroArray ZeroTank;    // capacitor across the series arm
 };
 
-bool IsHighpass(const DesignRecord& record) { return record.Topology == "I" || record.Topology == "J"; }
-
 // The zeros one behind the other; unused places follow.
 void CloseGaps(DesignRecord& record) {
   int used = 0;
@@ -33,8 +32,8 @@ void CloseGaps(DesignRecord& record) {
 }
 
 f64 SectionM(const DesignRecord& record, f32 zero) {
-  const f64 ratio = IsHighpass(record) ? static_cast<f64>(zero) / static_cast<f64>(record.Width)
-                                       : static_cast<f64>(record.Width) / static_cast<f64>(zero);
+  const f64 ratio = IsHighpass(record.Topology) ? static_cast<f64>(zero) / static_cast<f64>(record.Width)
+                                                : static_cast<f64>(record.Width) / static_cast<f64>(zero);
   return std::sqrt(1 - ratio * ratio);
 }
 
@@ -101,7 +100,7 @@ int BuildChain(DesignRecord& record, const Sections& sections) {
 
 bool IsInStopband(const DesignRecord& record, f32 zero) {
   // The section of a highpass squares the frequency, so that one far below 0 would be as far above the band's end.
-  return IsHighpass(record) ? std::fabs(zero) < record.Width : zero > record.Width;
+  return IsHighpass(record.Topology) ? std::fabs(zero) < record.Width : zero > record.Width;
 }
 
 bool HasMderivedZeros(const DesignRecord& record) {

@@ -41,7 +41,7 @@ TEST(Kernel, ManyLanesGiveTheBitsOfOne) {
     for (const VectorWidth width : widths) {
       if (!HasVectors(width)) continue;
       std::vector<Figures> figures(frequencies.size());
-      EvaluateWith(width, ladder, frequencies, figures);
+      Evaluate(ladder, frequencies, figures, width);
       for (std::size_t i = 0; i < frequencies.size(); ++i) {
         ASSERT_TRUE(SameBits(figures[i], EvaluateOne(ladder, frequencies[i]))) << "trial " << trial << " point " << i;
       }

@@ -1,4 +1,4 @@
-#include "analysis/LaneMath.h"
+#include "analysis/LaneFunctions.h"
 
 #include <gtest/gtest.h>
 
@@ -9,10 +9,10 @@ namespace quilm {
 namespace {
 
 struct Plain {};
-using One = Lanes<Plain, 1>;
+using One = Pack<Plain, 1, 1>;
 
-f64 LogOf(f64 x) { return One::Log(One::All(x))[0]; }
-f64 ArcTangentOf(f64 y, f64 x) { return One::ArcTangent(One::All(y), One::All(x))[0]; }
+f64 LogOf(f64 x) { return Log(One(x)).At(0); }
+f64 ArcTangentOf(f64 y, f64 x) { return ArcTangent(One(y), One(x)).At(0); }
 
 f64 UnitsApart(f64 a, f64 b) {
   const f64 unit = std::nextafter(std::fabs(b), std::numeric_limits<f64>::infinity()) - std::fabs(b);
@@ -50,11 +50,11 @@ TEST(LaneMath, TheArcTangentIsThatOfTheRatio) {
 }
 
 TEST(LaneMath, MaskedOperations) {
-  EXPECT_EQ(One::Abs(One::All(-2.5))[0], 2.5);
-  EXPECT_EQ(One::WithSign(One::All(3), One::All(-1))[0], -3);
-  EXPECT_TRUE(One::IsFinite(One::All(1e308))[0]);
-  EXPECT_FALSE(One::IsFinite(One::All(std::numeric_limits<f64>::infinity()))[0]);
-  EXPECT_FALSE(One::IsFinite(One::All(std::nan("")))[0]);
+  EXPECT_EQ(Abs(One(-2.5)).At(0), 2.5);
+  EXPECT_EQ(TurnedBySign(One(3), One(-1)).At(0), -3);
+  EXPECT_EQ(TurnedBySign(One(-3), One(-1)).At(0), 3);
+  EXPECT_EQ(Select(One(1) < 2, One(5), One(6)).At(0), 5);
+  EXPECT_EQ(Select(One(2) < 2, One(5), One(6)).At(0), 6);
 }
 
 }  // namespace

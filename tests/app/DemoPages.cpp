@@ -33,6 +33,10 @@ DemoPage::DemoPage(Session& session) : Page(session, PageId::Design, "Demo") {
     session_.pages.ShowModal(PageId::EnterWidth);
     log.push_back("asked");
   };
+  cmdTool.onClick = [this] {
+    session_.pages.ShowBeside(PageId::EnterWidth, {&picPlot});
+    log.push_back("tool closed");
+  };
   cmdRepair.onClick = [this] { txtRipple.Repair("0.1"); };
   Timer1.onTick = [this] {
     log.push_back("tick");
@@ -41,6 +45,9 @@ DemoPage::DemoPage(Session& session) : Page(session, PageId::Design, "Demo") {
   picPlot.picture.Line(0, 0, 13000, 8000, colorBlack);
   picPlot.onMouseDown = [this](f32 x, f32 y, MouseButton) {
     log.push_back("down " + std::to_string(std::lround(x / 100)) + " " + std::to_string(std::lround(y / 100)));
+  };
+  picPlot.onMouseUp = [this](f32, f32, MouseButton button) {
+    log.push_back(button == MouseButton::Left ? "up left" : "up right");
   };
 }
 
@@ -54,10 +61,13 @@ Layout DemoPage::MakeLayout() {
                  Row({Column({Put(optOne), Put(optTwo)}),
                       Form({{Put(lblWidth), Row({Put(txtWidth), Put(UpDown)})}, {Put(lblRipple), Put(txtRipple)}}),
                       Group(fraLoads, Form({{Put(lblLoad), Put(txtLoad)}})), Put(lstLines)}),
-                 Row({KeepPlace(Put(cmdAsk)), Put(cmdRepair)}), Fill(Put(picPlot))});
+                 Row({KeepPlace(Put(cmdAsk)), Put(cmdRepair), Put(cmdTool)}),
+                 Fill(Row({Fill(Put(picPlot)), SidePlace(Column({}))}))});
 }
 
 OtherPage::OtherPage(Session& session) : Page(session, PageId::Plotted, "Other") {
+  lstTable.table = true;
+  lstTable.items = {"row 1", "row 2", "row 3"};
   cmdDesign.onClick = [this] {
     session_.pages.ShowPage(PageId::Design);
     session_.pages.UnloadPage(Id());

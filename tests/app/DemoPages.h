@@ -41,6 +41,7 @@ class DemoPage : public Page {
   ListBox lstLines{*this, "lstLines", "Lines"};
   Frame fraLoads{*this, "fraLoads", "Loads"};
   Button cmdAsk{*this, "cmdAsk", "Stepsize %"};
+  Button cmdTool{*this, "cmdTool", "Tool"};
   Button cmdRepair{*this, "cmdRepair", "R & D"};
   Timer Timer1{*this, "Timer1", 5};
   PictureBox picPlot{*this, "picPlot", "Response"};
@@ -49,8 +50,9 @@ class DemoPage : public Page {
 class OtherPage : public Page {
  public:
   explicit OtherPage(Session& session);
-  Layout MakeLayout() override { return Column({Put(cmdDesign)}); }
+  Layout MakeLayout() override { return Column({Put(cmdDesign), Put(lstTable)}); }
   Button cmdDesign{*this, "cmdDesign", "Design"};
+  ListBox lstTable{*this, "lstTable", "Table"};
 };
 
 class DemoForm : public Page {

@@ -1,5 +1,6 @@
 // Typing in real entry boxes.
 #include <QLineEdit>
+#include <QMenu>
 #include <QWheelEvent>
 
 #include "DemoPages.h"
@@ -61,6 +62,37 @@ TEST_F(EntryBoxInWindow, AShortcutLeavesTheBoxFirst) {
   EXPECT_THAT(Demo().log, ElementsAre("change 7", "leave", "get"));
 }
 
+// A menu takes the keyboard for a while and gives it back.
+class EntryBoxUnderAPopup : public EntryBoxInWindow {
+ protected:
+  void OpenAndCloseAMenu() {
+    QMenu menu;
+    menu.addAction(QStringLiteral("nothing"));
+    menu.popup(Box()->mapToGlobal(QPoint()));
+    ASSERT_EQ(QApplication::activePopupWidget(), &menu);
+    QApplication::processEvents();
+    menu.close();
+    QApplication::processEvents();
+  }
+};
+
+TEST_F(EntryBoxUnderAPopup, APopupIsNoLeavingOfTheBox) {
+  Enter("1");
+  QTest::keyClicks(Box(), "7");
+  OpenAndCloseAMenu();
+  EXPECT_THAT(Demo().log, ElementsAre("change 7"));
+  Widget("txtRipple")->setFocus(Qt::TabFocusReason);
+  EXPECT_THAT(Demo().log, ElementsAre("change 7", "leave"));
+}
+
+TEST_F(EntryBoxUnderAPopup, APopupIsNoEnteringOfTheBoxEither) {
+  Enter("100");
+  QTest::keyClicks(Box(), "77");
+  OpenAndCloseAMenu();
+  QTest::keyClick(Box(), Qt::Key_Escape);
+  EXPECT_EQ(Demo().txtWidth.text, "100");
+}
+
 TEST_F(EntryBoxInWindow, EscapeBringsBackTheTextFromBefore) {
   Enter("100");
   QTest::keyClicks(Box(), "77");
@@ -107,6 +139,18 @@ TEST_F(EntryBoxInWindow, ARepairedBoxIsShownInTheColourOfANoteForAWhile) {
   ClickOn("cmdRepair");
   EXPECT_EQ(box->text(), "0.1");
   EXPECT_NE(box->palette().color(QPalette::Base), usual);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return box->palette().color(QPalette::Base) == usual; }, 3000));
+}
+
+TEST_F(EntryBoxInWindow, ASecondRepairShowsForAsLongAsTheFirst) {
+  auto* box = Widget<QLineEdit>("txtRipple");
+  const QColor usual = box->palette().color(QPalette::Base);
+  ClickOn("cmdRepair");
+  const QColor warm = box->palette().color(QPalette::Base);
+  QTest::qWait(1200);
+  ClickOn("cmdRepair");
+  QTest::qWait(1200);
+  EXPECT_EQ(box->palette().color(QPalette::Base), warm);
   EXPECT_TRUE(QTest::qWaitFor([&] { return box->palette().color(QPalette::Base) == usual; }, 3000));
 }
 

@@ -1,7 +1,9 @@
 // Real widgets showing a page and pressing its controls.
 #include <QAbstractButton>
+#include <QClipboard>
 #include <QLabel>
-#include <QListWidget>
+#include <QListView>
+#include <QScrollBar>
 #include <QToolButton>
 
 #include "DemoPages.h"
@@ -34,7 +36,7 @@ TEST_F(PageInWindow, ShowingAValueFiresNoHandler) {
   Demo().lstLines.selected = 2;
   desktop.platform.Stage().Sync();
   EXPECT_TRUE(Widget<QAbstractButton>("optTwo")->isChecked());
-  EXPECT_EQ(Widget<QListWidget>("lstLines")->currentRow(), 1);
+  EXPECT_EQ(Widget<QListView>("lstLines")->currentIndex().row(), 1);
   EXPECT_THAT(Demo().log, IsEmpty());
 }
 
@@ -108,18 +110,62 @@ TEST_F(PageInWindow, TheSpinControlStepsBothWays) {
 }
 
 TEST_F(PageInWindow, AClickChoosesTheLineOfAList) {
-  auto* list = Widget<QListWidget>("lstLines");
-  QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualItemRect(list->item(2)).center());
+  auto* list = Widget<QListView>("lstLines");
+  QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(list->model()->index(2, 0)).center());
   EXPECT_THAT(Demo().log, ElementsAre("line 3"));
   EXPECT_EQ(Demo().lstLines.selected, 3);
 }
 
 TEST_F(PageInWindow, ArrowKeysChooseLinesToo) {
-  auto* list = Widget<QListWidget>("lstLines");
+  auto* list = Widget<QListView>("lstLines");
   list->setFocus();
-  list->setCurrentRow(0);
+  list->setCurrentIndex(list->model()->index(0, 0));
   QTest::keyClick(list, Qt::Key_Down);
   EXPECT_EQ(Demo().log.back(), "line 2");
+}
+
+TEST_F(PageInWindow, OtherLinesReplaceThoseOfAList) {
+  Demo().lstLines.items = {"one", "two"};
+  Demo().lstLines.selected = 2;
+  desktop.platform.Stage().Sync();
+  auto* list = Widget<QListView>("lstLines");
+  ASSERT_EQ(list->model()->rowCount(), 2);
+  EXPECT_EQ(list->model()->index(1, 0).data().toString(), QStringLiteral("two"));
+  EXPECT_EQ(list->currentIndex().row(), 1);
+  EXPECT_THAT(Demo().log, IsEmpty());
+}
+
+TEST_F(PageInWindow, ALineThatChangesAloneIsShown) {
+  Demo().lstLines.items[1] = "another";
+  desktop.platform.Stage().Sync();
+  EXPECT_EQ(Widget<QListView>("lstLines")->model()->index(1, 0).data().toString(), QStringLiteral("another"));
+}
+
+TEST_F(PageInWindow, AListKeepsItsPlaceWhenItsLinesChange) {
+  for (int i = 0; i < 200; ++i) Demo().lstLines.items.push_back("line " + std::to_string(i));
+  desktop.platform.Stage().Sync();
+  QTest::qWait(10);
+  auto* list = Widget<QListView>("lstLines");
+  list->scrollTo(list->model()->index(150, 0), QAbstractItemView::PositionAtTop);
+  const int place = list->verticalScrollBar()->value();
+  ASSERT_GT(place, 0);
+  Demo().lstLines.items[0] = "another";
+  desktop.platform.Stage().Sync();
+  QTest::qWait(10);
+  EXPECT_EQ(list->verticalScrollBar()->value(), place);
+}
+
+// The rows of a table, as a page with one has it.
+TEST_F(PageInWindow, MarkedRowsOfATableAreCopiedInTheirOrder) {
+  ClickOn("cmdPlot");
+  auto* table = Widget<QListView>("lstTable");
+  ASSERT_NE(table, nullptr);
+  for (const int row : {2, 0}) {
+    QTest::mouseClick(table->viewport(), Qt::LeftButton, Qt::ControlModifier,
+                      table->visualRect(table->model()->index(row, 0)).center());
+  }
+  QTest::keyClick(table, Qt::Key_C, Qt::ControlModifier);
+  EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("row 1\nrow 3"));
 }
 
 TEST_F(PageInWindow, ATimerTicksWhileItIsEnabled) {

@@ -60,6 +60,20 @@ TEST_F(PrintToFile, ANewSheetBeginsAtItsUpperLeftCorner) {
   canvas.EndDoc();
 }
 
+TEST_F(PrintToFile, ADocumentIsClosedOnce) {
+  PrinterCanvas canvas(Printer());
+  canvas.Print("text");
+  canvas.EndDoc();
+  EXPECT_NO_THROW(canvas.EndDoc());
+}
+
+TEST_F(PrintToFile, APrinterThatCannotBeginIsNotReady) {
+  auto printer = Printer();
+  printer->setOutputFileName(folder.filePath("no/such/folder/report.pdf"));
+  PrinterCanvas canvas(std::move(printer));
+  EXPECT_FALSE(canvas.IsReady());
+}
+
 TEST_F(PrintToFile, APictureDrawsIntoAPartOfTheSheet) {
   Picture picture;
   picture.Circle(6500, 4000, 3000, colorRed);

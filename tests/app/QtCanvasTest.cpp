@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <QImage>
+#include <QPixmap>
 #include <cmath>
 #include <limits>
 #include <numbers>
@@ -220,6 +221,103 @@ TEST_F(QtCanvasTest, APointWithoutAPlaceBreaksTheTrace) {
   canvas.Polyline(trace, colorBlack);
   EXPECT_TRUE(Near(30, 25) && Near(170, 25));
   EXPECT_FALSE(Near(100, 25));
+}
+
+// How traces come out on an image, where they are set pixel by pixel, and on a pixmap, where the toolkit strokes them.
+struct TracePen {
+  int density;
+  i16 width;
+};
+
+class TraceOnAnImage : public testing::TestWithParam<TracePen> {
+ protected:
+  static constexpr int width = 400;
+  static constexpr int height = 200;
+
+  void Draw(QPaintDevice& device) {
+    QPainter painter(&device);
+    const int density = GetParam().density;
+    QtCanvas canvas(painter, Surface{.target = QRectF(0, 0, width, height), .density = static_cast<f64>(density)});
+    canvas.SetScale({0, 0, 1000, 500});
+    canvas.DrawWidth = GetParam().width;
+    std::vector<Point> trace;
+    for (int i = 0; i < 2050; ++i) {
+      const f32 x = 50 + static_cast<f32>(i) * 900 / 2050;
+      trace.push_back({x, 250 + 180 * std::sin(x / 60) * std::sin(x / 400)});
+    }
+    canvas.Polyline(trace, colorBlack);
+    canvas.Line(100, 450, 140, 50, colorBlack);
+  }
+
+  template <class Device>
+  Device Blank(Device device, QColor color) {
+    device.setDevicePixelRatio(GetParam().density);
+    device.fill(color);
+    return device;
+  }
+  QSize Size() const { return QSize(width, height) * GetParam().density; }
+
+  QImage Direct() {
+    QImage image = Blank(QImage(Size(), QImage::Format_RGB32), Qt::white);
+    Draw(image);
+    return image;
+  }
+};
+
+TEST_P(TraceOnAnImage, LooksAsTheToolkitStrokesIt) {
+  QPixmap pixmap = Blank(QPixmap(Size()), Qt::white);
+  Draw(pixmap);
+  const QImage stroked = pixmap.toImage();
+  const QImage set = Direct();
+  f64 inkStroked = 0;
+  f64 inkSet = 0;
+  int inked = 0;
+  int apart = 0;
+  for (int y = 0; y < set.height(); ++y) {
+    for (int x = 0; x < set.width(); ++x) {
+      const int a = 255 - qRed(stroked.pixel(x, y));
+      const int b = 255 - qRed(set.pixel(x, y));
+      inkStroked += a;
+      inkSet += b;
+      inked += a + b > 0 ? 1 : 0;
+      apart += std::abs(a - b) > 40 ? 1 : 0;
+    }
+  }
+  EXPECT_GT(inkStroked, 0);
+  EXPECT_NEAR(inkSet / inkStroked, 1, 0.02);
+  // The toolkit's outline bulges here and there where short lines meet; nowhere else do the two differ.
+  EXPECT_LT(apart, inked / 50) << inked;
+}
+
+TEST_P(TraceOnAnImage, ATransparentImageLaidOverPaperGivesTheSame) {
+  QImage layer = Blank(QImage(Size(), QImage::Format_ARGB32_Premultiplied), Qt::transparent);
+  Draw(layer);
+  QImage paper = Blank(QImage(Size(), QImage::Format_RGB32), Qt::white);
+  {
+    QPainter painter(&paper);
+    painter.drawImage(0, 0, layer);
+  }
+  const QImage direct = Direct();
+  for (int y = 0; y < direct.height(); ++y) {
+    for (int x = 0; x < direct.width(); ++x) {
+      // Two traces that cross are rounded twice.
+      ASSERT_NEAR(qRed(paper.pixel(x, y)), qRed(direct.pixel(x, y)), 3) << x << ' ' << y;
+    }
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Pens, TraceOnAnImage,
+                         testing::Values(TracePen{1, 2}, TracePen{1, 6}, TracePen{2, 1}, TracePen{2, 2},
+                                         TracePen{2, 6}));
+
+TEST_F(DenseQtCanvasTest, AWideTraceStaysWithinTheTarget) {
+  painter.setClipping(false);
+  QtCanvas corner(painter, Surface{.target = QRectF(0, 0, 50, 50), .density = 2});
+  corner.SetScale({0, 0, 100, 100});
+  corner.DrawWidth = 5;
+  corner.Line(0, 40, 400, 60, colorBlack);
+  EXPECT_TRUE(Marked(98, 42) || Marked(98, 44));
+  for (int y = 0; y < 200; ++y) EXPECT_FALSE(Marked(100, y)) << y;
 }
 
 TEST_F(QtCanvasTest, NothingIsDrawnOutsideTheTarget) {

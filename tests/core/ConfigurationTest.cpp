@@ -252,6 +252,37 @@ TEST_F(ConfigurationFile, VerticalStepsNeedAPreferenceAboveThree) {
   EXPECT_EQ(Line(7), "Number of plot Y steps: 2 \r");
 }
 
+// The floors themselves stay, and there is no ceiling: the chart's own box holds the upper end.
+TEST_F(ConfigurationFile, ReadingHoldsTheLowerEndAlone) {
+  const struct {
+    const char* aspect;
+    f32 read;
+  } aspects[] = {{".4999", 0.5F}, {".5", 0.5F}, {".5001", 0.5001F}, {"1.5", 1.5F}, {"1.6", 1.6F}};
+  const struct {
+    const char* width;
+    i16 read;
+  } widths[] = {{"0", 1}, {"1", 1}, {"2", 2}, {"6", 6}, {"7", 7}};
+  std::string settings;
+  for (int i = 0; i < 15; ++i) settings += "x: 1\n";
+  for (const auto& row : aspects) {
+    Read(settings + "x: " + row.aspect + "\n");
+    EXPECT_EQ(record.SmithAspect, row.read) << row.aspect;
+  }
+  for (const auto& row : widths) {
+    Read(settings + "x: 1\nx: " + row.width + "\n");
+    EXPECT_EQ(record.PlotLineWidth, row.read) << row.width;
+  }
+}
+
+TEST_F(ConfigurationFile, WritingHoldsTheLineWidthAtBothEnds) {
+  Read("");
+  const std::pair<i16, const char*> rows[] = {{0, "1"}, {1, "1"}, {2, "2"}, {5, "5"}, {6, "6"}, {7, "6"}};
+  for (const auto& [width, written] : rows) {
+    record.PlotLineWidth = width;
+    EXPECT_EQ(Line(17), std::string("Plot data line width: ") + written + " \r");
+  }
+}
+
 TEST_F(ConfigurationFile, AspectAndLineWidthAreHeld) {
   Read("");
   record.SmithAspect = -1;

@@ -2,35 +2,20 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
+#include <array>
+#include <vector>
 
 #include "core/Fault.h"
 
 namespace quilm {
 namespace {
 
-DesignRecord SweepOf(i16 mode, f32 start, f32 stop) {
-  DesignRecord record;
-  record.SweepMode = mode;
-  record.Fstart = start;
-  record.Fstop = stop;
-  return record;
+TEST(FrameX, GoesFromTheLeftEdgeToTheRight) {
+  EXPECT_EQ(FrameX(0), 2000);
+  EXPECT_EQ(FrameX(0.5), 6500);
+  EXPECT_EQ(FrameX(1), 11000);
+  EXPECT_EQ(FrameX(0.25, PlotBox{100, 0, 400, 10}), 200);
 }
-
-TEST(FrameX, FollowsTheFrequencyInALinearSweep) {
-  const DesignRecord record = SweepOf(1, 1e6F, 3e6F);
-  EXPECT_EQ(FrameX(record, 1e6F), 2000);
-  EXPECT_EQ(FrameX(record, 2e6F), 6500);
-  EXPECT_EQ(FrameX(record, 3e6F), 11000);
-}
-
-TEST(FrameX, FollowsTheLogarithmOtherwise) {
-  const DesignRecord record = SweepOf(2, 1e3F, 1e9F);
-  EXPECT_NEAR(FrameX(record, 1e5F), 2000 + 9000 / 3.0, 1e-2);
-  EXPECT_NEAR(FrameX(record, 1e9F), 11000, 1e-2);
-}
-
-TEST(FrameX, ASweepWithoutWidthFaults) { EXPECT_THROW(FrameX(SweepOf(1, 5, 5), 5), NumericFault); }
 
 TEST(FrameY, MapsTopAndBottomToTheFrame) {
   EXPECT_EQ(FrameY({0, -60}, 0), 1000);
@@ -47,6 +32,36 @@ TEST(FrameY, ATraceRidesAlongTheEdges) {
 }
 
 TEST(FrameY, AScaleWithoutHeightFaults) { EXPECT_THROW(FrameY({2, 2}, 1), NumericFault); }
+
+TEST(FramePoints, AreThoseOfTheirPlacesAndValuesOneByOne) {
+  const std::array<f64, 4> places = {0, 0.2, 0.7, 1};
+  const std::array<f32, 4> values = {-3, 0, -22.5F, -75};
+  const PlotBox box{1300, 1000, 2300, 2000};
+  const std::vector<Point> points = FramePoints(places, {0, -60}, values, box);
+  ASSERT_EQ(points.size(), 4U);
+  for (std::size_t i = 0; i < 4; ++i) {
+    EXPECT_EQ(points[i], (Point{FrameX(places[i], box), FrameY({0, -60}, values[i], box)})) << i;
+  }
+}
+
+TEST(FramePoints, WhatLiesBeyondTheAxisStandsOnItsEdge) {
+  const std::array<f64, 3> places = {-0.1, 0.5, 1.1};
+  const std::array<f32, 3> values = {0, -30, -60};
+  EXPECT_EQ(FramePoints(places, {0, -60}, values), (std::vector<Point>{{2000, 1000}, {6500, 4000}, {11000, 7000}}));
+}
+
+// A third is not a number of 32 bits: 1000 + 6000 / 3 is met only when it has not been rounded to one before.
+TEST(FramePoints, ValuesIn64BitsAreNotRoundedBefore) {
+  const std::array<f64, 1> places = {0};
+  const std::array<f64, 1> values = {-1e6 - 1.0 / 3};
+  EXPECT_EQ(FramePoints(places, {-1e6F, -1e6F - 1}, values)[0].y, 3000);
+}
+
+TEST(FramePoints, AScaleWithoutHeightFaults) {
+  const std::array<f64, 1> places = {0};
+  const std::array<f32, 1> values = {1};
+  EXPECT_THROW(FramePoints(places, {2, 2}, values), NumericFault);
+}
 
 }  // namespace
 }  // namespace quilm

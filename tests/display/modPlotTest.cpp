@@ -17,16 +17,12 @@ namespace {
 class Plot : public testing::Test {
  protected:
   Plot() {
-    record.SweepMode = 1;
-    record.Fstart = 0;
-    record.Fstop = 4e6F;
-    record.NrIntervals = 4;
-    record.NrXints = 4;
-    record.NrYints = 6;
-    record.LossBottom = -60;
-    record.DelayTop = 6e-6F;
-    record.VSWRTop = 7;
-    record.ImpedanceTop = 120;
+    scales.NrXints = 4;
+    scales.NrYints = 6;
+    scales.LossBottom = -60;
+    scales.DelayTop = 6e-6F;
+    scales.VSWRTop = 7;
+    scales.ImpedanceTop = 120;
     for (int i = 0; i <= 4; ++i) {
       responses->RespFreq[i] = static_cast<f32>(i) * 1e6F;
       responses->RespTrans[i] = static_cast<f32>(-20 * i);
@@ -41,8 +37,13 @@ class Plot : public testing::Test {
 
   Picture Drawn(i16 code) {
     Picture picture;
-    DrawPlot(record, *responses, code, TraceColors{}, picture);
+    DrawPlot(PlotOf(code), SpansOf(*responses, 4), places, picture);
     return picture;
+  }
+
+  PlotSetup PlotOf(i16 code) {
+    scales.PlotCode = code;
+    return {HorizontalAxis(AxisSettings{false, 0, 4e6F}), scales, {}, {}, 50};
   }
 
   static std::vector<TextOp> Texts(const Picture& picture) {
@@ -72,7 +73,8 @@ class Plot : public testing::Test {
     return found;
   }
 
-  DesignRecord record;
+  PlotScales scales;
+  AxisPlaces places;
   std::unique_ptr<Responses> responses = std::make_unique<Responses>();
 };
 
@@ -142,7 +144,7 @@ TEST_F(Plot, TracesOfEveryPlotInTheirColours) {
 }
 
 TEST_F(Plot, MagnifyAddsATraceTenTimesAsHighBeneath) {
-  record.MagnifyMode = 1;
+  scales.MagnifyMode = 1;
   responses->RespTrans[1] = -1.5F;
   const Picture picture = Drawn(1);
   const auto traces = Traces(picture);
@@ -155,12 +157,12 @@ TEST_F(Plot, MagnifyAddsATraceTenTimesAsHighBeneath) {
 
 TEST_F(Plot, MagnifyLeavesTheOtherPlotsAlone) {
   const Picture before = Drawn(2);
-  record.MagnifyMode = 1;
+  scales.MagnifyMode = 1;
   EXPECT_EQ(Drawn(2), before);
 }
 
 TEST_F(Plot, TheHorizontalGridStartsAtTheTop) {
-  record.NrYints = 7;
+  scales.NrYints = 7;
   std::set<f32> rows;
   const Picture picture = Drawn(1);
   for (const PictureOp& operation : picture.Operations()) {
@@ -206,9 +208,9 @@ TEST_F(Plot, AllTextsStayOnThePicture) {
 }
 
 TEST_F(Plot, AScaleWithoutHeightFaults) {
-  record.DelayTop = 0;
+  scales.DelayTop = 0;
   EXPECT_THROW(Drawn(4), NumericFault);
-  record.VSWRTop = 1;
+  scales.VSWRTop = 1;
   EXPECT_THROW(Drawn(5), NumericFault);
 }
 
@@ -217,43 +219,17 @@ TEST_F(Plot, RoundPlotsAreNoneOfThese) {
   EXPECT_THROW(Drawn(11), Fault);
 }
 
-TEST_F(Plot, LossBottomIsHeldBeforePlotsInDecibels) {
-  record.LossBottom = 0;
-  HoldLossBottom(record, 5);
-  EXPECT_EQ(record.LossBottom, 0);
-  HoldLossBottom(record, 13);
-  EXPECT_EQ(record.LossBottom, -0.3F);
-  record.LossBottom = -40;
-  HoldLossBottom(record, 1);
-  EXPECT_EQ(record.LossBottom, -40);
-}
-
-TEST_F(Plot, AutoScaleTakesTheExtremesOfTheResponse) {
-  responses->RespVSWR[2] = 12;
-  responses->RespZin[3] = 345;
-  responses->RespDelay[1] = 9e-6F;
-  AutoScale(record, *responses);
-  EXPECT_EQ(record.LossBottom, -80);
-  EXPECT_EQ(record.DelayTop, 9e-6F);
-  EXPECT_EQ(record.VSWRTop, 7);
-  EXPECT_EQ(record.ImpedanceTop, 345);
-}
-
-TEST_F(Plot, AutoScaleLeavesNoLossScaleForAResponseThatNeverFalls) {
-  responses->RespTrans.Fill(1);
-  AutoScale(record, *responses);
-  EXPECT_EQ(record.LossBottom, 0);
-}
-
 TEST_F(Plot, DrawTracesDrawsNothingElse) {
   Picture picture;
-  DrawTraces(record, *responses, 2, {0x111111, 0x222222}, picture);
+  PlotSetup setup = PlotOf(2);
+  setup.colors = {0x111111, 0x222222};
+  DrawTraces(setup, SpansOf(*responses, 4), places, picture);
   ASSERT_EQ(picture.Operations().size(), 2U);
   EXPECT_EQ(Traces(picture)[0].pen.color, 0x111111U);
 }
 
 TEST_F(Plot, TracesHaveTheSetWidth) {
-  record.PlotLineWidth = 3;
+  scales.PlotLineWidth = 3;
   EXPECT_EQ(Traces(Drawn(1))[0].pen.width, 3);
 }
 

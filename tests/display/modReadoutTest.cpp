@@ -15,17 +15,12 @@ namespace {
 class ReadoutDrawing : public testing::Test {
  protected:
   ReadoutDrawing() {
-    record.SweepMode = 1;
-    record.Fstart = 0;
-    record.Fstop = 4e6F;
-    record.NrIntervals = 4;
-    record.LossBottom = -60;
-    record.DelayTop = 6e-6F;
-    record.VSWRTop = 7;
-    record.ImpedanceTop = 120;
-    record.Rstandard = 50;
-    record.SmithAspect = 1;
-    record.PlotCode = 1;
+    scales.LossBottom = -60;
+    scales.DelayTop = 6e-6F;
+    scales.VSWRTop = 7;
+    scales.ImpedanceTop = 120;
+    scales.SmithAspect = 1;
+    scales.PlotCode = 1;
     responses->RespFreq[2] = 2e6F;
     responses->RespTrans[2] = -30;
     responses->RespReturn[2] = -15;
@@ -38,9 +33,11 @@ class ReadoutDrawing : public testing::Test {
 
   Picture Drawn() {
     Picture picture(plotScale);
-    DrawReadout(record, *responses, view, 2, picture);
+    DrawReadout(ThePlot(), SpansOf(*responses, 4), 2, picture);
     return picture;
   }
+
+  PlotSetup ThePlot() { return {HorizontalAxis(AxisSettings{false, 0, 4e6F}), scales, {}, view, 50}; }
 
   std::vector<TextOp> Texts() {
     std::vector<TextOp> texts;
@@ -65,7 +62,7 @@ class ReadoutDrawing : public testing::Test {
     return marks;
   }
 
-  DesignRecord record;
+  PlotScales scales;
   std::unique_ptr<Responses> responses = std::make_unique<Responses>();
   SmithView view;
 };
@@ -114,7 +111,7 @@ TEST_F(ReadoutDrawing, AWhiteStripIsClearedFirst) {
 }
 
 TEST_F(ReadoutDrawing, AMarkStandsOnEachTrace) {
-  record.PlotCode = 2;
+  scales.PlotCode = 2;
   const auto marks = Marks();
   ASSERT_EQ(marks.size(), 2U);
   // Transmission -30 of -60 dB, return -15.
@@ -132,13 +129,13 @@ TEST_F(ReadoutDrawing, EveryPlotHasOneMarkForEachTrace) {
   const std::pair<i16, std::size_t> plots[] = {{1, 1}, {2, 2}, {3, 2}, {4, 2},  {5, 1},  {13, 2},
                                                {6, 1}, {9, 2}, {7, 2}, {10, 2}, {11, 2}, {12, 3}};
   for (const auto& [code, count] : plots) {
-    record.PlotCode = code;
+    scales.PlotCode = code;
     EXPECT_EQ(Marks().size(), count) << code;
   }
 }
 
 TEST_F(ReadoutDrawing, TheMarkFollowsTheChart) {
-  record.PlotCode = 11;
+  scales.PlotCode = 11;
   responses->RespZin[2] = 100;
   responses->RespZinAngle[2] = 0;
   view.ZoomFactor = 2;
@@ -149,26 +146,45 @@ TEST_F(ReadoutDrawing, TheMarkFollowsTheChart) {
 }
 
 TEST_F(ReadoutDrawing, AMarkWithoutAScaleIsLeftOutAndTheValuesStay) {
-  record.PlotCode = 4;
-  record.DelayTop = 0;
+  scales.PlotCode = 4;
+  scales.DelayTop = 0;
   EXPECT_TRUE(Marks().empty());
   EXPECT_EQ(Value(4), "3u");
 }
 
+// What is drawn next with the same canvas is drawn as if there had been no readout.
+TEST_F(ReadoutDrawing, ThePenIsPutBackAfterTheMarks) {
+  Picture picture(plotScale);
+  picture.FontSize = 12;
+  DrawReadout(ThePlot(), SpansOf(*responses, 4), 2, picture);
+  EXPECT_EQ(picture.DrawMode, PenMode::Copy);
+  EXPECT_EQ(picture.DrawWidth, 1);
+  EXPECT_EQ(picture.FontSize, 12);
+}
+
+TEST_F(ReadoutDrawing, TheSecondOneIsDrawnAsTheFirst) {
+  Picture picture(plotScale);
+  DrawReadout(ThePlot(), SpansOf(*responses, 4), 2, picture);
+  const Picture first = picture;
+  picture.Clear();
+  DrawReadout(ThePlot(), SpansOf(*responses, 4), 2, picture);
+  EXPECT_EQ(picture, first);
+}
+
 TEST(CursorIndex, IsLinearOverTheFrame) {
-  DesignRecord record;
-  record.NrIntervals = 99;
-  EXPECT_EQ(CursorIndex(record, 2000.5F), 0);
-  EXPECT_EQ(CursorIndex(record, 2090.5F), 1);
-  EXPECT_EQ(CursorIndex(record, 6500), 50);
-  EXPECT_EQ(CursorIndex(record, std::nextafter(11000.0F, 0.0F)), 99);
+  SweepSettings sweep;
+  sweep.NrIntervals = 99;
+  EXPECT_EQ(CursorIndex(sweep, 2000.5F), 0);
+  EXPECT_EQ(CursorIndex(sweep, 2090.5F), 1);
+  EXPECT_EQ(CursorIndex(sweep, 6500), 50);
+  EXPECT_EQ(CursorIndex(sweep, std::nextafter(11000.0F, 0.0F)), 99);
 }
 
 TEST(CursorIndex, BeyondTheResponsesIsABoundFault) {
-  DesignRecord record;
-  record.NrIntervals = 3000;
-  EXPECT_EQ(CursorIndex(record, 2001), 0);
-  EXPECT_THROW(CursorIndex(record, 10000), BoundFault);
+  SweepSettings sweep;
+  sweep.NrIntervals = 3000;
+  EXPECT_EQ(CursorIndex(sweep, 2001), 0);
+  EXPECT_THROW(CursorIndex(sweep, 10000), BoundFault);
 }
 
 TEST(InReadoutFrame, HasNoBoundBelow) {

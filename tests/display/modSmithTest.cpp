@@ -19,14 +19,9 @@ constexpr f64 degrees = 57.29578;
 class Chart : public testing::Test {
  protected:
   Chart() {
-    record.SweepMode = 1;
-    record.Fstart = 0;
-    record.Fstop = 4e6F;
-    record.NrIntervals = 4;
-    record.NrXints = 4;
-    record.LossBottom = -60;
-    record.Rstandard = 50;
-    record.SmithAspect = 1;
+    scales.NrXints = 4;
+    scales.LossBottom = -60;
+    scales.SmithAspect = 1;
     for (int i = 0; i <= 4; ++i) {
       responses->RespFreq[i] = static_cast<f32>(i) * 1e6F;
       SetImpedance(i, 50, 0);
@@ -40,8 +35,13 @@ class Chart : public testing::Test {
 
   Picture Drawn(i16 code) {
     Picture picture;
-    DrawChart(record, *responses, code, view, TraceColors{}, picture);
+    DrawChart(PlotOf(code), SpansOf(*responses, 4), places, picture);
     return picture;
+  }
+
+  PlotSetup PlotOf(i16 code) {
+    scales.PlotCode = code;
+    return {HorizontalAxis(AxisSettings{false, 0, 4e6F}), scales, {}, view, reference};
   }
 
   static std::vector<PolylineOp> Lines(const Picture& picture, Color color) {
@@ -70,7 +70,9 @@ class Chart : public testing::Test {
     return std::find(texts.begin(), texts.end(), text) != texts.end();
   }
 
-  DesignRecord record;
+  PlotScales scales;
+  f32 reference = 50;
+  AxisPlaces places;
   std::unique_ptr<Responses> responses = std::make_unique<Responses>();
   SmithView view;
 };
@@ -97,15 +99,14 @@ TEST_F(Chart, KnownImpedancesStandAtTheirPlaces) {
 
 // z = 2 + j: (z - 1) / (z + 1) = (1 + j) / (3 + j) = 0.4 + 0.2j.
 TEST_F(Chart, TheReflectionIsThatOfTheImpedanceOverTheReference) {
-  record.Rstandard = 100;
   SetImpedance(2, 200, 100);
-  const Phasor s11 = InputReflection(record, *responses, 2);
+  const Phasor s11 = InputReflection(SpansOf(*responses, 4), 100, 2);
   EXPECT_NEAR(s11.u, 0.4, 1e-6);
   EXPECT_NEAR(s11.w, 0.2, 1e-6);
 }
 
 TEST_F(Chart, AReferenceOfZeroIsAFault) {
-  record.Rstandard = 0;
+  reference = 0;
   EXPECT_THROW(Drawn(smithCode), NumericFault);
 }
 
@@ -125,7 +126,7 @@ TEST_F(Chart, TheZoomMultipliesDistancesFromTheCentreAndBreaksTheTrace) {
 }
 
 TEST_F(Chart, TheAspectStretchesInXAlone) {
-  record.SmithAspect = 0.5F;
+  scales.SmithAspect = 0.5F;
   SetImpedance(0, 1e9, 0);
   SetImpedance(1, 0, 50);
   const PolylineOp trace = ChartTrace(smithCode);
@@ -222,7 +223,7 @@ TEST_F(Chart, TheCircleOfAVSWRIsDrawnOnDemand) {
   view.VSWRCircleOn = 1;
   view.VSWRCircle = 3;
   view.ZoomFactor = 2;
-  record.SmithAspect = 0.5F;
+  scales.SmithAspect = 0.5F;
   const auto circles = Lines(Drawn(smithCode), vswrColor);
   ASSERT_EQ(circles.size(), 1U);
   EXPECT_EQ(circles[0].points.size(), 73U);
@@ -290,6 +291,21 @@ TEST_F(Chart, ThePolarCornerShowsTheAngleInItsOwnColour) {
   const auto traces = Lines(Drawn(polarCode), 0x111177);
   ASSERT_EQ(traces.size(), 1U);
   for (const Point p : traces[0].points) EXPECT_NEAR(p.y, 2500, 0.5);
+}
+
+TEST_F(Chart, TheTracesAloneAreThoseOfTheChartAndItsCorner) {
+  Picture picture;
+  DrawChartTraces(PlotOf(polarCode), SpansOf(*responses, 4), places, picture);
+  ASSERT_EQ(picture.Operations().size(), 3U);
+  EXPECT_EQ(Lines(picture, colorBlue), Lines(Drawn(polarCode), colorBlue));
+  EXPECT_EQ(Lines(picture, 0x111177), Lines(Drawn(polarCode), 0x111177));
+}
+
+TEST_F(Chart, TheTracesInTheCornerAreThin) {
+  scales.PlotLineWidth = 4;
+  const auto traces = Lines(Drawn(smithCode), colorBlue);
+  EXPECT_EQ(traces.front().pen.width, 4);
+  EXPECT_EQ(traces.back().pen.width, 1);
 }
 
 }  // namespace

@@ -4,8 +4,6 @@
 
 #include <memory>
 
-#include "shell/HeadlessPlatform.h"
-
 namespace quilm {
 namespace {
 
@@ -13,7 +11,6 @@ class Table : public testing::Test {
  protected:
   Table() {
     record.NrIntervals = 4;
-    record.DesignFileName = "sample.QLM";
     for (int i = 0; i <= 4; ++i) {
       r->RespFreq[i] = 1000.0F * static_cast<f32>(i + 1);
       r->RespTrans[i] = -3;
@@ -56,32 +53,6 @@ TEST_F(Table, HeadingsStandOverTheirFields) {
   EXPECT_EQ(TabulatedHeadings().substr(0, 20), "Frequency,   Trans.,");
   EXPECT_EQ(TabulatedHeadings().size(), 80U);
   EXPECT_EQ(TabulatedUnits().substr(40, 10), "  seconds:");
-}
-
-int CountOf(const Picture& sheet, const std::string& text) {
-  int count = 0;
-  for (const PictureOp& operation : sheet.Operations()) {
-    const auto* op = std::get_if<TextOp>(&operation);
-    if (op != nullptr && op->text == text) ++count;
-  }
-  return count;
-}
-
-TEST_F(Table, FortyRowsAreASheetAndANewOneStartsOnlyForARow) {
-  record.NrIntervals = 39;
-  SheetPrinter one;
-  PrintTable(record, *r, one);
-  EXPECT_EQ(one.Sheets().size(), 1U);
-  record.NrIntervals = 40;
-  SheetPrinter two;
-  PrintTable(record, *r, two);
-  ASSERT_EQ(two.Sheets().size(), 2U);
-  EXPECT_EQ(CountOf(two.Sheets()[0], "Tabulated Responses"), 1);
-  EXPECT_EQ(CountOf(two.Sheets()[1], "Tabulated Responses"), 0);
-  for (const Picture& sheet : two.Sheets()) {
-    EXPECT_EQ(CountOf(sheet, "Frequency,"), 1);
-    EXPECT_EQ(CountOf(sheet, "sample.QLM"), 1);
-  }
 }
 
 }  // namespace

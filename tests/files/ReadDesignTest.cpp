@@ -134,6 +134,21 @@ TEST(ReadDesign, SweepModes) {
   EXPECT_NEAR(with("1 0 1M 300000").NrIntervals, 3.3333F, 1e-3);
 }
 
+// The step of a linear sweep is written with seven digits: what misses a whole number of intervals by a thousandth is
+// that number, what misses it by more was never whole.
+TEST(ReadDesign, AnIntervalCountWithinAThousandthIsWhole) {
+  const auto intervals = [](const std::string& stop) {
+    return Read(Head("1 0 0 A 0") + "1 0 " + stop + " 1\n" + tail.substr(tail.find('\n') + 1)).record.NrIntervals;
+  };
+  EXPECT_EQ(intervals("32.0009"), 32);
+  EXPECT_EQ(intervals("31.9991"), 32);
+  EXPECT_EQ(intervals("32.0011"), 32.0011F);
+  EXPECT_EQ(intervals("31.9989"), 31.9989F);
+  EXPECT_EQ(intervals("2049.0009"), 2049);
+  EXPECT_EQ(intervals("2049.5"), 2049);
+  EXPECT_EQ(intervals("2050"), 2049);
+}
+
 TEST(ReadDesign, AFileMayEndAfterTheLimitsOrTheMarkers) {
   const std::string text = Head("1 0 0 A 0");
   EXPECT_EQ(Read(text + tail.substr(0, tail.size() - 4)).outcome.layout, FileLayout::WithoutMarkers);

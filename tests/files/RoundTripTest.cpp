@@ -82,6 +82,8 @@ TEST(RoundTrip, FewIntervalsComeBackAsTheFormatHoldsThem) {
   record.SweepMode = 1;
   record.NrIntervals = 6;
   EXPECT_EQ(ReadBack(DesignText(record, "d8")).NrIntervals, 4);
+  record.NrIntervals = 8;
+  EXPECT_EQ(ReadBack(DesignText(record, "d8")).NrIntervals, 8);
 }
 
 TEST(RoundTrip, AnEmptyPlaceShiftsTheStagesBehindIt) {

@@ -149,8 +149,12 @@ TEST(DesignText, SweepLines) {
   record.Fstop = 1e6F;
   record.NrIntervals = 10;
   EXPECT_TRUE(Has(DesignText(record, date), " 1  0  1000000  100000 "));
-  record.NrIntervals = 6;  // fewer than 8 are written as a step of 0
-  EXPECT_TRUE(Has(DesignText(record, date), " 1  0  1000000  0 "));
+  record.NrIntervals = 8;
+  EXPECT_TRUE(Has(DesignText(record, date), " 1  0  1000000  125000 "));
+  for (const f32 few : {6.0F, 7.999F}) {  // fewer than 8 are written as a step of 0
+    record.NrIntervals = few;
+    EXPECT_TRUE(Has(DesignText(record, date), " 1  0  1000000  0 "));
+  }
   record.SweepMode = 3;
   EXPECT_TRUE(Has(DesignText(record, date), " 3  0  1000000  8 "));
 }

@@ -25,8 +25,6 @@ inline PageDirectory DesignDirectory() {
       {PageId::EnterCenterFreq, MakePage<frmEnterCenterFreq>},
       {PageId::EnterInput, MakePage<frmEnterInput>},
       {PageId::EnterFstopband, MakePage<frmEnterFstopband>},
-      {PageId::EnterAstop, MakePage<frmEnterAstop>},
-      {PageId::EnterTopology, MakePage<frmEnterTopology>},
   };
   for (const PageId id : {PageId::Plotted, PageId::Help, PageId::ChangeTitle, PageId::AddInfo, PageId::WriteFiles,
                           PageId::SeeNormalized, PageId::ManualEntry, PageId::Mderived}) {

@@ -5,7 +5,6 @@
 #include "core/modGeneral.h"
 #include "pages/DesignPageBench.h"
 #include "pages/design/DesignControls.h"
-#include "shell/EntryText.h"
 
 namespace quilm {
 namespace {
@@ -167,18 +166,6 @@ TEST_F(DesignEntries, UnitsAreEnglishOrMetric) {
   EXPECT_TRUE(Set("optMetric"));
   Press("optEnglish");
   EXPECT_EQ(record.Units, 1);
-}
-
-TEST_F(DesignEntries, ABoxThatShowsItsFieldLeavesItAlone) {
-  OpenLowpass();
-  TextBox& box = Get<TextBox>("txtInputTerm");
-  f32 field = 1234.5678F;
-  box.text = " 1.235k ";
-  ParseBox(box, field, FormatResistance);
-  EXPECT_EQ(field, 1234.5678F);
-  box.text = "1.236k";
-  ParseBox(box, field, FormatResistance);
-  EXPECT_EQ(field, 1236);
 }
 
 }  // namespace

@@ -177,8 +177,7 @@ TEST_F(DesignPages, EachFormTakesItsEntry) {
   } forms[] = {{PageId::EnterWidth, "frmEnterWidth", "txtWidth", "2.5M", 2.5e6F, record.Width},
                {PageId::EnterCenterFreq, "frmEnterCenterFreq", "txtCenterFreq", "10M", 1e7F, record.Fcenter},
                {PageId::EnterInput, "frmEnterInput", "txtInput", "2.2k", 2200, record.Rsource[1]},
-               {PageId::EnterFstopband, "frmEnterFstopband", "txtFstopband", "3M", 3e6F, record.Fstopband},
-               {PageId::EnterAstop, "frmEnterAstop", "txtAstop", "55", 55, record.Astop}};
+               {PageId::EnterFstopband, "frmEnterFstopband", "txtFstopband", "3M", 3e6F, record.Fstopband}};
   for (const auto& form : forms) {
     SCOPED_TRACE(form.name);
     record.NetworkEdited = record.ResponsesValid = 1;
@@ -229,26 +228,6 @@ TEST_F(DesignPages, AFormTakesNonsenseAsZero) {
     Press("cmdOk");
   });
   EXPECT_EQ(record.Width, 0);
-}
-
-TEST_F(DesignPages, TheTopologyFormOffersWhatTheFamilyCanBeBuiltIn) {
-  SetLowpass();
-  record.Topology = "E";
-  record.Fcenter = 1e7F;
-  Open();
-  InForm(PageId::EnterTopology, [this] {
-    EXPECT_TRUE(Set("optShuntInGeoSymm"));
-    EXPECT_FALSE(Get<Control>("optCauerBandpass").Usable());
-    Press("optIndInHighpass");
-    Press("cmdOk");
-  });
-  EXPECT_EQ(record.Topology, "J");
-  EXPECT_EQ(record.Fcenter, 0);
-  InForm(PageId::EnterTopology, [this] {
-    Press("optCapInLowpass");
-    Press("cmdIgnore");
-  });
-  EXPECT_EQ(record.Topology, "J");
 }
 
 }  // namespace

@@ -106,6 +106,18 @@ TEST_F(SmithPage, TheZoomGoesInFourStepsToSixteenAndBack) {
   EXPECT_TRUE(Get<Button>("cmdZoomIn").Active());
 }
 
+TEST_F(SmithPage, ZoomedInAndBackTwiceThePictureIsTheSame) {
+  const Picture whole = Plot();
+  Press("cmdZoomIn");
+  const Picture zoomed = Plot();
+  Press("cmdZoomOut");
+  EXPECT_EQ(Plot(), whole);
+  Press("cmdZoomIn");
+  EXPECT_EQ(Plot(), zoomed);
+  Press("cmdZoomOut");
+  EXPECT_EQ(Plot(), whole);
+}
+
 TEST_F(SmithPage, TheZoomStaysOverOtherPlotsAndPages) {
   Press("cmdZoomIn");
   Press("cmd1");
@@ -209,6 +221,27 @@ TEST_F(PlotReadout, LivesWhileTheButtonIsHeldAndLeavesNothingBehind) {
   EXPECT_TRUE(Box().mark.Empty());
 }
 
+TEST_F(PlotReadout, IsTheSameAtTheSecondPress) {
+  for (int number = 1; number <= 12; ++number) {
+    Press("cmd" + std::to_string(number));
+    const Picture before = Plot();
+    Do(MouseAct::Down, 6500, 4000);
+    const Picture first = Box().mark;
+    Do(MouseAct::Up, 6500, 4000);
+    Do(MouseAct::Down, 6500, 4000);
+    EXPECT_EQ(Box().mark, first) << number;
+    Do(MouseAct::Up, 6500, 4000);
+    EXPECT_EQ(Plot(), before) << number;
+  }
+}
+
+// The marks are drawn in exclusive or; the trace drawn after them is not.
+TEST_F(PlotReadout, LeavesItsDrawModeToItself) {
+  Do(MouseAct::Down, 6500, 4000);
+  EXPECT_EQ(Box().mark.DrawMode, PenMode::Copy);
+  EXPECT_EQ(Box().mark.DrawWidth, 1);
+}
+
 TEST_F(PlotReadout, OutsideTheFrameNothingIsUpdated) {
   Do(MouseAct::Down, 1500, 4000);
   EXPECT_TRUE(Box().mark.Empty());
@@ -249,6 +282,26 @@ TEST_F(PlotPage, ThePlotSurvivesAVisitToAnotherPage) {
   session.pages.ShowPage(PageId::Plotted);
   EXPECT_EQ(session.record.PlotCode, 4);
   EXPECT_TRUE(Shows("Envelope Delay"));
+}
+
+// A page that is opened anew shows nothing of the plot before when its own cannot be drawn.
+TEST_F(PlotPage, APlotThatCannotBeDrawnIsNotTheOneBefore) {
+  Press("cmdDesign");
+  session.record.Fstart = 0;
+  session.record.ResponsesValid = 0;
+  session.pages.ShowPage(PageId::Plotted);
+  EXPECT_TRUE(session.plot.picture.Empty());
+}
+
+TEST_F(PlotPage, ThePageShowsTheSheetOfTheSession) { EXPECT_EQ(&Plot(), &session.plot.picture); }
+
+TEST_F(PlotPage, EveryPlotPressedTwiceIsTheSame) {
+  for (int number = 1; number <= 12; ++number) {
+    Press("cmd" + std::to_string(number));
+    const Picture first = Plot();
+    Press("cmd" + std::to_string(number));
+    EXPECT_EQ(Plot(), first) << number;
+  }
 }
 
 TEST_F(PlotPage, ThePageAlwaysSweepsWhenItLoads) {

@@ -71,6 +71,15 @@ TEST_F(SchematicPage, TheFourButtonsScroll) {
   EXPECT_EQ(BandLeft(), 1620);
 }
 
+TEST_F(SchematicPage, TheSameOptionTwiceIsTheSamePicture) {
+  for (const char* option : {"Option1", "Option2", "optYes", "optNo", "Option0"}) {
+    Press(option);
+    const std::string once = Get<PictureBox>("picSchematic").picture.Dump();
+    Press(option);
+    EXPECT_EQ(Get<PictureBox>("picSchematic").picture.Dump(), once) << option;
+  }
+}
+
 TEST_F(SchematicPage, TheOptionsChooseTheForm) {
   EXPECT_EQ(Get<Frame>("fraMode").caption, "Unbalanced preview");
   EXPECT_EQ(Get<OptionButton>("Option0").caption, "Normal - unbalanced");

@@ -35,6 +35,20 @@ TEST_F(TabulatedPage, AlwaysSweeps) {
   EXPECT_NE(Rows()[35], before);
 }
 
+TEST_F(TabulatedPage, ShownTwiceItHasTheSameRows) {
+  const std::vector<std::string> once = Rows();
+  session.pages.ShowPage(PageId::Tabulated);
+  EXPECT_EQ(Rows(), once);
+}
+
+TEST_F(TabulatedPage, PrintedTwiceItIsTheSameDocument) {
+  platform.printers = {true, true};
+  Press("cmdPrint");
+  const std::vector<Picture> once = platform.Printer().Sheets();
+  Press("cmdPrint");
+  EXPECT_TRUE(platform.Printer().Sheets() == once);
+}
+
 TEST_F(TabulatedPage, FortyIntervalsPrintWithoutAQuestion) {
   platform.printers = {true};
   Press("cmdPrint");

@@ -210,6 +210,37 @@ TEST_F(Schematic, ALongNetworkSaysThatThereIsMore) {
   EXPECT_TRUE(Shows(" >"));
 }
 
+// The page ends at 12000. The source takes 1620, a stage 960 and the load 1300.
+TEST_F(Schematic, TheLoadBelongsToWhatThePageMustHold) {
+  while (record.Stages < 9) Add(SeriesL);
+  EXPECT_FALSE(Shows(" >"));
+  view.SchemOffset = 440;  // 1620 + 9 * 960 + 1300 + 440 = 12000
+  EXPECT_FALSE(Shows(" >"));
+  view.SchemOffset = 441;
+  EXPECT_TRUE(Shows(" >"));
+  view.SchemOffset = 0;
+  Add(SeriesL);  // the stages alone would end at 11220
+  EXPECT_TRUE(Shows(" >"));
+}
+
+TEST_F(Schematic, TheExtremesOfTheInductorsAreTold) {
+  Add(ShuntL);
+  record.stage[4].Lval.value = -4.7e-5F;  // by magnitude
+  Add(SeriesL);
+  record.stage[5].Lval.value = 2.2e-6F;
+  EXPECT_TRUE(Shows("Largest inductor: 47uH"));
+  EXPECT_TRUE(Shows("Smallest inductor: 2.2uH"));
+  EXPECT_TRUE(Shows("Inductors: 21.364"));
+}
+
+TEST_F(Schematic, DrawnTwiceItIsTheSamePicture) {
+  Picture picture;
+  DrawSchematic(record, view, picture);
+  const Picture once = picture;
+  DrawSchematic(record, view, picture);
+  EXPECT_TRUE(picture == once) << picture.Dump();
+}
+
 TEST_F(Schematic, TheArtworkIsBareAndWrapsItsRows) {
   while (record.Stages < 43) Add(record.Stages % 2 == 0 ? ShuntC : SeriesL);
   Picture picture;

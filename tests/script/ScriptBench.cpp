@@ -16,11 +16,29 @@ BenchPage::BenchPage(Session& session, Log& heard) : Page(session, PageId::Desig
     session_.pages.ShowModal(PageId::EnterWidth);
     log.push_back("form closed");
   };
+  cmdRuns.onClick = [this] {
+    session_.pages.ShowPage(PageId::Schematic);
+    session_.pages.UnloadPage(Id());
+  };
+  cmdBeside.onClick = [this] {
+    session_.pages.ShowBeside(PageId::EnterWidth);
+    log.push_back("beside closed");
+  };
+  cmdMeasure.onClick = [this] { session_.pages.ShowBeside(PageId::EnterWidth, {&picPlot, &cmdLog}); };
   cmdFocus.onClick = [this] { SetFocus(txtValue); };
   picPlot.picture.SetScale({0, 0, 100, 50});
   ConnectDialogs();
   ConnectPlatform();
   ConnectEntries();
+  ConnectAreas();
+}
+
+void BenchPage::ConnectAreas() {
+  picHidden.visible = false;
+  picHidden.areas = {{"T1", {0, 0}, {1, 1}, "", true, [] {}}};
+  picPlot.areas = {{"L1", {60, 10}, {70, 30}, "Inductor 1", true, [this] { log.push_back("area L1"); }},
+                   {"C2", {75, 10}, {85, 30}, "", true, {}},
+                   {"R3", {90, 10}, {96, 30}, "", false, [this] { log.push_back("area R3"); }}};
 }
 
 void BenchPage::ConnectDialogs() {
@@ -49,7 +67,7 @@ void BenchPage::ConnectDialogs() {
 void BenchPage::ConnectPlatform() {
   cmdBeep.onClick = [this] { session_.platform.Beep(); };
   cmdHelp.onClick = [this] { session_.platform.ShellOpen("help.htm"); };
-  cmdRandom.onClick = [this] { log.push_back(std::to_string(session_.random())); };
+  cmdRandom.onClick = [this] { log.push_back(std::to_string(session_.random.Next())); };
   cmdClock.onClick = [this] {
     const DateTime now = session_.platform.Now();
     log.push_back(std::to_string(now.year) + " " + std::to_string(now.month) + " " + std::to_string(now.day) + " " +
@@ -142,7 +160,9 @@ Outcome RunText(const std::string& script, const std::function<void(Session&)>& 
   const PageDirectory pages{
       {PageId::Design, [&](Session& session) { return std::make_unique<BenchPage>(session, outcome.log); }},
       {PageId::EnterWidth, [&](Session& session) { return std::make_unique<BenchForm>(session, outcome.log); }},
-      {PageId::Plotted, [](Session& session) { return std::make_unique<BenchOther>(session); }}};
+      {PageId::Plotted, [](Session& session) { return std::make_unique<BenchOther>(session); }},
+      {PageId::Schematic,
+       [&](Session& session) { return std::make_unique<DemoRunPage>(session, PageId::Schematic, outcome.run); }}};
   // Read back, as whoever uses the lines does.
   ScriptRun run(text, "/nowhere", pages,
                 [&](const Json& event) { outcome.events.push_back(Json::parse(JsonLine(event))); });

@@ -1,5 +1,5 @@
-// A small program for scripts to drive: a main page with one control of each kind, a modal form that can open itself a
-// second time over itself, and a second main page.
+// A small program for scripts to drive: a main page with one control of each kind, a form that opens over it or beside
+// it, a second main page, and a page with a long run.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -8,6 +8,7 @@
 
 #include "script/ScriptRun.h"
 #include "shell/Page.h"
+#include "support/DemoRunPage.h"
 
 namespace quilm {
 
@@ -17,7 +18,7 @@ class BenchPage : public Page {
  public:
   BenchPage(Session& session, Log& log);
   void CloseBox() override;
-  Layout MakeLayout() override { return Column({}); }
+  Layout MakeLayout() override { return SidePlace(Column({})); }
 
   Log& log;
   Button cmdLog{*this, "cmdLog", "Log", "Writes a line"};
@@ -36,6 +37,9 @@ class BenchPage : public Page {
   Button cmdHelp{*this, "cmdHelp", "Help"};
   Button cmdFocus{*this, "cmdFocus", "Focus"};
   Button cmdRandom{*this, "cmdRandom", "Random"};
+  Button cmdRuns{*this, "cmdRuns", "Runs"};
+  Button cmdBeside{*this, "cmdBeside", "Beside"};
+  Button cmdMeasure{*this, "cmdMeasure", "Measure"};
   Button cmdClock{*this, "cmdClock", "Clock"};
   Button cmdHidden{*this, "cmdHidden", "Hidden"};
   Button cmdDisabled{*this, "cmdDisabled", "Disabled"};
@@ -50,8 +54,10 @@ class BenchPage : public Page {
   ListBox lstLines{*this, "lstLines", "Lines"};
   Timer Timer1{*this, "Timer1", 10};
   PictureBox picPlot{*this, "picPlot", "Plot"};
+  PictureBox picHidden{*this, "picHidden", "Hidden plot"};
 
  private:
+  void ConnectAreas();
   void ConnectDialogs();
   void ConnectPlatform();
   void ConnectEntries();
@@ -81,6 +87,7 @@ class BenchOther : public Page {
 struct Outcome {
   std::vector<Json> events;  // as printed
   Log log;                   // what the handlers heard
+  RunLog run;                // what the page with the long run did
   std::optional<ScriptError> error;
 
   // The events of a name.

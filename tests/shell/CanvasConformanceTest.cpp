@@ -3,6 +3,7 @@
 #include <numbers>
 
 #include "shell/Ink.h"
+#include "shell/LiveLayer.h"
 #include "shell/Picture.h"
 #include "shell/SvgCanvas.h"
 #include "shell/SvgReader.h"
@@ -57,6 +58,18 @@ struct PictureProbe {
   Picture picture{conformanceScale};
 };
 INSTANTIATE_TYPED_TEST_SUITE_P(Picture, CanvasConformance, PictureProbe);
+
+struct LiveProbe {
+  LiveProbe() { layer.SetScale(conformanceScale); }
+  Canvas& Surface() { return layer; }
+  bool Inked(const Box& box, Color color) const {
+    Ink ink;
+    for (const PictureOp& operation : layer.Present().kept) std::visit(Inker{ink}, operation);
+    return ink.Covers(box, color);
+  }
+  LiveLayer layer;
+};
+INSTANTIATE_TYPED_TEST_SUITE_P(Live, CanvasConformance, LiveProbe);
 
 struct SvgProbe {
   SvgProbe() { canvas.SetScale(conformanceScale); }

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <utility>
 
 namespace quilm {
 namespace {
@@ -123,16 +124,65 @@ TEST(Picture, ThePenAtRestDoesNotCount) {
   EXPECT_TRUE(picture == Picture());
 }
 
-TEST(Picture, TheRevisionMovesOnWithEveryChange) {
+TEST(PictureDrawing, GrowsInPlace) {
   Picture picture;
-  i32 last = picture.Revision();
+  const auto held = picture.Drawing();
   for (const Drawing& drawing : Operations()) {
+    const std::size_t before = held->size();
     drawing.draw(picture);
-    EXPECT_GT(picture.Revision(), last) << drawing.name;
-    last = picture.Revision();
+    EXPECT_EQ(held->size(), before + 1) << drawing.name;
   }
+  EXPECT_EQ(picture.Drawing(), held);
+}
+
+TEST(PictureDrawing, AClearedPictureIsAnotherOneHoweverItIsDrawn) {
+  Picture picture;
+  picture.Line(0, 0, 1, 1, colorRed);
+  const auto held = picture.Drawing();
   picture.Clear();
-  EXPECT_GT(picture.Revision(), last);
+  picture.Line(0, 0, 1, 1, colorRed);
+  EXPECT_NE(picture.Drawing(), held);
+  EXPECT_EQ(held->size(), 1U) << "what was shown can still be shown";
+}
+
+TEST(PictureDrawing, ACopyIsADrawingOfItsOwn) {
+  Picture original;
+  original.Line(0, 0, 1, 1, colorRed);
+  Picture copy = original;
+  EXPECT_NE(copy.Drawing(), original.Drawing());
+  copy.Line(1, 1, 2, 2, colorRed);
+  EXPECT_EQ(original.Operations().size(), 1U);
+}
+
+TEST(PictureDrawing, AnAssignedPictureIsTakenForNoneOfTheTwo) {
+  Picture source;
+  source.Line(0, 0, 1, 1, colorBlue);
+  Picture target;
+  target.Line(0, 0, 1, 1, colorRed);
+  const auto held = target.Drawing();
+  target = source;
+  EXPECT_NE(target.Drawing(), held);
+  EXPECT_NE(target.Drawing(), source.Drawing());
+  EXPECT_EQ(target, source);
+}
+
+TEST(PictureDrawing, AMovedFromPictureCanBeDrawnOn) {
+  Picture source;
+  source.Line(0, 0, 1, 1, colorBlue);
+  const auto held = source.Drawing();
+  const Picture target = std::move(source);
+  EXPECT_EQ(target.Operations().size(), 1U);
+  source = Picture();
+  source.Line(0, 0, 1, 1, colorRed);
+  EXPECT_NE(source.Drawing(), held);
+}
+
+TEST(PictureDrawing, AssignedToItselfItStays) {
+  Picture picture;
+  picture.Line(0, 0, 1, 1, colorBlue);
+  const Picture& same = picture;
+  picture = same;
+  EXPECT_EQ(picture.Operations().size(), 1U);
 }
 
 // The scale 100 by 50 from (10, 20) into a box 200 by 200 at (1000, 2000): x doubles, y is four times as large.

@@ -20,8 +20,9 @@ class BenchPage : public Page {
     log.push_back("load " + std::string(Name()));
     if (onLoad) onLoad();
   }
-  Layout MakeLayout() override { return Column({}); }
+  Layout MakeLayout() override { return place; }
   std::function<void()> onLoad;
+  Layout place = Column({});
 
   Log& log;
   Frame fraBox{*this, "fraBox", "Box"};

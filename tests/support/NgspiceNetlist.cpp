@@ -17,13 +17,13 @@ std::string Text(const Pieces&... pieces) {
 
 }  // namespace
 
-NgspiceNetlist::NgspiceNetlist(const DesignRecord& record, f64 lossFrequency)
-    : record_(record), lossFrequency_(lossFrequency) {
+NgspiceNetlist::NgspiceNetlist(const Network& network, f64 lossFrequency)
+    : network_(network), lossFrequency_(lossFrequency) {
   Add("ladder");
   Add("V1 src 0 AC 1");
-  Part('R', "src", "n0", record.Rsource[1]);
-  for (int s = 1; s <= record.Stages; ++s) Write(s);
-  Part('R', Output(), "0", record.Rload[1]);
+  Part('R', "src", "n0", network.Rsource[1]);
+  for (int s = 1; s <= network.Stages; ++s) Write(s);
+  Part('R', Output(), "0", network.Rload[1]);
 }
 
 std::string NgspiceNetlist::Node(int s) { return std::string("n").append(std::to_string(s)); }
@@ -37,24 +37,12 @@ std::string NgspiceNetlist::Between() { return std::string("m").append(std::to_s
 void NgspiceNetlist::Inductor(const std::string& a, const std::string& b, f64 L) {
   const std::string middle = Between();
   Part('L', a, middle, L);
-  Part('R', middle, b, 2 * Pi * lossFrequency_ * L / record_.Qind[1]);
+  Part('R', middle, b, 2 * Pi * lossFrequency_ * L / network_.Qind[1]);
 }
 
 void NgspiceNetlist::Capacitor(const std::string& a, const std::string& b, f64 C) {
   Part('C', a, b, C);
-  Part('R', a, b, record_.Qcap[1] / (2 * Pi * lossFrequency_ * C));
-}
-
-void NgspiceNetlist::Tank(const std::string& a, const std::string& b, const Stage& stage) {
-  Inductor(a, b, stage.Lval.value);
-  Capacitor(a, b, stage.Cval.value);
-  Part('R', a, b, 1e11);
-}
-
-void NgspiceNetlist::SeriesPair(const std::string& a, const std::string& b, const Stage& stage) {
-  const std::string middle = Between();
-  Inductor(a, middle, stage.Lval.value);
-  Capacitor(middle, b, stage.Cval.value);
+  Part('R', a, b, network_.Qcap[1] / (2 * Pi * lossFrequency_ * C));
 }
 
 void NgspiceNetlist::Line(const std::string& a, const std::string& b, const std::string& c, const std::string& d,
@@ -87,77 +75,55 @@ void NgspiceNetlist::Couple(const std::string& a, const std::string& b, const Co
   Add(Text('K', ++parts_, " L", first, " L", first + 1, ' ', coil.k));
 }
 
-bool NgspiceNetlist::WriteShunt(const Stage& stage, const std::string& a) {
-  switch (stage.ElementType) {
-    case ShuntL:
-      Inductor(a, "0", stage.Lval.value);
-      return true;
-    case ShuntC:
-      Capacitor(a, "0", stage.Cval.value);
-      return true;
-    case ShuntSLC:
-      SeriesPair(a, "0", stage);
-      return true;
-    case ShuntPLC:
-      Tank(a, "0", stage);
-      return true;
-    case ShuntR:
-      Part('R', a, "0", stage.Rval.value);
-      return true;
-    case ShuntShortStub:
-      Stub(a, "0", stage.TLval, false);
-      return true;
-    case ShuntOpenStub:
-      Stub(a, "0", stage.TLval, true);
-      return true;
-    case ShuntRLC: {
-      const std::string middle = Between();
-      Part('R', a, middle, stage.Rval.value);
-      SeriesPair(middle, "0", stage);
-      return true;
-    }
-    default:
-      return false;
+void NgspiceNetlist::Chain(const std::string& a, const std::string& b, const Stage& stage, const Element& element) {
+  std::string from = a;
+  std::size_t left = element.slots.size();
+  for (const Slot& slot : element.slots) {
+    const std::string to = --left == 0 ? b : Between();
+    const f64 value = slot.value(stage);
+    if (slot.code == SlotCode::Inductance) Inductor(from, to, value);
+    if (slot.code == SlotCode::Capacitance) Capacitor(from, to, value);
+    if (slot.code == SlotCode::Resistance) Part('R', from, to, value);
+    from = to;
   }
 }
 
-void NgspiceNetlist::WriteSeries(const Stage& stage, const std::string& a, const std::string& b) {
-  switch (stage.ElementType) {
-    case SeriesL:
-      return Inductor(a, b, stage.Lval.value);
-    case SeriesC:
-      return Capacitor(a, b, stage.Cval.value);
-    case SeriesSLC:
-      return SeriesPair(a, b, stage);
-    case SeriesPLC:
-      return Tank(a, b, stage);
-    case SeriesR:
-      return Part('R', a, b, stage.Rval.value);
-    case TransLine:
+void NgspiceNetlist::Tank(const std::string& a, const std::string& b, const Stage& stage, const Element& element) {
+  Inductor(a, b, stage.Lval.value);
+  Capacitor(a, b, stage.Cval.value);
+  Part('R', a, b, 1e11);
+  if (element.Has(SlotCode::Resistance)) Part('R', a, b, stage.Rval.value);
+}
+
+void NgspiceNetlist::WriteElement(const Stage& stage, const Element& element, const std::string& a,
+                                  const std::string& b) {
+  switch (element.joint) {
+    case Joint::Chain:
+      return Chain(a, b, stage, element);
+    case Joint::Parallel:
+      return Tank(a, b, stage, element);
+    case Joint::Line:
       return Line(a, "0", b, "0", stage.TLval);
-    case SeriesShortStub:
+    case Joint::ShortStub:
       return Stub(a, b, stage.TLval, false);
-    case SeriesOpenStub:
+    case Joint::OpenStub:
       return Stub(a, b, stage.TLval, true);
-    case Transformer:
+    case Joint::Transformer:
       return Transform(a, b, stage.XfmrVal.value);
-    case CoupledInductors:
+    case Joint::Coupled:
       return Couple(a, b, stage.CoupledVal);
-    case SeriesRLC:
-      Tank(a, b, stage);
-      return Part('R', a, b, stage.Rval.value);
-    default:
-      throw Fault("no netlist for type " + std::to_string(stage.ElementType));
+    case Joint::Reactance:
+      throw Fault("no netlist for " + std::string(element.name));
   }
 }
 
 void NgspiceNetlist::Write(int s) {
-  const Stage& stage = record_.stage[s];
-  if (WriteShunt(stage, Node(s - 1))) {
-    Add(Text("Vs", ++parts_, ' ', Node(s - 1), ' ', Node(s), " 0"));
-  } else {
-    WriteSeries(stage, Node(s - 1), Node(s));
-  }
+  const Stage& stage = network_.stage[s];
+  const Element* element = FindElement(stage.ElementType);
+  if (element == nullptr) throw Fault("no netlist for type " + std::to_string(stage.ElementType));
+  if (element->placement != Placement::Shunt) return WriteElement(stage, *element, Node(s - 1), Node(s));
+  WriteElement(stage, *element, Node(s - 1), "0");
+  Add(Text("Vs", ++parts_, ' ', Node(s - 1), ' ', Node(s), " 0"));
 }
 
 }  // namespace quilm

@@ -4,7 +4,8 @@
 #include <string>
 #include <vector>
 
-#include "core/DesignRecord.h"
+#include "core/ElementCatalogue.h"
+#include "core/Network.h"
 
 namespace quilm {
 
@@ -13,13 +14,13 @@ namespace quilm {
 class NgspiceNetlist {
  public:
   // Throws Fault for a type that has no netlist.
-  NgspiceNetlist(const DesignRecord& record, f64 lossFrequency);
+  NgspiceNetlist(const Network& network, f64 lossFrequency);
 
   // The title and the parts, without commands and without ".end".
   const std::vector<std::string>& Lines() const { return lines_; }
 
   // The node of the load.
-  std::string Output() const { return Node(record_.Stages); }
+  std::string Output() const { return Node(network_.Stages); }
 
  private:
   static std::string Node(int s);
@@ -27,19 +28,18 @@ class NgspiceNetlist {
   void Part(char kind, const std::string& a, const std::string& b, f64 value);
   void Inductor(const std::string& a, const std::string& b, f64 L);
   void Capacitor(const std::string& a, const std::string& b, f64 C);
-  void Tank(const std::string& a, const std::string& b, const Stage& stage);
-  void SeriesPair(const std::string& a, const std::string& b, const Stage& stage);
+  void Chain(const std::string& a, const std::string& b, const Stage& stage, const Element& element);
+  void Tank(const std::string& a, const std::string& b, const Stage& stage, const Element& element);
   void Line(const std::string& a, const std::string& b, const std::string& c, const std::string& d,
             const LineValue& line);
   void Stub(const std::string& a, const std::string& b, const LineValue& line, bool open);
   void Transform(const std::string& a, const std::string& b, f64 n);
   void Couple(const std::string& a, const std::string& b, const CoupledValue& coil);
-  bool WriteShunt(const Stage& stage, const std::string& a);
-  void WriteSeries(const Stage& stage, const std::string& a, const std::string& b);
+  void WriteElement(const Stage& stage, const Element& element, const std::string& a, const std::string& b);
   void Write(int s);
   void Add(const std::string& line) { lines_.push_back(line); }
 
-  const DesignRecord& record_;
+  const Network& network_;
   f64 lossFrequency_;
   std::vector<std::string> lines_;
   int parts_ = 0;

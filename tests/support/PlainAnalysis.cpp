@@ -1,7 +1,6 @@
 #include "support/PlainAnalysis.h"
 
 #include <cmath>
-#include <complex>
 
 namespace quilm::plain {
 
@@ -20,10 +19,14 @@ f64 Over(f64 x, f64 y) {
   return Finite(x / y);
 }
 
+const f64 ln10 = std::log(10.0);
+
 f64 Log10(f64 x) {
   if (!(x > 0) || !std::isfinite(x)) throw Failure();
-  return std::log(x) / std::log(10.0);
+  return std::log(x) / ln10;
 }
+
+f64 Square(f64 x) { return x * x; }
 
 struct Complex {
   f64 re = 0;
@@ -49,15 +52,16 @@ struct Pair {
 
 Pair ToParallel(f64 R, f64 X) {
   if (X == 0) X = 1e-10;
-  const f64 Rp = (std::pow(Over(X, R), 2) + 1) * R;
+  const f64 Rp = (Square(Over(X, R)) + 1) * R;
   return {Rp, Over(R * Rp, X)};
 }
 
 Pair ToSeries(f64 Rp, f64 Xp) {
-  const f64 Rser = std::fabs(Over(Rp, std::pow(Over(Rp, Xp), 2) + 1));
+  const f64 Rser = std::fabs(Over(Rp, Square(Over(Rp, Xp)) + 1));
   return {Rser, Over(Rp * Rser, Xp)};
 }
 
+// The reactances of a stage at a frequency, each formed once where it is needed.
 struct Part {
   const DesignRecord& record;
   f64 Omega;
@@ -68,22 +72,32 @@ struct Part {
   f64 Rs() const { return Over(2 * Pi * Fq * L, record.Qind[1]); }
   f64 XL() const { return Omega * L; }
   Pair ParallelL(f64 rs) const {
-    const f64 RpL = (std::pow(Over(XL(), rs), 2) + 1) * rs;
-    return {RpL, Over(rs * RpL, XL())};
+    const f64 xl = XL();
+    const f64 RpL = (Square(Over(xl, rs)) + 1) * rs;
+    return {RpL, Over(rs * RpL, xl)};
   }
   f64 Xc() const { return C == 0 ? 1e11 : Over(-1, Omega * C); }
-  f64 RpC() const { return std::fabs(static_cast<f64>(record.Qcap[1]) * Xc()); }
-  Pair SeriesC() const {
-    const f64 RsC = Over(RpC(), std::pow(Over(RpC(), Xc()), 2) + 1);
-    return {RsC, Over(RpC() * RsC, Xc())};
+  f64 RpC(f64 xc) const { return std::fabs(static_cast<f64>(record.Qcap[1]) * xc); }
+  Pair ParallelC() const {
+    const f64 xc = Xc();
+    return {RpC(xc), xc};
   }
-  Pair SeriesLC() const { return {Rs() + SeriesC().R, XL() + SeriesC().X}; }
+  Pair SeriesC() const {
+    const Pair parallel = ParallelC();
+    const f64 RsC = Over(parallel.R, Square(Over(parallel.R, parallel.X)) + 1);
+    return {RsC, Over(parallel.R * RsC, parallel.X)};
+  }
+  Pair SeriesLC() const {
+    const Pair c = SeriesC();
+    return {Rs() + c.R, XL() + c.X};
+  }
   // Rtot and Xtot of the parallel sum.
   Pair Tank() const {
     Pair l = ParallelL(Rs());
-    if (Xc() + l.X == 0) l.X *= 1.00001;
-    const f64 rpc = C == 0 ? 1e11 : RpC();
-    return {Over(1, Over(1, l.R) + Over(1, rpc) + 1 / 1e11), Over(1, Over(1, Xc()) + Over(1, l.X))};
+    const Pair c = ParallelC();
+    if (c.X + l.X == 0) l.X *= 1.00001;
+    const f64 rpc = C == 0 ? 1e11 : c.R;
+    return {Over(1, Over(1, l.R) + Over(1, rpc) + 1 / 1e11), Over(1, Over(1, c.X) + Over(1, l.X))};
   }
 };
 
@@ -150,13 +164,17 @@ Matrix StageMatrix(const DesignRecord& record, const Stage& stage, f64 Omega, f6
     case SeriesC:
       return SeriesArm(part.SeriesC());
     case ShuntC:
-      return ShuntArm({part.RpC(), part.Xc()});
+      return ShuntArm(part.ParallelC());
     case SeriesSLC:
       return SeriesArm(part.SeriesLC());
-    case ShuntSLC:
-      return ShuntArm(ToParallel(part.SeriesLC().R, part.SeriesLC().X));
-    case SeriesPLC:
-      return SeriesArm(ToSeries(part.Tank().R, part.Tank().X));
+    case ShuntSLC: {
+      const Pair arm = part.SeriesLC();
+      return ShuntArm(ToParallel(arm.R, arm.X));
+    }
+    case SeriesPLC: {
+      const Pair tank = part.Tank();
+      return SeriesArm(ToSeries(tank.R, tank.X));
+    }
     case ShuntPLC:
       return ShuntArm(part.Tank());
     case SeriesR:
@@ -174,8 +192,10 @@ Matrix StageMatrix(const DesignRecord& record, const Stage& stage, f64 Omega, f6
     }
     case CoupledInductors:
       return CoupledStage(stage.CoupledVal, Omega);
-    case ShuntRLC:
-      return ShuntArm(ToParallel(part.SeriesLC().R + R, part.SeriesLC().X));
+    case ShuntRLC: {
+      const Pair arm = part.SeriesLC();
+      return ShuntArm(ToParallel(arm.R + R, arm.X));
+    }
     case SeriesRLC: {
       const Pair tank = part.Tank();
       return SeriesArm(ToSeries(Over(1, Over(1, tank.R) + Over(1, R)), tank.X));
@@ -230,7 +250,7 @@ void Input(const Matrix& chain, f64 RL, f64 Rstandard, Point& point) {
   Finite(static_cast<f64>(static_cast<f32>(mag)));
   point.ZinMag = mag;
   point.ZinAngleRaw = TurnedAngle(R, X, 90);
-  f64 Rho = Over(std::sqrt(std::pow(R - Rstandard, 2) + X * X), std::sqrt(std::pow(R + Rstandard, 2) + X * X));
+  f64 Rho = Over(std::sqrt(Square(R - Rstandard) + X * X), std::sqrt(Square(R + Rstandard) + X * X));
   if (Rho > 0.9999999) Rho = 0.9999999;
   if (Rho < 1e-7) Rho = 1e-7;
   point.ReturnDB = -20 * Log10(1 / Rho);
@@ -256,17 +276,17 @@ void AnalyzePoint(const DesignRecord& record, f32 Fq, f32 PrevFreq, f32 PrevAngl
 
 void Sweep(const DesignRecord& record, f32 Fq, Responses& r) {
   const int last = static_cast<int>(std::nearbyint(record.NrIntervals));
-  const f64 start = record.Fstart;
-  const f64 stop = record.Fstop;
+  const bool linear = record.SweepMode == 1;
+  const f64 intervals = record.NrIntervals;
+  const f64 start = linear ? static_cast<f64>(record.Fstart) : std::log(static_cast<f64>(record.Fstart));
+  const f64 stop = linear ? static_cast<f64>(record.Fstop) : std::log(static_cast<f64>(record.Fstop));
   Point point;
   f32 PrevFreq = 0;
   f32 PrevAngle = 0;
   f64 phase = 0;
   for (int i = 0; i <= last; ++i) {
-    const f64 part = i / static_cast<f64>(record.NrIntervals);
-    r.RespFreq[i] =
-        static_cast<f32>(record.SweepMode == 1 ? (stop - start) * part + start
-                                               : std::exp(std::log(start) + (std::log(stop) - std::log(start)) * part));
+    const f64 at = (stop - start) * (i / intervals) + start;
+    r.RespFreq[i] = static_cast<f32>(linear ? at : std::exp(at));
     AnalyzePoint(record, Fq, PrevFreq, PrevAngle, r.RespFreq[i], point);
     phase += point.PhaseStep;
     r.RespTrans[i] = static_cast<f32>(point.TransDB);

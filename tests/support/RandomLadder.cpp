@@ -1,7 +1,9 @@
 #include "support/RandomLadder.h"
 
-#include <array>
 #include <cmath>
+#include <vector>
+
+#include "core/ElementCatalogue.h"
 
 namespace quilm {
 
@@ -16,7 +18,13 @@ f32 Around(std::mt19937& random, f64 middle) {
 }  // namespace
 
 std::span<const i16> AnalysableTypes() {
-  static constexpr std::array<i16, 19> types = {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 19, 20, 21};
+  static const std::vector<i16> types = [] {
+    std::vector<i16> found;
+    for (const Element& element : Elements()) {
+      if (!element.slots.empty()) found.push_back(element.code);
+    }
+    return found;
+  }();
   return types;
 }
 

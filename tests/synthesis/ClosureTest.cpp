@@ -4,6 +4,7 @@
 #include <cmath>
 #include <complex>
 
+#include "core/Topology.h"
 #include "gtest/gtest.h"
 #include "support/LosslessLadder.h"
 #include "synthesis/MakeNetwork.h"

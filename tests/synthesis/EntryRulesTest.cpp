@@ -2,6 +2,9 @@
 
 #include <gmock/gmock.h>
 
+#include <cmath>
+#include <limits>
+
 #include "support/EntryCases.h"
 
 namespace quilm {
@@ -65,6 +68,94 @@ TEST(EntryRules, SettingsAreHeldInTheirRangesWithoutAWord) {
     EXPECT_THAT(report.findings, IsEmpty());
     EXPECT_THAT(report.boxes, SizeIs(row.held == row.entered ? 0 : 1));
     EXPECT_EQ(record.ResponsesValid, row.held == row.entered ? 1 : 0);
+  }
+}
+
+// At each limit, and one step of 32 bits to both sides of it.
+TEST(EntryRules, BothLimitsBelongToTheRange) {
+  const struct {
+    const char* name;
+    f32 lowest, highest;
+    void (*set)(DesignRecord&, f32);
+    f32 (*get)(const DesignRecord&);
+  } table[] = {{"NrYints", 4, 30, QUILM_FIELD(NrYints)},     {"NrIntervals", 4, 2049, QUILM_FIELD(NrIntervals)},
+               {"Fstart", 0.01F, 9e9F, QUILM_FIELD(Fstart)}, {"Fstop", 0.02F, 1e10F, QUILM_FIELD(Fstop)},
+               {"VSWRTop", 1.05F, 7, QUILM_FIELD(VSWRTop)},  {"Qind", 2, 1e7F, QUILM_FIELD(Qind[1])},
+               {"Qcap", 2, 1e7F, QUILM_FIELD(Qcap[1])}};
+  constexpr f32 infinity = std::numeric_limits<f32>::infinity();
+  for (const auto& row : table) {
+    SCOPED_TRACE(row.name);
+    const f32 below = std::nextafter(row.lowest, -infinity);
+    const f32 above = std::nextafter(row.highest, infinity);
+    const f32 inside[] = {std::nextafter(row.lowest, infinity), std::nextafter(row.highest, -infinity)};
+    const auto held = [&row](f32 entered) {
+      DesignRecord record = Sound();
+      row.set(record, entered);
+      ExamineEntries(record);
+      return row.get(record);
+    };
+    EXPECT_EQ(held(below), row.lowest);
+    EXPECT_EQ(held(row.lowest), row.lowest);
+    EXPECT_EQ(held(inside[0]), inside[0]);
+    EXPECT_EQ(held(inside[1]), inside[1]);
+    EXPECT_EQ(held(row.highest), row.highest);
+    EXPECT_EQ(held(above), row.highest);
+  }
+}
+
+// A repaired entry is told to its box as the limit reads, without blanks around it.
+TEST(EntryRules, ALimitIsShownAsItReads) {
+  const struct {
+    const char* box;
+    const char* lowest;
+    const char* highest;
+    void (*set)(DesignRecord&, f32);
+    f32 (*get)(const DesignRecord&);
+  } table[] = {{"lblNrYints", "4", "30", QUILM_FIELD(NrYints)},
+               {"txtNrIntervals", "4", "2049", QUILM_FIELD(NrIntervals)},
+               {"txtFstart", "10m", "9G", QUILM_FIELD(Fstart)},
+               {"txtFstop", "20m", "10G", QUILM_FIELD(Fstop)},
+               {"txtVSWRTop", "1.05", "7", QUILM_FIELD(VSWRTop)},
+               {"txtQinductor", "2", "10000000", QUILM_FIELD(Qind[1])},
+               {"txtQcapacitor", "2", "10000000", QUILM_FIELD(Qcap[1])}};
+  for (const auto& row : table) {
+    for (const bool high : {false, true}) {
+      DesignRecord record = Sound();
+      row.set(record, high ? 2e10F : -1);
+      EXPECT_THAT(ExamineEntries(record).boxes,
+                  ElementsAre(RepairedEntry{PageId::Analyze, row.box, high ? row.highest : row.lowest}));
+    }
+  }
+}
+
+TEST(EntryRules, EntriesCountAboveTheirLeast) {
+  constexpr f32 infinity = std::numeric_limits<f32>::infinity();
+  const f32 above = std::nextafter(0.01F, infinity);
+  const f32 below = std::nextafter(0.01F, 0.0F);
+  const auto passes = [](f32 source, bool edited) {
+    DesignRecord record = Sound();
+    record.Rsource[1] = source;
+    record.NetworkEdited = edited ? 1 : 0;
+    return ExamineEntries(record).Passed();
+  };
+  EXPECT_TRUE(passes(above, false));
+  EXPECT_FALSE(passes(0.01F, false));
+  EXPECT_TRUE(passes(0.01F, true));
+  EXPECT_FALSE(passes(below, true));
+  DesignRecord narrow = Sound();
+  narrow.Width = std::numeric_limits<f32>::min();
+  EXPECT_TRUE(ExamineEntries(narrow).Passed());
+}
+
+TEST(EntryRules, ACauerDepthIsFrom10To180) {
+  constexpr f32 infinity = std::numeric_limits<f32>::infinity();
+  const std::pair<f32, bool> rows[] = {{std::nextafter(10.0F, 0.0F), false},      {10.0F, true},
+                                       {std::nextafter(10.0F, infinity), true},   {180.0F, true},
+                                       {std::nextafter(180.0F, infinity), false}, {-60.0F, false}};
+  for (const auto& [depth, passes] : rows) {
+    DesignRecord record = Cauer(5);
+    record.Astop = depth;
+    EXPECT_EQ(ExamineEntries(record).Passed(), passes) << depth;
   }
 }
 
@@ -205,6 +296,5 @@ TEST(EntryRules, AnEditedNetworkNeedsNoBandwidth) {
   EXPECT_TRUE(ExamineEntries(manual).Passed());
 }
 
-// A repaired entry shows in its box at once, in display format.
 }  // namespace
 }  // namespace quilm

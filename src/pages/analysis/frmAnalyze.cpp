@@ -1,36 +1,28 @@
 #include "pages/analysis/frmAnalyze.h"
 
-#include <algorithm>
 #include <cmath>
 
 #include "analysis/AnalysisEntries.h"
 #include "analysis/modAnalysis.h"
+#include "core/EntryLimits.h"
 #include "core/Fault.h"
-#include "core/NumberText.h"
 #include "core/modGeneral.h"
 #include "desk/Leaving.h"
 #include "desk/modCheckEntries.h"
-#include "display/modPlot.h"
+#include "display/PlotScaling.h"
 #include "files/modReadQuilmFiles.h"
 #include "files/modWriteQuilmFile.h"
 #include "network/DesignStanding.h"
-#include "shell/EntryText.h"
 #include "shell/Session.h"
 
 namespace quilm {
 
 namespace {
 
-constexpr int mostXints = 30;
-constexpr f32 mostYints = 30000;  // at the spin control; the check before a plot holds 30
-constexpr int mostLineWidth = 6;
-
-// A count reads as it is: 2049, not 2.049k.
-std::string PlainText(f32 value) { return ShortText(value, LeadingZero::Keep); }
-
-f32 AsTyped(f32 value) { return value; }
 f32 Negative(f32 value) { return -std::fabs(value); }
-f32 IntervalsHeld(f32 value) { return std::clamp(value, 4.0F, 2049.0F); }
+f32 IntervalsHeld(f32 value) { return limitsOf::NrIntervals.Held(value); }
+
+// A reference of 0 or less has no meaning; 50 ohms is what most are.
 f32 ReferenceHeld(f32 value) { return value <= 0 ? 50.0F : value; }
 
 }  // namespace
@@ -41,7 +33,7 @@ frmAnalyze::frmAnalyze(Session& session)
   navigation_.helpFile = "analysis.htm";
   navigation_.onGet = [&session] { GetDesignFor(session, PageId::Analyze); };
   navigation_.onSave = [&session] { SaveDesign(session, "Save Quilm File"); };
-  ConnectEntries();
+  BindEntries();
   ConnectOptions();
   ConnectSpins();
   cmdAutoScale_.onClick = [this] { ScaleToResponse(); };
@@ -50,24 +42,31 @@ frmAnalyze::frmAnalyze(Session& session)
   for (Button* tool : {&cmdStepsize_, &cmdModulation_, &cmdPhase_, &cmdNoise_, &cmdTransient_}) tool->enabled = false;
 }
 
-void frmAnalyze::ConnectEntries() {
-  using R = DesignRecord;
-  entries_ = {
-      {&txtFstart_, [](R& r) -> f32& { return r.Fstart; }, FormatFrequency, AsTyped, true},
-      {&txtFstop_, [](R& r) -> f32& { return r.Fstop; }, FormatFrequency, AsTyped, true},
-      {&txtNrIntervals_, [](R& r) -> f32& { return r.NrIntervals; }, PlainText, IntervalsHeld, true},
-      {&txtLossBottom_, [](R& r) -> f32& { return r.LossBottom; }, FormatValue, Negative, false},
-      {&txtDelayTop_, [](R& r) -> f32& { return r.DelayTop; }, FormatTime, AsTyped, false},
-      {&txtVSWRTop_, [](R& r) -> f32& { return r.VSWRTop; }, FormatValue, AsTyped, false},
-      {&txtImpedanceTop_, [](R& r) -> f32& { return r.ImpedanceTop; }, FormatResistance, AsTyped, false},
-      {&txtQinductor_, [](R& r) -> f32& { return r.Qind[1]; }, FormatValue, AsTyped, true},
-      {&txtQcapacitor_, [](R& r) -> f32& { return r.Qcap[1]; }, FormatValue, AsTyped, true},
-      {&txtRetLossRef_, [](R& r) -> f32& { return r.Rstandard; }, FormatResistance, ReferenceHeld, true},
-  };
-  for (const Entry& entry : entries_) {
-    entry.box->onChange = [this, &entry] { Take(entry); };
-    entry.box->onLeave = [this, &entry] { entry.box->text = EntryText(entry.field(session_.record), entry.format); };
-  }
+void frmAnalyze::BindEntries() {
+  DesignRecord& r = session_.record;
+  const auto sweep = [this] { FollowWithSweep(); };
+  entries.Bind({.box = txtFstart_, .field = r.Fstart, .format = FormatFrequency, .onTaken = sweep});
+  entries.Bind({.box = txtFstop_, .field = r.Fstop, .format = FormatFrequency, .onTaken = sweep});
+  entries.Bind(
+      {.box = txtNrIntervals_, .field = r.NrIntervals, .format = PlainText, .hold = IntervalsHeld, .onTaken = sweep});
+  BindScales();
+  entries.Bind({.box = txtQinductor_, .field = r.Qind[1], .format = FormatValue, .onTaken = sweep});
+  entries.Bind({.box = txtQcapacitor_, .field = r.Qcap[1], .format = FormatValue, .onTaken = sweep});
+  entries.Bind({.box = txtRetLossRef_,
+                .field = r.Rstandard,
+                .format = FormatResistance,
+                .hold = ReferenceHeld,
+                .onTaken = sweep});
+}
+
+void frmAnalyze::BindScales() {
+  DesignRecord& r = session_.record;
+  const auto scale = [this] { Follow(); };
+  entries.Bind(
+      {.box = txtLossBottom_, .field = r.LossBottom, .format = FormatValue, .hold = Negative, .onTaken = scale});
+  entries.Bind({.box = txtDelayTop_, .field = r.DelayTop, .format = FormatTime, .onTaken = scale});
+  entries.Bind({.box = txtVSWRTop_, .field = r.VSWRTop, .format = FormatValue, .onTaken = scale});
+  entries.Bind({.box = txtImpedanceTop_, .field = r.ImpedanceTop, .format = FormatResistance, .onTaken = scale});
 }
 
 void frmAnalyze::ConnectOptions() {
@@ -94,7 +93,7 @@ void frmAnalyze::Load() {
   cmdAssistance_.enabled = session_.pages.Has(PageId::EntryAssistance);
   try {
     FillMissingEntries(session_.record, session_.configuration);
-    ShowEntries();
+    entries.Fill();
     ShowOptions();
     ShowLabels();
   } catch (const Fault& fault) {
@@ -104,15 +103,15 @@ void frmAnalyze::Load() {
 
 void frmAnalyze::CloseBox() { LeaveByCloseBox(session_); }
 
-// Each keystroke takes effect with the value as it is held; the box itself is rewritten when it is left.
-void frmAnalyze::Take(const Entry& entry) {
-  DesignRecord& record = session_.record;
-  f32& field = entry.field(record);
-  ParseBox(*entry.box, field, entry.format);
-  field = entry.hold(field);
-  if (entry.sweeps) ForgetResponses(record);
-  if (record.NrXints < 1) record.NrXints = 10;
+// The labels follow each keystroke.
+void frmAnalyze::Follow() {
+  if (session_.record.NrXints < limitsOf::NrXints.lowest) session_.record.NrXints = 10;
   ShowLabels();
+}
+
+void frmAnalyze::FollowWithSweep() {
+  ForgetResponses(session_.record);
+  Follow();
 }
 
 void frmAnalyze::SetSweepMode(i16 mode) {
@@ -129,20 +128,20 @@ void frmAnalyze::SetRelative(bool relative) {
 
 void frmAnalyze::StepXints(int direction) {
   i16& intervals = session_.record.NrXints;
-  intervals = static_cast<i16>(std::clamp(intervals + direction, 1, mostXints));
+  intervals = static_cast<i16>(limitsOf::NrXints.Held(static_cast<f32>(intervals + direction)));
   ForgetResponses(session_.record);
   ShowLabels();
 }
 
 void frmAnalyze::StepYints(int direction) {
   f32& intervals = session_.record.NrYints;
-  intervals = std::clamp(intervals + static_cast<f32>(direction), 1.0F, mostYints);
+  intervals = limitsOf::NrYintsAtSpin.Held(intervals + static_cast<f32>(direction));
   ShowLabels();
 }
 
 void frmAnalyze::StepLineWidth(int direction) {
   i16& width = session_.record.PlotLineWidth;
-  width = static_cast<i16>(std::clamp(width + direction, 1, mostLineWidth));
+  width = static_cast<i16>(limitsOf::PlotLineWidth.Held(static_cast<f32>(width + direction)));
   ShowLabels();
 }
 
@@ -150,7 +149,7 @@ void frmAnalyze::StepLineWidth(int direction) {
 bool frmAnalyze::CheckAll() {
   HoldAnalysisEntries(session_.record, session_.configuration);
   const bool passed = CheckEntries(session_);
-  RepairEntries();
+  entries.Repair();
   ShowOptions();
   ShowLabels();
   return passed;
@@ -168,21 +167,9 @@ bool frmAnalyze::MayGoTo(PageId target) {
 // The page is taken away and shown again, so that it reads the new scales; the responses are taken as they stand.
 void frmAnalyze::ScaleToResponse() {
   session_.pages.ShowPage(PageId::Blank);
-  AutoScale(session_.record, session_.responses);
+  AutoScale(session_.record, SpansOf(session_.responses, LastPoint(session_.record)));
   session_.pages.ShowPage(PageId::Analyze);
   session_.pages.UnloadPage(PageId::Blank);
-}
-
-void frmAnalyze::ShowEntries() {
-  for (const Entry& entry : entries_) entry.box->text = EntryText(entry.field(session_.record), entry.format);
-}
-
-// What the check has changed shows as changed.
-void frmAnalyze::RepairEntries() {
-  for (const Entry& entry : entries_) {
-    const std::string text = EntryText(entry.field(session_.record), entry.format);
-    if (entry.box->text != text) entry.box->Repair(text);
-  }
 }
 
 void frmAnalyze::ShowOptions() {

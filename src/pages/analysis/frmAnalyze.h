@@ -1,14 +1,10 @@
 // The Analysis page: what a sweep covers, and how the graphs are scaled.
 #pragma once
 
-#include <vector>
-
 #include "desk/NavigationRow.h"
 #include "shell/Page.h"
 
 namespace quilm {
-
-struct DesignRecord;
 
 class frmAnalyze : public Page {
  public:
@@ -18,19 +14,12 @@ class frmAnalyze : public Page {
   Layout MakeLayout() override;
 
  private:
-  // A box and the setting behind it.
-  struct Entry {
-    TextBox* box;
-    f32& (*field)(DesignRecord&);
-    std::string (*format)(f32);
-    f32 (*hold)(f32);  // what a typed value becomes
-    bool sweeps;       // whether the sweep depends on it
-  };
-
-  void ConnectEntries();
+  void BindEntries();
+  void BindScales();
   void ConnectOptions();
   void ConnectSpins();
-  void Take(const Entry& entry);
+  void Follow();
+  void FollowWithSweep();
   void SetSweepMode(i16 mode);
   void SetRelative(bool relative);
   void StepXints(int direction);
@@ -39,8 +28,6 @@ class frmAnalyze : public Page {
   bool CheckAll();
   bool MayGoTo(PageId target);
   void ScaleToResponse();
-  void ShowEntries();
-  void RepairEntries();
   void ShowOptions();
   void ShowLabels();
   Layout SweepGroup();
@@ -105,8 +92,6 @@ class frmAnalyze : public Page {
   Button cmdNoise_{*this, "cmdNoise", "Noise", "See the noise bandwidth"};
   Button cmdTransient_{*this, "cmdTransient", "Transient", "See the transient response"};
   Button cmdAssistance_{*this, "cmdAssistance", "Entry assistance", "How numbers may be entered"};
-
-  std::vector<Entry> entries_;
 };
 
 }  // namespace quilm

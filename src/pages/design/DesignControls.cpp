@@ -1,12 +1,15 @@
 #include "pages/design/DesignControls.h"
 
+#include <algorithm>
 #include <cmath>
 #include <numbers>
 
-#include "core/NumberText.h"
+#include "core/EntryLimits.h"
+#include "core/Topology.h"
 #include "core/modGeneral.h"
 #include "network/DesignStanding.h"
 #include "pages/design/FamilyRules.h"
+#include "shell/Page.h"
 
 namespace quilm {
 
@@ -15,8 +18,7 @@ namespace {
 // The stopband edge is no field of its own in a stored design: it follows from the normalised one.
 void DeriveStopband(DesignRecord& record) {
   if (record.Family != familyCauer || record.FstopNorm <= 0) return;
-  const bool highpass = record.Topology == "I" || record.Topology == "J";
-  record.Fstopband = highpass ? record.Width / record.FstopNorm : record.FstopNorm * record.Width;
+  record.Fstopband = StopbandEdge(record.Topology, record.Width, record.FstopNorm);
 }
 
 void WholeOrder(DesignRecord& record) {
@@ -24,11 +26,28 @@ void WholeOrder(DesignRecord& record) {
   if (record.Order == 0) record.Order = 3;
 }
 
-bool IsTopologyLetter(const std::string& letter) { return letter.size() == 1 && letter >= "A" && letter <= "L"; }
+f32 AtMostDeepest(f32 depth) { return std::min(depth, limitsOf::Astop.highest); }
+
+EntryBinding Binding(TextBox& box, f32& field, Formatter format, const std::function<void()>& onEntry) {
+  return {.box = box, .field = field, .format = format, .ofZero = OfZero::Blank, .onTaken = onEntry};
+}
+
+EntryBinding RippleBinding(TextBox& box, f32& field, const std::function<void()>& onEntry) {
+  EntryBinding binding = Binding(box, field, FormatValue, onEntry);
+  binding.hold = [](f32 entered) { return std::fabs(entered); };
+  return binding;
+}
+
+EntryBinding DepthBinding(TextBox& box, f32& field, const std::function<void()>& onEntry) {
+  EntryBinding binding = Binding(box, field, FormatValue, onEntry);
+  binding.hold = AtMostDeepest;
+  binding.showsHeld = ShowsHeld::AtOnce;
+  return binding;
+}
 
 }  // namespace
 
-DesignControls::DesignControls(Page& page, DesignRecord& record)
+DesignControls::DesignControls(Page& page, DesignRecord& record, const std::function<void()>& onEntry)
     : families(page),
       fraCauerType(page, "fraCauerType", "Even order"),
       optCauerTermBest(page, cauerTypes, "optCauerTermBest", "Best selectivity", "Unequal terminations"),
@@ -57,14 +76,17 @@ DesignControls::DesignControls(Page& page, DesignRecord& record)
       txtStopbandDepth(page, "txtStopbandDepth", "Stopband depth, dB"),
       txtDesignChange(page, "txtDesignChange", "(or design possibly altered)"),
       tools(page),
+      width(page.entries.Bind(Binding(txtBandwidth, record.Width, FormatFrequency, onEntry))),
+      center(page.entries.Bind(Binding(txtCenterFrequency, record.Fcenter, FormatFrequency, onEntry))),
+      input(page.entries.Bind(Binding(txtInputTerm, record.Rsource[1], FormatResistance, onEntry))),
+      ripple(page.entries.Bind(RippleBinding(txtPassbandRipple, record.Apass, onEntry))),
+      stopband(page.entries.Bind(Binding(txtStopbandFreq, record.Fstopband, FormatFrequency, onEntry))),
+      depth(page.entries.Bind(DepthBinding(txtStopbandDepth, record.Astop, onEntry))),
+      entries_(page.entries),
       record_(record) {
   fraCauerType.Hold({&optCauerTermBest, &optCauerTermsEqual});
   fraCauerBPFtop.Hold({&optCauerTopNormal, &optCauerTopZigZag});
 }
-
-std::string DesignControls::Hertz(f32 value) { return FormatFrequency(value); }
-std::string DesignControls::Ohms(f32 value) { return FormatResistance(value); }
-std::string DesignControls::Decibels(f32 value) { return FormatValue(value); }
 
 void DesignControls::Settle() {
   // A letter that stands for no design is a network entered by hand.
@@ -81,7 +103,8 @@ void DesignControls::Fill() {
   lblOrder.caption = "Order (N) [" + std::to_string(record_.OrderMax) + " max]";
   FillOptions();
   SettleCauer();
-  FillEntries();
+  entries_.Fill();
+  lblVSWR.caption = RippleReadout(record_.Apass);
   Refresh();
 }
 
@@ -93,14 +116,9 @@ void DesignControls::FillOptions() {
   (record_.CauerTop == 1 ? optCauerTopZigZag : optCauerTopNormal).Set();
 }
 
-void DesignControls::FillEntries() {
-  for (const EntryField& entry : {Width(), Center(), Input(), Ripple(), Stopband(), Depth()}) entry.Fill();
-  lblVSWR.caption = RippleReadout(record_.Apass);
-}
-
 void DesignControls::Refresh() {
   const DesignView view = ViewOf(record_);
-  lblOrderInput.caption = ShortText(record_.Order, LeadingZero::Keep);
+  lblOrderInput.caption = PlainText(record_.Order);
   fraCauerType.visible = view.cauerType;
   fraCauerBPFtop.visible = view.cauerTop;
   optCauerTopZigZag.enabled = view.zigZag;
@@ -110,12 +128,15 @@ void DesignControls::Refresh() {
 }
 
 void DesignControls::RefreshEntries(const DesignView& view) {
+  // While the ripple was a result its box kept what was entered last, and that is the entry again.
+  if (view.ripple && !txtPassbandRipple.visible) ripple.Take();
   lblBandwidth.caption = view.bandwidthCaption;
   lblRipple.caption = view.edge;
   lblCenterFrequency.visible = txtCenterFrequency.visible = view.center;
   lblPassbandRipple.visible = txtPassbandRipple.visible = lblVSWR.visible = view.ripple;
   lblStopbandFreq.visible = txtStopbandFreq.visible = view.stopband;
   lblStopbandDepth.visible = txtStopbandDepth.visible = view.stopband;
+  entries_.Refresh();
 }
 
 void DesignControls::TakeTopology(const std::string& letter) {
@@ -126,8 +147,8 @@ void DesignControls::TakeTopology(const std::string& letter) {
     record_.Fcenter = 0;
   } else if (record_.Fcenter == 0) {
     record_.Fcenter = restingCenter_;
-    Center().Fill();
   }
+  center.Fill();
 }
 
 void DesignControls::SettleCauer() {

@@ -1,7 +1,7 @@
 // The entries of the Design page: its options and boxes, what they show of a design, and how they change it.
 #pragma once
 
-#include <array>
+#include <functional>
 #include <string>
 
 #include "core/DesignRecord.h"
@@ -9,35 +9,16 @@
 #include "pages/design/FamilyOptions.h"
 #include "pages/design/TopologyOptions.h"
 #include "shell/Control.h"
-#include "shell/EntryText.h"
+#include "shell/Entry.h"
 
 namespace quilm {
 
 struct DesignView;
 
-// A box and the field that it enters.
-struct EntryField {
-  TextBox& box;
-  f32& field;
-  Formatter format;
-
-  void Parse() const { ParseBox(box, field, format); }
-  void Fill() const { box.text = FilledText(field, format); }
-  void Echo() const { EchoBox(box, field, format); }
-  // Shows a value that a limit or an entry form put into the field.
-  void Repair() const { box.Repair(FilledText(field, format)); }
-};
-
 class DesignControls {
  public:
-  DesignControls(Page& page, DesignRecord& record);
-
-  EntryField Width() { return {txtBandwidth, record_.Width, Hertz}; }
-  EntryField Center() { return {txtCenterFrequency, record_.Fcenter, Hertz}; }
-  EntryField Input() { return {txtInputTerm, record_.Rsource[1], Ohms}; }
-  EntryField Ripple() { return {txtPassbandRipple, record_.Apass, Decibels}; }
-  EntryField Stopband() { return {txtStopbandFreq, record_.Fstopband, Hertz}; }
-  EntryField Depth() { return {txtStopbandDepth, record_.Astop, Decibels}; }
+  // `onEntry` follows each keystroke in one of the boxes.
+  DesignControls(Page& page, DesignRecord& record, const std::function<void()>& onEntry);
 
   // What a design that comes from elsewhere needs before it is shown: a whole order, the stopband edge of its
   // prototype, and the manual family when its letter stands for no design.
@@ -46,7 +27,7 @@ class DesignControls {
   // Rebuilds everything from the record.
   void Fill();
 
-  // Shows and hides what the design asks for, and the order.
+  // Shows and hides what the design asks for, and the order, and what has changed behind the boxes.
   void Refresh();
 
   // Makes `letter` the topology. A lowpass or highpass has no centre frequency; the one that a bandpass had rests here
@@ -88,14 +69,18 @@ class DesignControls {
   Label txtDesignChange;
   DesignTools tools;
 
+  Entry& width;
+  Entry& center;
+  Entry& input;
+  Entry& ripple;
+  Entry& stopband;
+  Entry& depth;
+
  private:
-  static std::string Hertz(f32 value);
-  static std::string Ohms(f32 value);
-  static std::string Decibels(f32 value);
-  void FillEntries();
   void FillOptions();
   void RefreshEntries(const DesignView& view);
 
+  EntryList& entries_;
   DesignRecord& record_;
   f32 restingCenter_ = 0;
 };

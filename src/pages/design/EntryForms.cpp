@@ -20,8 +20,6 @@ const EntryQuestion questions[] = {
      [](DesignRecord& record) -> f32& { return record.Rsource[1]; }, FormatResistance},
     {PageId::EnterFstopband, "Enter stopband", "Please enter a stopband, Hz:", "txtFstopband",
      [](DesignRecord& record) -> f32& { return record.Fstopband; }, FormatFrequency},
-    {PageId::EnterAstop, "Enter stopband depth", "Please enter a stopband depth, dB:", "txtAstop",
-     [](DesignRecord& record) -> f32& { return record.Astop; }, FormatValue},
 };
 
 }  // namespace
@@ -38,8 +36,7 @@ EntryForm::EntryForm(Session& session, const EntryQuestion& question)
       question_(question),
       lblEntry_(*this, "lblEntry", question.question),
       txtEntry_(*this, question.box, question.question) {
-  txtEntry_.onChange = [this] { ParseBox(txtEntry_, value_, question_.format); };
-  txtEntry_.onLeave = [this] { EchoBox(txtEntry_, value_, question_.format); };
+  entries.Bind({.box = txtEntry_, .field = value_, .format = question_.format, .ofZero = OfZero::Blank});
   cmdOk_.onClick = [this] { Accept(); };
   cmdIgnore_.onClick = [this] { session_.pages.UnloadPage(Id()); };
   acceptButton = &cmdOk_;
@@ -48,7 +45,7 @@ EntryForm::EntryForm(Session& session, const EntryQuestion& question)
 
 void EntryForm::Load() {
   value_ = question_.field(session_.record);
-  txtEntry_.text = FilledText(value_, question_.format);
+  entries.Fill();
   SetFocus(txtEntry_);
 }
 
@@ -60,36 +57,6 @@ void EntryForm::Accept() {
 
 Layout EntryForm::MakeLayout() {
   return Column({Form({{Put(lblEntry_), Put(txtEntry_)}}), Row({Space(), Put(cmdOk_), Put(cmdIgnore_)})});
-}
-
-frmEnterTopology::frmEnterTopology(Session& session) : Page(session, PageId::EnterTopology, "Enter topology") {
-  topologies_.OnChoice([this](const std::string& letter) { chosen_ = letter; });
-  cmdOk_.onClick = [this] { Accept(); };
-  cmdIgnore_.onClick = [this] { session_.pages.UnloadPage(Id()); };
-  acceptButton = &cmdOk_;
-  cancelButton = &cmdIgnore_;
-}
-
-void frmEnterTopology::Load() {
-  chosen_ = session_.record.Topology;
-  topologies_.Choose(chosen_);
-  topologies_.OfferFor(session_.record.Family);
-}
-
-void frmEnterTopology::Accept() {
-  DesignRecord& record = session_.record;
-  if (chosen_ != record.Topology) {
-    record.Topology = chosen_;
-    if (IsLowOrHighpass(chosen_)) record.Fcenter = 0;
-    ForgetNetwork(record);
-  }
-  session_.pages.UnloadPage(Id());
-}
-
-Layout frmEnterTopology::MakeLayout() {
-  std::vector<Layout> options;
-  for (int number = 1; number <= topologyCount; ++number) options.push_back(Put(topologies_.Option(number)));
-  return Column({Put(lblTopology_), Column(std::move(options)), Row({Space(), Put(cmdOk_), Put(cmdIgnore_)})});
 }
 
 }  // namespace quilm

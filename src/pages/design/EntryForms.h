@@ -5,8 +5,6 @@
 // entry meets the check before the analysis, and is asked for again at the next press.
 #pragma once
 
-#include "pages/design/TopologyOptions.h"
-#include "shell/EntryText.h"
 #include "shell/Page.h"
 
 namespace quilm {
@@ -52,23 +50,5 @@ using frmEnterWidth = EntryFormFor<PageId::EnterWidth>;
 using frmEnterCenterFreq = EntryFormFor<PageId::EnterCenterFreq>;
 using frmEnterInput = EntryFormFor<PageId::EnterInput>;
 using frmEnterFstopband = EntryFormFor<PageId::EnterFstopband>;
-using frmEnterAstop = EntryFormFor<PageId::EnterAstop>;
-
-// The same for the topology.
-class frmEnterTopology : public Page {
- public:
-  explicit frmEnterTopology(Session& session);
-  void Load() override;
-  Layout MakeLayout() override;
-
- private:
-  void Accept();
-
-  std::string chosen_;
-  Label lblTopology_{*this, "lblTopology", "Please choose a topology:"};
-  TopologyOptions topologies_{*this};
-  Button cmdOk_{*this, "cmdOk", "Ok", "Take this topology"};
-  Button cmdIgnore_{*this, "cmdIgnore", "Ignore", "Leave the topology as it was"};
-};
 
 }  // namespace quilm

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "core/Topology.h"
+
 namespace quilm {
 
 namespace {
@@ -65,8 +67,6 @@ std::string TopologyUnder(i16 family, const std::string& letter) {
 }
 
 bool IsEvenOrder(const DesignRecord& record) { return std::fmod(record.Order, 2.0F) == 0; }
-
-bool NeedsCenter(std::string_view letter) { return IsOneOf(letter, "CDEFGHKL"); }
 
 DesignView ViewOf(const DesignRecord& record) {
   DesignView view;

@@ -55,7 +55,4 @@ DesignView ViewOf(const DesignRecord& record);
 
 bool IsEvenOrder(const DesignRecord& record);
 
-// Whether the bandpass and bandstop letters, which need a centre frequency, include this one.
-bool NeedsCenter(std::string_view letter);
-
 }  // namespace quilm

@@ -1,8 +1,9 @@
 #include "pages/design/ValidateDesign.h"
 
-#include <algorithm>
 #include <cmath>
 
+#include "core/EntryLimits.h"
+#include "core/Topology.h"
 #include "network/DesignStanding.h"
 #include "pages/design/DesignControls.h"
 #include "pages/design/FamilyRules.h"
@@ -12,11 +13,6 @@
 namespace quilm {
 
 namespace {
-
-constexpr f32 leastEntry = 0.01F;  // Hz or ohms: what counts as entered
-constexpr f32 leastDepth = 10;     // dB
-constexpr f32 leastRipple = 0.0001F;
-constexpr f32 mostRipple = 10;
 
 constexpr const char* cauerLowpassLine = "For a Cauer lowpass, the stopband must be greater than";
 constexpr const char* cauerBandpassLine = "For a Cauer bandpass, the stopband must be greater than";
@@ -30,7 +26,7 @@ class Validation {
 
  private:
   void Tell(const std::string& text);
-  void Ask(const std::string& text, PageId form, const EntryField& entry);
+  void Ask(const std::string& text, PageId form, Entry& entry);
   void TakeFamily(i16 family);
 
   // In the order in which they run.
@@ -88,7 +84,7 @@ void Validation::Tell(const std::string& text) {
   session_.platform.MessageBox(text, Buttons::Ok, Icon::Exclamation, "");
 }
 
-void Validation::Ask(const std::string& text, PageId form, const EntryField& entry) {
+void Validation::Ask(const std::string& text, PageId form, Entry& entry) {
   Tell(text);
   session_.pages.ShowModal(form);
   entry.Repair();
@@ -102,18 +98,17 @@ void Validation::TakeFamily(i16 family) {
 
 void Validation::RequireWidth() {
   if (record_.NetworkEdited == 1) return;
-  const EntryField width = controls_.Width();
-  width.Parse();
-  if (record_.Width > leastEntry) return;
+  controls_.width.Take();
+  if (record_.Width > limitsOf::leastEntered) return;
   Ask("No bandwidth has been entered.\r\nTo avoid a program crash, please enter a bandwidth", PageId::EnterWidth,
-      width);
+      controls_.width);
 }
 
 // A depth of exactly 10 is told again each time: the family needs more than that, and the message says so.
 void Validation::HoldCauerDepth() {
-  if (record_.Family != familyCauer || std::fabs(record_.Astop) > leastDepth) return;
-  record_.Astop = leastDepth;
-  controls_.Depth().Repair();
+  if (record_.Family != familyCauer || std::fabs(record_.Astop) > limitsOf::Astop.lowest) return;
+  record_.Astop = limitsOf::Astop.lowest;
+  controls_.depth.Repair();
   Tell(
       "The Cauer family needs a stopband depth greater than 10 dB.\r\n"
       "To avoid a program crash, Astop has been set to 10 dB");
@@ -121,54 +116,53 @@ void Validation::HoldCauerDepth() {
 
 void Validation::RequireCauerStopband() {
   if (record_.Family != familyCauer || IsEvenOrder(record_)) return;
-  controls_.Stopband().Parse();
-  controls_.Width().Parse();
+  controls_.stopband.Take();
+  controls_.width.Take();
   const std::string& letter = record_.Topology;
-  if (letter == "A" || letter == "B") RequireStopbandAbove(cauerLowpassLine);
+  if (IsLowpass(letter)) RequireStopbandAbove(cauerLowpassLine);
   if (letter == "H") RequireStopbandAbove(cauerBandpassLine);
-  if (letter == "I" || letter == "J") RequireStopbandBelow();
+  if (IsHighpass(letter)) RequireStopbandBelow();
 }
 
 void Validation::RequireStopbandAbove(const char* firstLine) {
   if (record_.Fstopband > record_.Width) return;
   Ask(std::string(firstLine) +
           "\r\nthe passband.  To avoid a program crash, please enter a\r\nnew stopband higher than the passband.",
-      PageId::EnterFstopband, controls_.Stopband());
+      PageId::EnterFstopband, controls_.stopband);
 }
 
 void Validation::RequireStopbandBelow() {
   if (record_.Fstopband == 0) {
     Ask("For a Cauer highpass, we need a stopband.\r\nPlease enter a stiobabd lower than the passband.",
-        PageId::EnterFstopband, controls_.Stopband());
+        PageId::EnterFstopband, controls_.stopband);
   }
   if (record_.Fstopband < record_.Width) return;
   Ask(std::string(cauerHighpassLine) +
           "\r\nthe passband.  To avoid a program crash, please enter a\r\nnew stopband lower than the passband.",
-      PageId::EnterFstopband, controls_.Stopband());
+      PageId::EnterFstopband, controls_.stopband);
 }
 
 void Validation::RequireCauerCenter() {
   const bool withZeros = record_.Family == familyCauer || record_.Family == familyMderived;
-  if (!withZeros || record_.Topology != "H" || record_.Fcenter > leastEntry) return;
+  if (!withZeros || record_.Topology != "H" || record_.Fcenter > limitsOf::leastEntered) return;
   Ask("The Cauer and M-derived bandpass designs must have\r\na center frequency.\r\n"
       "To avoid a program crash, please enter a center frequency.",
-      PageId::EnterCenterFreq, controls_.Center());
+      PageId::EnterCenterFreq, controls_.center);
 }
 
 void Validation::RequireCenter() {
-  if (record_.Topology == "H" || !NeedsCenter(record_.Topology) || record_.Fcenter > leastEntry) return;
+  if (record_.Topology == "H" || !NeedsCenter(record_.Topology) || record_.Fcenter > limitsOf::leastEntered) return;
   Ask("The bandpass and bandstop topologies must have a center frequency.\r\n"
       "To avoid a program crash, please enter a center frequency.",
-      PageId::EnterCenterFreq, controls_.Center());
+      PageId::EnterCenterFreq, controls_.center);
 }
 
 void Validation::RequireInput() {
-  const EntryField input = controls_.Input();
-  input.Parse();
+  controls_.input.Take();
   if (HasInputTermination(record_)) return;
   Ask("The filter needs an input termination.\r\n"
       "To avoid a program crash, please enter an input termination value.",
-      PageId::EnterInput, input);
+      PageId::EnterInput, controls_.input);
 }
 
 void Validation::ChooseMissingTopology() {
@@ -224,19 +218,15 @@ void Validation::ReadTopology() {
 // Only where the ripple is an entry: the other families keep Apass 0, or have it as a result.
 void Validation::HoldRipple() {
   if (!ViewOf(record_).ripple) return;
-  const EntryField ripple = controls_.Ripple();
-  ripple.Parse();
-  const f32 entered = record_.Apass;
-  record_.Apass = std::fabs(entered);
-  if (record_.Apass > mostRipple) record_.Apass = mostRipple;
-  if (!(record_.Apass > leastRipple)) record_.Apass = leastRipple;
-  if (record_.Apass == entered) return;
+  controls_.ripple.Take();
+  if (limitsOf::Apass.Contain(record_.Apass) && controls_.ripple.Agrees()) return;
+  record_.Apass = limitsOf::Apass.Held(record_.Apass);
   ForgetResponses(record_);
-  ripple.Repair();
+  controls_.ripple.Repair();
 }
 
 void Validation::SetReference() {
-  controls_.Input().Parse();
+  controls_.input.Take();
   if (record_.NetworkEdited == 0 && record_.Rstandard <= 0) record_.Rstandard = record_.Rsource[1];
 }
 
@@ -254,7 +244,7 @@ void Validation::LeaveCauerBandpass() {
 }
 
 void Validation::ReadCenter() {
-  if (NeedsCenter(record_.Topology)) controls_.Center().Parse();
+  if (NeedsCenter(record_.Topology)) controls_.center.Take();
 }
 
 }  // namespace

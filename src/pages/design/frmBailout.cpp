@@ -3,19 +3,17 @@
 #include <algorithm>
 #include <cmath>
 
+#include "core/EntryLimits.h"
 #include "core/NumberText.h"
+#include "core/Topology.h"
 #include "core/modGeneral.h"
 #include "network/DesignStanding.h"
-#include "shell/EntryText.h"
 #include "shell/Session.h"
 
 namespace quilm {
 
 namespace {
 
-constexpr f32 leastOrder = 3;
-constexpr f32 mostOrder = 21;
-constexpr f32 mostDepth = 180;  // dB
 constexpr f32 stopbandStep = 1.01F;
 constexpr f64 noteSeconds = 2;
 
@@ -45,21 +43,23 @@ std::string Advice(bool highpass, bool lowestOrder) {
   return text;
 }
 
-std::string OrderText(f32 order) { return std::to_string(static_cast<int>(order)); }
+f32 WholeOrder(f32 order) { return std::floor(order); }
 
 bool IsEven(f32 order) { return std::fmod(order, 2.0F) == 0; }
 
 }  // namespace
 
 frmBailout::frmBailout(Session& session) : Page(session, PageId::Bailout, "Cauer design") {
+  entries.Bind({.box = txtPassbandFreq, .field = draft_.Width, .format = FormatFrequency});
+  entries.Bind({.box = txtStopbandFreq, .field = draft_.Fstopband, .format = FormatFrequency});
+  entries.Bind({.box = txtStopbandDepth, .field = draft_.Astop, .format = FormatValue});
+  entries.Bind({.box = txtOrder, .field = draft_.Order, .format = PlainText, .hold = WholeOrder});
   cmdStopbandFreq.onClick = [this] { MoveStopband(); };
   cmdStopbandDepth.onClick = [this] { DeepenStopband(); };
   cmdOrder.onClick = [this] { ReduceOrder(); };
   cmdExitCauer.onClick = [this] { TakeEntries(); };
   acceptButton = &cmdExitCauer;
 }
-
-bool frmBailout::IsHighpass() const { return session_.record.Topology == "I" || session_.record.Topology == "J"; }
 
 void frmBailout::Load() {
   ShowAdvice();
@@ -68,9 +68,9 @@ void frmBailout::Load() {
 }
 
 void frmBailout::ShowAdvice() {
-  const bool highpass = IsHighpass();
+  const bool highpass = IsHighpass(session_.record.Topology);
   lblRipple.caption = ShortText(session_.record.Apass, LeadingZero::Drop);
-  lblAdvice.caption = Advice(highpass, session_.record.Order == leastOrder);
+  lblAdvice.caption = Advice(highpass, session_.record.Order == limitsOf::CauerOrder.lowest);
   lblTopology.caption = TopologySentence(session_.record.Topology);
   cmdStopbandFreq.caption = highpass ? "Increase Fstop and retry" : "Reduce Fstop and retry";
   lblPassbandHint.caption = highpass ? reducing : increasing;
@@ -81,10 +81,8 @@ void frmBailout::ShowAdvice() {
 
 void frmBailout::ShowEntries() {
   const DesignRecord& record = session_.record;
-  txtPassbandFreq.text = EntryText(record.Width, FormatFrequency);
-  txtStopbandFreq.text = EntryText(record.Fstopband, FormatFrequency);
-  txtStopbandDepth.text = EntryText(record.Astop, FormatValue);
-  txtOrder.text = OrderText(record.Order);
+  draft_ = {record.Width, record.Fstopband, record.Astop, WholeOrder(record.Order)};
+  entries.Fill();
 }
 
 // The page closes, and the design is tried again with what the record now holds.
@@ -95,7 +93,7 @@ void frmBailout::Retry() {
 
 void frmBailout::MoveStopband() {
   DesignRecord& record = session_.record;
-  if (IsHighpass()) {
+  if (IsHighpass(session_.record.Topology)) {
     if (record.Fstopband < record.Width) record.Fstopband *= stopbandStep;
   } else if (record.Fstopband > record.Width) {
     record.Fstopband /= stopbandStep;
@@ -111,20 +109,20 @@ void frmBailout::DeepenStopband() {
 
 void frmBailout::ReduceOrder() {
   f32& order = session_.record.Order;
-  order = std::clamp(std::floor(order) - 1, leastOrder, mostOrder);
+  order = limitsOf::CauerOrder.Held(WholeOrder(order) - 1);
   if (IsEven(order)) order -= 1;
-  lblNote.caption = "Order changed to " + OrderText(order);
+  lblNote.caption = "Order changed to " + PlainText(order);
   session_.platform.Pause(noteSeconds);
   Retry();
 }
 
-bool frmBailout::EdgesAreInOrder(f32 pass, f32 stop) {
-  if (IsHighpass()) {
-    if (stop < pass) return true;
+bool frmBailout::EdgesAreInOrder() {
+  if (IsHighpass(session_.record.Topology)) {
+    if (draft_.Fstopband < draft_.Width) return true;
     lblPassbandHint.caption = "Passband is less than stopband";
     lblStopbandHint.caption = "Stopband is greater than passband";
   } else {
-    if (stop > pass) return true;
+    if (draft_.Fstopband > draft_.Width) return true;
     lblPassbandHint.caption = "Passband is greater than stopband";
     lblStopbandHint.caption = "Stopband is less than passband";
   }
@@ -132,18 +130,12 @@ bool frmBailout::EdgesAreInOrder(f32 pass, f32 stop) {
 }
 
 void frmBailout::TakeEntries() {
+  if (!EdgesAreInOrder()) return;
   DesignRecord& record = session_.record;
-  f32 pass = record.Width;
-  f32 stop = record.Fstopband;
-  ParseBox(txtPassbandFreq, pass, FormatFrequency);
-  ParseBox(txtStopbandFreq, stop, FormatFrequency);
-  if (!EdgesAreInOrder(pass, stop)) return;
-  record.Width = pass;
-  record.Fstopband = stop;
-  ParseBox(txtStopbandDepth, record.Astop, FormatValue);
-  record.Astop = std::min(std::fabs(record.Astop), mostDepth);
-  ParseBox(txtOrder, record.Order, OrderText);
-  record.Order = std::clamp(std::floor(record.Order), leastOrder, mostOrder);
+  record.Width = draft_.Width;
+  record.Fstopband = draft_.Fstopband;
+  record.Astop = std::min(std::fabs(draft_.Astop), limitsOf::Astop.highest);
+  record.Order = limitsOf::CauerOrder.Held(WholeOrder(draft_.Order));
   if (IsEven(record.Order)) {
     record.Order -= 1;
     session_.platform.MessageBox("We have reduced the order to the next-lowest odd value.", Buttons::Ok,

@@ -39,15 +39,24 @@ class frmBailout : public Page {
   Button cmdExitCauer{*this, "cmdExitCauer", "Re-enter these new Cauer values", "Try again with the values above"};
 
  private:
-  bool IsHighpass() const;
+  // What the boxes say, until it is taken.
+  struct Draft {
+    f32 Width = 0;
+    f32 Fstopband = 0;
+    f32 Astop = 0;
+    f32 Order = 0;
+  };
+
   void ShowEntries();
   void ShowAdvice();
   void MoveStopband();
   void DeepenStopband();
   void ReduceOrder();
   void TakeEntries();
-  bool EdgesAreInOrder(f32 pass, f32 stop);
+  bool EdgesAreInOrder();
   void Retry();
+
+  Draft draft_;
 };
 
 }  // namespace quilm

@@ -1,8 +1,8 @@
 #include "pages/design/frmDesign.h"
 
 #include <algorithm>
-#include <cmath>
 
+#include "core/EntryLimits.h"
 #include "desk/Leaving.h"
 #include "desk/modCheckEntries.h"
 #include "desk/modComputeReals.h"
@@ -18,40 +18,22 @@
 
 namespace quilm {
 
-namespace {
-
-constexpr f32 leastCauerOrder = 3;
-constexpr f32 mostDepth = 180;  // dB
-constexpr i16 mostLineWidth = 6;
-
-}  // namespace
-
 frmDesign::frmDesign(Session& session)
     : Page(session, PageId::Design, "Design"),
       navigation_(*this, session, [this](PageId) { return MakeNetwork(); }),
-      controls_(*this, session.record) {
+      controls_(*this, session.record, [this] { MarkChanged(); }) {
   navigation_.helpFile = "design.htm";
   navigation_.onGet = [&session] { GetDesignFor(session, PageId::Design); };
   // What is saved is a network, so that one is made first.
   navigation_.onSave = [this, &session] {
     if (MakeNetwork()) SaveDesign(session, "Save Quilm File");
   };
-  ConnectEntries();
+  ConnectSpins();
   ConnectOptions();
   ConnectButtons();
 }
 
-void frmDesign::ConnectEntries() {
-  for (const EntryField& entry : {controls_.Width(), controls_.Center(), controls_.Input(), controls_.Ripple(),
-                                  controls_.Stopband(), controls_.Depth()}) {
-    entry.box.onChange = [this, entry] {
-      entry.Parse();
-      MarkChanged();
-    };
-    entry.box.onLeave = [entry] { entry.Echo(); };
-  }
-  controls_.txtPassbandRipple.onChange = [this] { EnterRipple(); };
-  controls_.txtStopbandDepth.onChange = [this] { EnterDepth(); };
+void frmDesign::ConnectSpins() {
   controls_.UpDown1.onUp = [this] { StepOrder(+1); };
   controls_.UpDown1.onDown = [this] { StepOrder(-1); };
   UpDown2_.onUp = [this] { StepLineWidth(+1); };
@@ -134,11 +116,11 @@ void frmDesign::ChooseFamily(i16 family) {
   if (!rule->cauer) record.FstopNorm = 0;
   if (rule->ripple == RippleEntry::None) {
     record.Apass = 0;
-    controls_.Ripple().Fill();
+    controls_.ripple.Fill();
     controls_.lblVSWR.caption.clear();
   }
   if (family == familyManual) SettleByHand(record);
-  if (family == familyCauer) record.Order = std::max(record.Order, leastCauerOrder);
+  if (family == familyCauer) record.Order = std::max(record.Order, limitsOf::CauerOrder.lowest);
   controls_.TakeTopology(TopologyUnder(family, record.Topology));
   controls_.SettleCauer();
   ComputeNormalized(session_);
@@ -164,7 +146,7 @@ void frmDesign::ChooseCauerTop(i16 layout) {
 
 void frmDesign::StepOrder(int direction) {
   DesignRecord& record = session_.record;
-  const f32 lowest = record.Family == familyCauer ? leastCauerOrder : 1;
+  const f32 lowest = record.Family == familyCauer ? limitsOf::CauerOrder.lowest : 1;
   const f32 stepped = std::clamp(record.Order + static_cast<f32>(direction), lowest, static_cast<f32>(record.OrderMax));
   if (stepped == record.Order) return;
   record.Order = stepped;
@@ -175,24 +157,8 @@ void frmDesign::StepOrder(int direction) {
 
 void frmDesign::StepLineWidth(int direction) {
   i16& width = session_.record.PlotLineWidth;
-  width = static_cast<i16>(std::clamp(width + direction, 1, int{mostLineWidth}));
+  width = static_cast<i16>(limitsOf::PlotLineWidth.Held(static_cast<f32>(width + direction)));
   ShowSettings();
-}
-
-// The readout under the box follows with the next load of the page, not with the typing.
-void frmDesign::EnterRipple() {
-  controls_.Ripple().Parse();
-  session_.record.Apass = std::fabs(session_.record.Apass);
-  MarkChanged();
-}
-
-void frmDesign::EnterDepth() {
-  controls_.Depth().Parse();
-  if (session_.record.Astop > mostDepth) {
-    session_.record.Astop = mostDepth;
-    controls_.Depth().Repair();
-  }
-  MarkChanged();
 }
 
 void frmDesign::ShowTopologyHelp(int number) {

@@ -19,7 +19,7 @@ class frmDesign : public Page {
   Layout MakeLayout() override;
 
  private:
-  void ConnectEntries();
+  void ConnectSpins();
   void ConnectOptions();
   void ConnectButtons();
 
@@ -30,8 +30,6 @@ class frmDesign : public Page {
   void ChooseCauerTop(i16 layout);
   void StepOrder(int direction);
   void StepLineWidth(int direction);
-  void EnterRipple();
-  void EnterDepth();
   void ShowTopologyHelp(int number);
   void ShowSettings();
   void SeeNormalized();

@@ -2,18 +2,14 @@
 
 #include "core/Fault.h"
 #include "core/modGeneral.h"
-#include "shell/EntryText.h"
 #include "shell/Session.h"
 #include "synthesis/EndSections.h"
 
 namespace quilm {
 
 frmEndSections::frmEndSections(Session& session) : Page(session, PageId::EndSections, "End sections") {
-  txtM_.onChange = [this] {
-    ParseBox(txtM_, m_, FormatValue);
-    ShowZero();
-  };
-  txtM_.onLeave = [this] { EchoBox(txtM_, m_, FormatValue); };
+  entries.Bind(
+      {.box = txtM_, .field = m_, .format = FormatValue, .ofZero = OfZero::Blank, .onTaken = [this] { ShowZero(); }});
   cmdOk_.onClick = [this] { Accept(); };
   cmdIgnore_.onClick = [this] { session_.pages.UnloadPage(Id()); };
   acceptButton = &cmdOk_;
@@ -23,7 +19,7 @@ frmEndSections::frmEndSections(Session& session) : Page(session, PageId::EndSect
 void frmEndSections::Load() {
   constexpr f32 bestMatch = 0.6F;
   m_ = bestMatch;
-  txtM_.text = EntryText(m_, FormatValue);
+  entries.Fill();
   lblBandwidthValue_.caption = EntryText(session_.record.Width, FormatFrequency);
   ShowZero();
   SetFocus(txtM_);

@@ -1,8 +1,7 @@
 #include "pages/design/frmMderived.h"
 
-#include "core/NumberText.h"
+#include "core/Topology.h"
 #include "core/modGeneral.h"
-#include "shell/EntryText.h"
 #include "shell/Session.h"
 
 namespace quilm {
@@ -16,13 +15,14 @@ std::string ZeroText(f32 zero) { return zero == 0 ? "0" : FormatFrequency(zero);
 
 frmMderived::frmMderived(Session& session) : Page(session, PageId::Mderived, "M-derived design") {
   int number = 0;
-  for (Entry& entry : entries_) {
+  for (Zero& zero : zeros_) {
     const std::string digit = std::to_string(++number);
-    entry.label = std::make_unique<Label>(*this, "lblZeroFreq" + digit, "Zero freq " + digit + ": ");
-    entry.box = std::make_unique<TextBox>(*this, "txtZeroFreq" + digit, "Zero frequency " + digit + ", Hz",
-                                          "A frequency of the stopband, or 0 for none");
-    entry.box->onChange = [&entry] { ParseBox(*entry.box, entry.zero, ZeroText); };
-    entry.box->onLeave = [&entry] { EchoBox(*entry.box, entry.zero, ZeroText); };
+    zero.label = std::make_unique<Label>(*this, "lblZeroFreq" + digit, "Zero freq " + digit + ": ");
+    zero.box = std::make_unique<TextBox>(*this, "txtZeroFreq" + digit, "Zero frequency " + digit + ", Hz",
+                                         "A frequency of the stopband, or 0 for none");
+    entries.Bind({.box = *zero.box, .field = zero.frequency, .format = ZeroText, .refusal = [this](f32 frequency) {
+                    return Refusal(frequency);
+                  }});
   }
   cmdOk_.onClick = [this] { Accept(); };
   cmdIgnore_.onClick = [this] { session_.pages.UnloadPage(Id()); };
@@ -35,33 +35,33 @@ void frmMderived::Load() {
   lblInputTermValue_.caption = EntryText(record.Rsource[1], FormatResistance);
   lblBandwidthValue_.caption = EntryText(record.Width, FormatFrequency);
   int i = 0;
-  for (Entry& entry : entries_) {
-    entry.zero = record.MderivedZero[++i];
-    entry.box->text = EntryText(entry.zero, ZeroText);
-  }
-  SetFocus(*entries_.front().box);
+  for (Zero& zero : zeros_) zero.frequency = record.MderivedZero[++i];
+  entries.Fill();
+  SetFocus(*zeros_.front().box);
+}
+
+std::string frmMderived::Refusal(f32 frequency) const {
+  const DesignRecord& record = session_.record;
+  if (frequency == 0 || IsInStopband(record, frequency)) return {};
+  const bool highpass = IsHighpass(record.Topology);
+  return std::string("The zero frequency must be ") + (highpass ? "lower" : "greater") + " than " +
+         PlainText(record.Width);
 }
 
 bool frmMderived::ZerosAreInStopband() {
-  const DesignRecord& record = session_.record;
-  for (Entry& entry : entries_) {
-    if (entry.zero == 0 || IsInStopband(record, entry.zero)) continue;
-    const bool highpass = record.Topology == "I" || record.Topology == "J";
-    session_.platform.MessageBox(std::string("The zero frequency must be ") + (highpass ? "lower" : "greater") +
-                                     " than " + ShortText(record.Width, LeadingZero::Keep),
-                                 Buttons::Ok, Icon::Exclamation, "");
-    entry.zero = 0;
-    entry.box->Repair("0");
-    SetFocus(*entry.box);
-    return false;
-  }
-  return true;
+  Entry* refused = entries.FirstRefused();
+  if (refused == nullptr) return true;
+  session_.platform.MessageBox(refused->Refusal(), Buttons::Ok, Icon::Exclamation, "");
+  refused->Field() = 0;
+  refused->Repair();
+  SetFocus(refused->Box());
+  return false;
 }
 
 void frmMderived::Accept() {
   if (!ZerosAreInStopband()) return;
   int i = 0;
-  for (const Entry& entry : entries_) session_.record.MderivedZero[++i] = entry.zero;
+  for (const Zero& zero : zeros_) session_.record.MderivedZero[++i] = zero.frequency;
   ComputeMderived(session_.record);
   session_.pages.UnloadPage(Id());
 }
@@ -69,7 +69,7 @@ void frmMderived::Accept() {
 Layout frmMderived::MakeLayout() {
   std::vector<FormRow> rows = {{Put(lblInputTerm_), Put(lblInputTermValue_)},
                                {Put(lblBandwidth_), Put(lblBandwidthValue_)}};
-  for (const Entry& entry : entries_) rows.push_back({Put(*entry.label), Put(*entry.box)});
+  for (const Zero& zero : zeros_) rows.push_back({Put(*zero.label), Put(*zero.box)});
   return Column({Form(std::move(rows)), Row({Space(), Put(cmdOk_), Put(cmdIgnore_)})});
 }
 

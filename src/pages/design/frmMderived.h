@@ -16,12 +16,14 @@ class frmMderived : public Page {
   Layout MakeLayout() override;
 
  private:
-  struct Entry {
+  struct Zero {
     std::unique_ptr<Label> label;
     std::unique_ptr<TextBox> box;
-    f32 zero = 0;
+    f32 frequency = 0;  // Hz; 0 for none
   };
 
+  // Why a zero cannot stand there; empty when it can.
+  std::string Refusal(f32 frequency) const;
   bool ZerosAreInStopband();
   void Accept();
 
@@ -29,7 +31,7 @@ class frmMderived : public Page {
   Label lblInputTermValue_{*this, "lblInputTermValue", ""};
   Label lblBandwidth_{*this, "lblBandwidth", "Bandwidth: "};
   Label lblBandwidthValue_{*this, "lblBandwidthValue", ""};
-  std::array<Entry, mostMderivedZeros> entries_;
+  std::array<Zero, mostMderivedZeros> zeros_;
   Button cmdOk_{*this, "cmdOk", "Ok", "Design the filter with these zeros"};
   Button cmdIgnore_{*this, "cmdIgnore", "Ignore", "Leave the zeros as they were"};
 };

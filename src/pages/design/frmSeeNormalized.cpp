@@ -1,8 +1,10 @@
 #include "pages/design/frmSeeNormalized.h"
 
 #include "core/NumberText.h"
+#include "reports/Report.h"
+#include "reports/modPrintNorms.h"
 #include "shell/Session.h"
-#include "synthesis/modPrintNorms.h"
+#include "synthesis/NormalizedText.h"
 
 namespace quilm {
 
@@ -28,9 +30,9 @@ void frmSeeNormalized::Load() {
   SetFocus(lstValues_);
 }
 
-// Cancelling the print dialog is quiet.
 void frmSeeNormalized::Print() {
-  if (Canvas* printer = session_.platform.PrintDialog()) PrintNorms(session_.record, *printer);
+  PrintReport(session_.platform, "We had a printer problem",
+              [this](Canvas& printer) { PrintNorms(session_.record, printer); });
 }
 
 Layout frmSeeNormalized::MakeLayout() {

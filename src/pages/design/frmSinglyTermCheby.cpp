@@ -2,91 +2,111 @@
 
 #include <cmath>
 
+#include "core/EntryLimits.h"
 #include "core/Fault.h"
-#include "core/NumberText.h"
 #include "core/modGeneral.h"
-#include "shell/EntryText.h"
 #include "shell/Session.h"
 
 namespace quilm {
 
 namespace {
 
-std::string OrderText(f32 order) { return ShortText(order, LeadingZero::Keep); }
+std::string RefuseOutside(const EntryLimits& limits, f32 value, const std::string& entry) {
+  if (limits.Contain(value)) return {};
+  return "Please enter " + entry + ", " + limits.lowestText + " min to " + limits.highestText + " max";
+}
+
+std::string RefuseRipple(f32 ripple) { return RefuseOutside(limitsOf::Apass, ripple, "a passband ripple"); }
+
+std::string RefuseOutput(f32 termination) {
+  return RefuseOutside(limitsOf::OutputTermination, termination, "an output termination");
+}
+
+std::string RefuseBandwidth(f32 width) {
+  const EntryLimits& limits = limitsOf::SinglyTerminatedWidth;
+  return limits.Contain(width) ? "" : std::string("Please enter a bandwidth ") + limits.lowestText + " minimum";
+}
 
 }  // namespace
-
-// What an entry must fulfil, and what is said when it does not.
-struct frmSinglyTermCheby::Check {
-  bool fulfilled;
-  std::string message;
-  TextBox& box;
-};
 
 frmSinglyTermCheby::frmSinglyTermCheby(Session& session)
     : Page(session, PageId::SinglyTermCheby, "Singly-terminated Chebyshev Design") {
   Option1_.onClick = [this] { ChooseTopology("B"); };
   Option2_.onClick = [this] { ChooseTopology("F"); };
   Option3_.onClick = [this] { ChooseTopology("I"); };
-  const auto connect = [](TextBox& box, f32& field, Formatter format) {
-    box.onChange = [&box, &field, format] { ParseBox(box, field, format); };
-    box.onLeave = [&box, &field, format] { EchoBox(box, field, format); };
-  };
-  connect(txtOrder_, entries_.Order, OrderText);
-  connect(txtRipple_, entries_.Apass, FormatValue);
-  connect(txtBandwidth_, entries_.Width, FormatFrequency);
-  connect(txtCenterFrequency_, entries_.Fcenter, FormatFrequency);
-  connect(txtOutputTermination_, entries_.outputTermination, FormatResistance);
+  BindEntries();
   cmdExit_.onClick = [this] { Accept(); };
   cmdIgnore_.onClick = [this] { session_.pages.UnloadPage(Id()); };
   acceptButton = &cmdExit_;
   cancelButton = &cmdIgnore_;
 }
 
+// In the order in which they are checked.
+void frmSinglyTermCheby::BindEntries() {
+  SinglyTerminatedEntries& d = design_;
+  entries.Bind(
+      {.box = txtOrder_, .field = d.Order, .format = PlainText, .ofZero = OfZero::Blank, .refusal = [this](f32 order) {
+         return RefuseOrder(order);
+       }});
+  entries.Bind({.box = txtOutputTermination_,
+                .field = d.outputTermination,
+                .format = FormatResistance,
+                .ofZero = OfZero::Blank,
+                .refusal = RefuseOutput});
+  entries.Bind(
+      {.box = txtRipple_, .field = d.Apass, .format = FormatValue, .ofZero = OfZero::Blank, .refusal = RefuseRipple});
+  entries.Bind({.box = txtBandwidth_,
+                .field = d.Width,
+                .format = FormatFrequency,
+                .ofZero = OfZero::Blank,
+                .refusal = RefuseBandwidth});
+  entries.Bind({.box = txtCenterFrequency_,
+                .field = d.Fcenter,
+                .format = FormatFrequency,
+                .ofZero = OfZero::Blank,
+                .refusal = [this](f32 center) { return RefuseCenter(center); }});
+}
+
+std::string frmSinglyTermCheby::RefuseOrder(f32 order) const {
+  const i16 most = session_.record.OrderMax;
+  if (order == std::floor(order) && order >= limitsOf::leastSinglyTerminatedOrder && order <= most) return {};
+  return "Please enter an order, " + PlainText(limitsOf::leastSinglyTerminatedOrder) + " to " + std::to_string(most);
+}
+
+std::string frmSinglyTermCheby::RefuseCenter(f32 center) const {
+  return design_.Topology != "F" || center > 0 ? "" : "Please enter a center frequency";
+}
+
 void frmSinglyTermCheby::Load() {
-  entries_ = SinglyTerminatedEntries{};
-  entries_.Width = session_.record.Width;
-  entries_.Fcenter = session_.record.Fcenter;
-  txtOrder_.text = "4";
+  design_ = SinglyTerminatedEntries{};
+  design_.Width = session_.record.Width;
+  design_.Fcenter = session_.record.Fcenter;
+  entries.Fill();
+  // The two that the page proposes in the words of a data sheet, until their boxes are left.
   txtRipple_.text = ".1";
   txtOutputTermination_.text = "10000";
-  txtBandwidth_.text = FilledText(entries_.Width, FormatFrequency);
-  txtCenterFrequency_.text = FilledText(entries_.Fcenter, FormatFrequency);
   Option1_.Set();
   ChooseTopology("B");
   SetFocus(txtOrder_);
 }
 
 void frmSinglyTermCheby::ChooseTopology(const char* letter) {
-  entries_.Topology = letter;
-  lblCenterFrequency_.visible = txtCenterFrequency_.visible = entries_.Topology == "F";
+  design_.Topology = letter;
+  lblCenterFrequency_.visible = txtCenterFrequency_.visible = design_.Topology == "F";
 }
 
 bool frmSinglyTermCheby::EntriesAreUsable() {
-  const SinglyTerminatedEntries& e = entries_;
-  const i16 most = session_.record.OrderMax;
-  const bool whole = e.Order == std::floor(e.Order);
-  const Check checks[] = {
-      {whole && e.Order >= 2 && e.Order <= most, "Please enter an order, 2 to " + std::to_string(most), txtOrder_},
-      {e.outputTermination >= 0.01F && e.outputTermination <= 1e6F,
-       "Please enter an output termination, .01 min to 1M max", txtOutputTermination_},
-      {e.Apass >= 0.0001F && e.Apass <= 10, "Please enter a passband ripple, .0001 min to 10 max", txtRipple_},
-      {e.Width >= 0.1F, "Please enter a bandwidth .1 minimum", txtBandwidth_},
-      {e.Topology != "F" || e.Fcenter > 0, "Please enter a center frequency", txtCenterFrequency_},
-  };
-  for (const Check& check : checks) {
-    if (check.fulfilled) continue;
-    session_.platform.MessageBox(check.message, Buttons::Ok, Icon::Exclamation, "Error Checker");
-    SetFocus(check.box);
-    return false;
-  }
-  return true;
+  Entry* refused = entries.FirstRefused();
+  if (refused == nullptr) return true;
+  session_.platform.MessageBox(refused->Refusal(), Buttons::Ok, Icon::Exclamation, "Error Checker");
+  SetFocus(refused->Box());
+  return false;
 }
 
 void frmSinglyTermCheby::Accept() {
   if (!EntriesAreUsable()) return;
   try {
-    MakeSinglyTerminated(session_.record, entries_);
+    MakeSinglyTerminated(session_.record, design_);
   } catch (const Fault&) {
     session_.platform.MessageBox("We could not calculate the parts values.", Buttons::Ok, Icon::Exclamation,
                                  "Error Checker");

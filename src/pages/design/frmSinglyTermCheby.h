@@ -13,13 +13,15 @@ class frmSinglyTermCheby : public Page {
   Layout MakeLayout() override;
 
  private:
-  struct Check;
-
+  void BindEntries();
+  // Why an entry will not do; empty when it will.
+  std::string RefuseOrder(f32 order) const;
+  std::string RefuseCenter(f32 center) const;
   void ChooseTopology(const char* letter);
   bool EntriesAreUsable();
   void Accept();
 
-  SinglyTerminatedEntries entries_;
+  SinglyTerminatedEntries design_;
   OptionGroup topologies_;
   OptionButton Option1_{*this, topologies_, "Option1", "Inductor-input lowpass"};
   OptionButton Option2_{*this, topologies_, "Option2", "Series-input bandpass"};

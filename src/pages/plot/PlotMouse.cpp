@@ -1,5 +1,6 @@
 #include "pages/plot/PlotMouse.h"
 
+#include "display/SheetDrawing.h"
 #include "display/modReadout.h"
 #include "shell/Session.h"
 
@@ -28,11 +29,11 @@ void PlotMouse::PlotMouseUp(f32 /*x*/, f32 /*y*/) {
 
 // Outside the frame the last readout stays.
 void PlotMouse::ShowReadout(f32 x, f32 y) {
-  const DesignRecord& record = session_.record;
-  if (record.ResponsesValid != 1 || !InReadoutFrame(x, y)) return;
+  if (session_.record.ResponsesValid != 1 || !InReadoutFrame(x, y)) return;
   plot_.mark.SetScale(plot_.picture.CurrentScale());
   plot_.mark.Clear();
-  DrawReadout(record, session_.responses, session_.smithView, CursorIndex(record, x), plot_.mark);
+  const auto index = static_cast<std::size_t>(CursorIndex(session_.record, x));
+  DrawReadout(SetupOf(session_), SpansOf(session_.responses, responseBound), index, plot_.mark);
 }
 
 }  // namespace quilm

@@ -3,26 +3,19 @@
 #include <algorithm>
 #include <cmath>
 
+#include "core/EntryLimits.h"
 #include "core/modGeneral.h"
 #include "display/PlotKinds.h"
 #include "display/modSmith.h"
-#include "shell/EntryText.h"
+#include "shell/Page.h"
 #include "shell/Session.h"
 
 namespace quilm {
 
 namespace {
 
-constexpr f32 leastAspect = 0.5F;
-constexpr f32 mostAspect = 1.5F;
-constexpr f32 leastVSWR = 1;
-constexpr f32 mostVSWR = 20;
-
-// What the box says, held within its limits.
-f32 Held(const TextBox& box, f32 present, f32 least, f32 most) {
-  ParseBox(box, present, FormatValue);
-  return std::clamp(present, least, most);
-}
+f32 HeldVSWR(f32 VSWR) { return limitsOf::VSWRCircle.Held(VSWR); }
+f32 HeldAspect(f32 aspect) { return limitsOf::SmithAspect.Held(aspect); }
 
 }  // namespace
 
@@ -35,22 +28,28 @@ SmithControls::SmithControls(Page& page, Session& session, std::function<void()>
       txtAspect(page, "txtAspect", "Aspect of the chart", "Width over height of the chart"),
       UpDown1(page, "UpDown1", "Aspect of the chart in per cent"),
       txtAspectEntry(page, "txtAspectEntry", "0.5 to 1.5"),
+      VSWR_(page.entries.Bind({.box = txtVSWR,
+                               .field = session.smithView.VSWRCircle,
+                               .format = FormatValue,
+                               .hold = HeldVSWR,
+                               .onTaken = [this] { HideCircle(); }})),
+      aspect_(page.entries.Bind({.box = txtAspect,
+                                 .field = session.record.SmithAspect,
+                                 .format = FormatValue,
+                                 .hold = HeldAspect,
+                                 .onTaken = [this] { redraw_(); }})),
       session_(session),
       redraw_(std::move(redraw)) {
   cmdZoomIn.onClick = [this] { Zoom(session_.smithView.ZoomFactor * 2); };
   cmdZoomOut.onClick = [this] { Zoom(session_.smithView.ZoomFactor / 2); };
   cmdVSWR.onClick = [this] { ToggleCircle(); };
-  txtVSWR.onChange = [this] { EnterVSWR(); };
-  txtVSWR.onLeave = [this] { txtVSWR.text = EntryText(session_.smithView.VSWRCircle, FormatValue); };
-  txtAspect.onChange = [this] { EnterAspect(); };
-  txtAspect.onLeave = [this] { txtAspect.text = EntryText(session_.record.SmithAspect, FormatValue); };
   UpDown1.onUp = [this] { StepAspect(1); };
   UpDown1.onDown = [this] { StepAspect(-1); };
 }
 
 void SmithControls::Load() {
-  txtVSWR.text = EntryText(session_.smithView.VSWRCircle, FormatValue);
-  txtAspect.text = EntryText(session_.record.SmithAspect, FormatValue);
+  VSWR_.Fill();
+  aspect_.Fill();
   RefreshZoom();
 }
 
@@ -76,32 +75,25 @@ void SmithControls::RefreshZoom() {
 
 void SmithControls::ToggleCircle() {
   SmithView& view = session_.smithView;
-  view.VSWRCircle = Held(txtVSWR, view.VSWRCircle, leastVSWR, mostVSWR);
-  txtVSWR.text = EntryText(view.VSWRCircle, FormatValue);
+  VSWR_.Take();
+  VSWR_.Leave();
   view.VSWRCircleOn = view.VSWRCircleOn == 1 ? 0 : 1;
   redraw_();
 }
 
 // The circle on display is not that of the new figure: it goes, and comes back with the button.
-void SmithControls::EnterVSWR() {
+void SmithControls::HideCircle() {
   SmithView& view = session_.smithView;
-  view.VSWRCircle = Held(txtVSWR, view.VSWRCircle, leastVSWR, mostVSWR);
   if (view.VSWRCircleOn == 0) return;
   view.VSWRCircleOn = 0;
-  redraw_();
-}
-
-// The figure takes effect with each keystroke, but the box is left to the user until the focus goes elsewhere.
-void SmithControls::EnterAspect() {
-  session_.record.SmithAspect = Held(txtAspect, session_.record.SmithAspect, leastAspect, mostAspect);
   redraw_();
 }
 
 // In steps of one per cent.
 void SmithControls::StepAspect(int direction) {
   const f32 stepped = (std::round(session_.record.SmithAspect * 100) + static_cast<f32>(direction)) * 0.01F;
-  session_.record.SmithAspect = std::clamp(stepped, leastAspect, mostAspect);
-  txtAspect.text = EntryText(session_.record.SmithAspect, FormatValue);
+  session_.record.SmithAspect = HeldAspect(stepped);
+  aspect_.Fill();
   redraw_();
 }
 

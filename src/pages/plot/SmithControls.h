@@ -4,6 +4,7 @@
 #include <functional>
 
 #include "shell/Control.h"
+#include "shell/Entry.h"
 #include "shell/Layout.h"
 
 namespace quilm {
@@ -36,10 +37,11 @@ class SmithControls {
   void Zoom(f32 factor);
   void RefreshZoom();
   void ToggleCircle();
-  void EnterVSWR();
-  void EnterAspect();
+  void HideCircle();
   void StepAspect(int direction);
 
+  Entry& VSWR_;
+  Entry& aspect_;
   Session& session_;
   std::function<void()> redraw_;
 };

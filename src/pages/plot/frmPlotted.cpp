@@ -1,13 +1,10 @@
 #include "pages/plot/frmPlotted.h"
 
-#include <algorithm>
-
 #include "analysis/modAnalysis.h"
-#include "core/Fault.h"
 #include "desk/Leaving.h"
 #include "display/PlotKinds.h"
-#include "display/modPlot.h"
-#include "display/modSmith.h"
+#include "display/PlotScaling.h"
+#include "display/SheetDrawing.h"
 #include "files/modReadQuilmFiles.h"
 #include "files/modWriteQuilmFile.h"
 #include "schematic/Icons.h"
@@ -16,13 +13,6 @@
 namespace quilm {
 
 namespace {
-
-// The mark that a failed plot's message names: 508, 512, ... in the order of the plot codes.
-std::string MarkOf(i16 code) {
-  constexpr i16 codes[] = {1, 2, 3, 4, 5, 6, 7, 9, 10, 11, 12, 13};
-  const auto position = std::find(std::begin(codes), std::end(codes), code) - std::begin(codes);
-  return std::to_string(508 + 4 * position);
-}
 
 bool RippleCanBeTuned(const DesignRecord& record) {
   if (record.Family == familyChebyshev) return record.Apass > 0;
@@ -34,8 +24,10 @@ bool RippleCanBeTuned(const DesignRecord& record) {
 frmPlotted::frmPlotted(Session& session)
     : Page(session, PageId::Plotted, "Plot"),
       navigation(*this, session, NavigationRow::WithSoundEntries(session)),
-      smithControls(*this, session, [this] { Draw(session_.record.PlotCode); }),
+      picPlot(*this, "picPlot", "Plot of the responses", session.plot.picture),
+      smithControls(*this, session, [&session] { RedrawPlot(session); }),
       mouse_(session, picPlot) {
+  session.plot = {};  // an empty sheet: nothing of the design before shows when this one cannot be drawn
   navigation.helpFile = "plots.htm";
   navigation.onSave = [&session] { SaveDesign(session, "Save Quilm File"); };
   navigation.onGet = [&session] { GetDesignFor(session, PageId::Plotted); };
@@ -70,29 +62,10 @@ void frmPlotted::Choose(i16 code) {
   RefreshTools();
   AnalyzeSweep(session_);
   if (session_.record.ResponsesValid != 1) return;
-  session_.record.PlotCode = code;
   for (std::size_t i = 0; i < plotButtons.size(); ++i) plotButtons[i]->pressed = PlotButtons()[i].code == code;
   cmdLimits.visible = IsRectangular(code);
   smithControls.ShowFor(code);
-  Draw(code);
-}
-
-void frmPlotted::Draw(i16 code) {
-  try {
-    HoldLossBottom(session_.record, code);
-    if (IsRectangular(code)) {
-      DrawPlot(session_.record, session_.responses, code, TraceColors{}, picPlot.picture);
-    } else {
-      DrawChart(session_.record, session_.responses, code, session_.smithView, TraceColors{}, picPlot.picture);
-    }
-  } catch (const Fault&) {
-    ShowFault(MarkOf(code));
-  }
-}
-
-void frmPlotted::ShowFault(const std::string& mark) {
-  session_.platform.MessageBox("We had a plotting routine problem.\r\nSee frmPlotted line " + mark, Buttons::Ok,
-                               Icon::Critical, "Error checker");
+  ChoosePlot(session_, code);
 }
 
 void frmPlotted::RefreshTools() { cmdTuneApass.visible = RippleCanBeTuned(session_.record); }
@@ -100,7 +73,7 @@ void frmPlotted::RefreshTools() { cmdTuneApass.visible = RippleCanBeTuned(sessio
 // The page is taken away and shown again, so that everything on it is rebuilt with the new scales.
 void frmPlotted::ScaleToResponse() {
   session_.pages.ShowPage(PageId::Blank);
-  AutoScale(session_.record, session_.responses);
+  AutoScale(session_.record, SpansOf(session_.responses, LastPoint(session_.record)));
   session_.pages.ShowPage(PageId::Plotted);
   session_.pages.UnloadPage(PageId::Blank);
 }

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <memory>
-#include <string>
 #include <vector>
 
 #include "desk/NavigationRow.h"
@@ -21,7 +20,7 @@ class frmPlotted : public Page {
 
   NavigationRow navigation;
   std::vector<std::unique_ptr<Button>> plotButtons;  // cmd1 to cmd12
-  PictureBox picPlot{*this, "picPlot", "Plot of the responses"};
+  PictureBox picPlot;  // shows the sheet of the session
   SmithControls smithControls;
 
   Button cmdAutoScale{*this, "cmdAutoScale", "AutoScale", "Set the scales from the response"};
@@ -40,8 +39,6 @@ class frmPlotted : public Page {
 
  private:
   void Choose(i16 code);
-  void Draw(i16 code);
-  void ShowFault(const std::string& mark);
   void RefreshTools();
   void ScaleToResponse();
 

@@ -9,6 +9,8 @@
 #include "display/modTabulate.h"
 #include "files/modReadQuilmFiles.h"
 #include "files/modWriteQuilmFile.h"
+#include "reports/PrintTable.h"
+#include "reports/Report.h"
 #include "shell/Session.h"
 
 namespace quilm {
@@ -57,12 +59,10 @@ bool frmTabulated::PaperIsWanted() {
                                       Buttons::YesNo, Icon::Question, "Caution") == Answer::Yes;
 }
 
-// Cancelling the print dialog is quiet.
 void frmTabulated::PrintResponses() {
   if (!PaperIsWanted()) return;
-  Canvas* printer = session_.platform.PrintDialog();
-  if (printer == nullptr) return;
-  PrintTable(session_.record, session_.responses, *printer);
+  PrintReport(session_.platform, "We had a printer problem",
+              [this](Canvas& printer) { PrintTable(session_.record, session_.responses, printer); });
 }
 
 Layout frmTabulated::MakeLayout() {

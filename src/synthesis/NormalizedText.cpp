@@ -1,4 +1,4 @@
-#include "synthesis/modPrintNorms.h"
+#include "synthesis/NormalizedText.h"
 
 #include <cmath>
 
@@ -8,14 +8,6 @@
 namespace quilm {
 
 namespace {
-
-// Paper, in twips.
-constexpr f32 leftMargin = 1440;
-constexpr f32 topMargin = 1440;
-constexpr f32 rowPitch = 300;
-constexpr f32 lastRow = 14400;
-constexpr Scale paper{0, 0, 12240, 15840};
-constexpr std::size_t longestLine = 90;  // characters that fit between the margins
 
 std::string Number(f32 value) { return ShortText(value, LeadingZero::Keep); }
 
@@ -43,18 +35,6 @@ void AddBranchRows(std::vector<std::string>& rows, const DesignRecord& record, i
   if (!(capacitor > 0 && inductor > 0)) return;
   rows.push_back(Row("C", j, capacitor));
   rows.push_back(Row("W", j, static_cast<f32>(1 / std::sqrt(f64{inductor} * f64{capacitor}))));
-}
-
-// A text broken at blanks into lines that fit the paper.
-std::vector<std::string> Wrapped(std::string text) {
-  std::vector<std::string> lines;
-  while (text.size() > longestLine) {
-    const std::size_t blank = text.rfind(' ', longestLine);
-    lines.push_back(text.substr(0, blank));
-    text.erase(0, blank + 1);
-  }
-  lines.push_back(text);
-  return lines;
 }
 
 }  // namespace
@@ -107,31 +87,6 @@ std::vector<std::string> NormalizedRows(const DesignRecord& record) {
     record.CauerFlag == 1 ? AddBranchRows(rows, record, j) : AddPlainRow(rows, record, j);
   }
   return rows;
-}
-
-void PrintNorms(const DesignRecord& record, Canvas& printer) {
-  printer.SetScale(paper);
-  printer.FontName = "Arial";
-  printer.FontSize = 10;
-  printer.ForeColor = colorBlack;
-  f32 y = topMargin;
-  const auto print = [&](const std::string& text) {
-    if (y > lastRow) {
-      printer.NewPage();
-      y = topMargin;
-    }
-    printer.PrintAt(leftMargin, y, text);
-    y += rowPitch;
-  };
-  print("Normalized values");
-  print(FamilyHeading(record));
-  for (const std::string& line : NormalizedEntries(record)) print(line);
-  for (const std::string& line : Wrapped(NormalizedCaption(record))) print(line);
-  y += rowPitch;
-  print("Input termination: 1");
-  for (const std::string& row : NormalizedRows(record)) print(row);
-  print("Output termination: " + Number(record.Rratio));
-  printer.EndDoc();
 }
 
 }  // namespace quilm

@@ -1,11 +1,10 @@
-// The normalised values of a design as text, on the page and on paper.
+// The normalised values of a design as text, for the page and for paper.
 #pragma once
 
 #include <string>
 #include <vector>
 
 #include "core/DesignRecord.h"
-#include "shell/Canvas.h"
 
 namespace quilm {
 
@@ -21,8 +20,5 @@ std::string NormalizedCaption(const DesignRecord& record);
 
 // The values by position: "C(1) = 1.0316", "L(2) = ...", and of a tuned branch also its capacitor and its zero "W(2)".
 std::vector<std::string> NormalizedRows(const DesignRecord& record);
-
-// Prints all of it under "Normalized values", with the terminations, and ends the document.
-void PrintNorms(const DesignRecord& record, Canvas& printer);
 
 }  // namespace quilm

@@ -1,0 +1,114 @@
+#include "app/PictureSheet.h"
+
+#include <algorithm>
+
+#include "app/QtCanvas.h"
+#include "app/QtText.h"
+
+namespace quilm {
+
+namespace {
+
+constexpr f64 smallestPoints = 8;            // no text is shown smaller than this at 100%
+constexpr f64 pixelsPerPoint = 96.0 / 72.0;  // at 100%
+
+// Holds `now` in place of `held`. True when it is another drawing or has grown.
+template <class Drawing>
+bool TakeDrawing(const std::shared_ptr<const Drawing>& now, std::size_t length, std::shared_ptr<const Drawing>& held,
+                 std::size_t& taken) {
+  const bool changed = now != held || length != taken;
+  held = now;
+  taken = length;
+  return changed;
+}
+
+Surface SurfaceOf(const QRectF& target, f64 density) {
+  return {.target = target, .density = density, .smallestText = smallestPoints * pixelsPerPoint};
+}
+
+}  // namespace
+
+bool PictureSheet::Take(const Picture& picture, const LiveLayer& live, const Picture& mark) {
+  const bool other = picture.CurrentScale() != scale_ || picture.BackColor != paper_;
+  if (other || picture.Drawing() != picture_) sheetStands_ = false;
+  if (other || live.Drawing() != live_) layerStands_ = false;
+  scale_ = picture.CurrentScale();
+  paper_ = picture.BackColor;
+  const bool drawn = TakeDrawing(picture.Drawing(), picture.Operations().size(), picture_, pictureTaken_);
+  const bool tried = TakeDrawing(live.Drawing(), live.Present().Drawn(), live_, liveTaken_);
+  const bool marked = TakeDrawing(mark.Drawing(), mark.Operations().size(), mark_, markTaken_);
+  return other || drawn || tried || marked;
+}
+
+void PictureSheet::SetPaper(QSize size, f64 density) {
+  if (size == size_ && density == density_) return;
+  size_ = size;
+  density_ = density;
+  sheetStands_ = false;
+  layerStands_ = false;
+}
+
+// An image that is there already is used again: the system hands out fresh memory page by page.
+void PictureSheet::MakeBlank(QImage& image, QImage::Format format, const QColor& color) const {
+  if (image.size() != size_ * density_) image = QImage(size_ * density_, format);
+  image.setDevicePixelRatio(density_);
+  image.fill(color);
+}
+
+void PictureSheet::CatchUpWithPicture() {
+  if (!sheetStands_) {
+    MakeBlank(sheet_, QImage::Format_RGB32, ToQt(paper_));
+    sheetStands_ = true;
+    picturePainted_ = 0;
+  }
+  if (picturePainted_ == picture_->size()) return;
+  QPainter painter(&sheet_);
+  QtCanvas canvas(painter, SurfaceOf(QRectF(QPointF(0, 0), size_), density_));
+  canvas.SetScale(scale_);
+  for (; picturePainted_ < picture_->size(); ++picturePainted_) DrawOperation((*picture_)[picturePainted_], canvas);
+}
+
+void PictureSheet::CatchUpWithLive() {
+  if (size_.isEmpty()) return;
+  if (!layerStands_) {
+    if (live_->kept.empty()) return;
+    MakeBlank(layer_, QImage::Format_ARGB32_Premultiplied, Qt::transparent);
+    layerStands_ = true;
+    livePainted_ = 0;
+  }
+  livePainted_ = std::max(livePainted_, live_->dropped);
+  if (livePainted_ == live_->Drawn()) return;
+  QPainter painter(&layer_);
+  Surface surface = SurfaceOf(QRectF(QPointF(0, 0), size_), density_);
+  surface.paper = true;  // there is nothing below that an exclusive or could turn round
+  QtCanvas canvas(painter, surface);
+  canvas.SetScale(scale_);
+  for (; livePainted_ < live_->Drawn(); ++livePainted_) {
+    DrawOperation(live_->kept[livePainted_ - live_->dropped], canvas);
+  }
+}
+
+void PictureSheet::Paint(QPainter& painter, QPointF corner) {
+  if (size_.isEmpty()) return;
+  CatchUpWithPicture();
+  CatchUpWithLive();
+  painter.drawImage(corner, sheet_);
+  if (layerStands_) painter.drawImage(corner, layer_);
+  if (!mark_->empty()) PaintMark(painter, corner);
+}
+
+void PictureSheet::PaintMark(QPainter& painter, QPointF corner) const {
+  QtCanvas canvas(painter, SurfaceOf(QRectF(corner, QSizeF(size_)), density_));
+  canvas.SetScale(scale_);
+  for (const PictureOp& operation : *mark_) DrawOperation(operation, canvas);
+}
+
+Picture PictureSheet::Whole() const {
+  Picture whole(scale_);
+  whole.BackColor = paper_;
+  for (const PictureOp& operation : *picture_) DrawOperation(operation, whole);
+  for (const PictureOp& operation : live_->kept) DrawOperation(operation, whole);
+  return whole;
+}
+
+}  // namespace quilm

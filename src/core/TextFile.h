@@ -1,0 +1,27 @@
+// Writes the text files of the program: designs, the last session, the configuration, and whatever is exported.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace quilm {
+
+// What a write that does not get to its end leaves at the path.
+enum class OnFailure {
+  KeepOldFile,         // the file that stood there, whole, or none if there was none
+  KeepWhatWasWritten,  // the new text as far as it got
+};
+
+// Replaces the file at `path`, or makes it, with `text` byte for byte. False when that failed, for whatever reason: no
+// such folder, no permission, a full disk, a limit on the size of files.
+//
+// KeepOldFile writes to a temporary file beside the old one, flushes it to the disk and renames it, so that whoever
+// reads, a second instance or the next start after a power failure, finds the old text or the new one and never a part.
+// Of several writers at once the last to end wins. It needs a folder in which files can be made; a failure leaves no
+// temporary file behind, a kill can leave one. An old file keeps its permissions, and one that is protected against
+// writing is not replaced. A symbolic link stays, and what it leads to is replaced.
+//
+// What is no regular file, such as a pipe or a terminal, has no text to lose and is written to as it stands.
+bool WriteTextFile(const std::string& path, std::string_view text, OnFailure onFailure = OnFailure::KeepOldFile);
+
+}  // namespace quilm

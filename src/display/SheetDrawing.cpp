@@ -1,0 +1,75 @@
+#include "display/SheetDrawing.h"
+
+#include <algorithm>
+#include <iterator>
+#include <string>
+
+#include "core/Fault.h"
+#include "display/PlotKinds.h"
+#include "display/PlotScaling.h"
+#include "display/modPlot.h"
+#include "display/modSmith.h"
+#include "shell/Session.h"
+
+namespace quilm {
+
+namespace {
+
+// The mark that a failed plot's message names: 508, 512, ... in the order of the plot codes.
+std::string MarkOf(i16 code) {
+  constexpr i16 codes[] = {1, 2, 3, 4, 5, 6, 7, 9, 10, 11, 12, 13};
+  const auto position = std::find(std::begin(codes), std::end(codes), code) - std::begin(codes);
+  return std::to_string(508 + 4 * position);
+}
+
+void ShowPlotFault(Session& session) {
+  session.platform.MessageBox(
+      "We had a plotting routine problem.\r\nSee frmPlotted line " + MarkOf(session.record.PlotCode), Buttons::Ok,
+      Icon::Critical, "Error checker");
+}
+
+}  // namespace
+
+PlotSetup SetupOf(const Session& session) {
+  const DesignRecord& record = session.record;
+  return {HorizontalAxis(record), record, session.plot.colors, session.smithView, record.Rstandard};
+}
+
+void DrawSheet(const PlotSetup& setup, const ResponseSpans& responses, AxisPlaces& places, Canvas& canvas) {
+  if (IsRectangular(setup.scales.PlotCode)) {
+    DrawPlot(setup, responses, places, canvas);
+  } else {
+    DrawChart(setup, responses, places, canvas);
+  }
+}
+
+void AddTraces(const PlotSetup& setup, const ResponseSpans& responses, AxisPlaces& places, Canvas& canvas) {
+  if (IsRectangular(setup.scales.PlotCode)) {
+    DrawTraces(setup, responses, places, canvas);
+  } else {
+    DrawChartTraces(setup, responses, places, canvas);
+  }
+}
+
+void ChoosePlot(Session& session, i16 code) {
+  session.record.PlotCode = code;
+  session.plot.colors = {};
+  session.plot.limitEntry = {};
+  RedrawPlot(session);
+}
+
+void RedrawPlot(Session& session) {
+  try {
+    HoldLossBottom(session.record);
+    const ResponseSpans responses = SpansOf(session.responses, LastPoint(session.record));
+    DrawSheet(SetupOf(session), responses, session.plot.places, session.plot.picture);
+  } catch (const Fault&) {
+    ShowPlotFault(session);
+  }
+}
+
+void AddTraces(Session& session, const ResponseSpans& responses, Canvas& canvas) {
+  AddTraces(SetupOf(session), responses, session.plot.places, canvas);
+}
+
+}  // namespace quilm

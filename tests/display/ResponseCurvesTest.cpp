@@ -1,0 +1,74 @@
+#include "display/ResponseCurves.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+#include "core/Fault.h"
+
+namespace quilm {
+namespace {
+
+class ResponseCurve : public testing::Test {
+ protected:
+  ResponseCurve() {
+    responses->RespFreq[1] = 1e6F;
+    responses->RespTrans[1] = -2;
+    responses->RespAngle[1] = 3;
+    responses->RespDelay[1] = 4;
+    responses->RespReturn[1] = -5;
+    responses->RespVSWR[1] = 6;
+    responses->RespZin[1] = 60;
+    responses->RespZinAngle[1] = 30;
+  }
+
+  std::unique_ptr<Responses> responses = std::make_unique<Responses>();
+};
+
+// 60 ohms at 30 degrees are 51.9615 + 30j ohms.
+constexpr std::pair<Quantity, f64> expectedValues[] = {
+    {Quantity::Transmission, -2}, {Quantity::TransmissionTimes10, -2},
+    {Quantity::Return, -5},       {Quantity::Angle, 3},
+    {Quantity::Delay, 4},         {Quantity::VSWR, 6},
+    {Quantity::Zin, 60},          {Quantity::ZinAngle, 30},
+    {Quantity::Real, 51.961524},  {Quantity::Imaginary, 30}};
+
+TEST_F(ResponseCurve, EveryQuantityIsReadFromItsArray) {
+  const ResponseSpans spans = SpansOf(*responses, 1);
+  for (const auto& [quantity, value] : expectedValues) {
+    EXPECT_NEAR(ValueOf(spans, quantity, 1), value, 1e-5) << static_cast<int>(quantity);
+  }
+}
+
+TEST_F(ResponseCurve, TheCurveOfAQuantityHasItsValues) {
+  const ResponseSpans spans = SpansOf(*responses, 1);
+  std::vector<f64> derived;
+  for (const auto& [quantity, value] : expectedValues) {
+    const Curve curve = CurveOf(spans, quantity, derived);
+    EXPECT_EQ(curve.frequencies.size(), 2U);
+    std::visit([&, expected = value](const auto& values) { EXPECT_NEAR(values[1], expected, 1e-5); }, curve.values);
+  }
+}
+
+TEST_F(ResponseCurve, WhatTheResponsesHoldIsNotCopied) {
+  std::vector<f64> derived;
+  const Curve curve = CurveOf(SpansOf(*responses, 1), Quantity::Delay, derived);
+  EXPECT_EQ(std::get<std::span<const f32>>(curve.values).data(), responses->RespDelay.data());
+  EXPECT_TRUE(derived.empty());
+}
+
+TEST_F(ResponseCurve, HoldsThePointsUpToTheLast) {
+  EXPECT_EQ(SpansOf(*responses, 0).Count(), 1U);
+  EXPECT_EQ(SpansOf(*responses, responseBound).Count(), 2050U);
+  EXPECT_THROW(SpansOf(*responses, responseBound + 1), BoundFault);
+  EXPECT_THROW(SpansOf(*responses, -1), BoundFault);
+}
+
+TEST(LastPoint, IsTheWholeNumberNearestToTheIntervals) {
+  EXPECT_EQ(LastPoint(SweepSettings{1, 0, 1, 100}), 100);
+  EXPECT_EQ(LastPoint(SweepSettings{1, 0, 1, 100.4F}), 100);
+  EXPECT_THROW(LastPoint(SweepSettings{1, 0, 1, 40000}), NumericFault);
+}
+
+}  // namespace
+}  // namespace quilm
