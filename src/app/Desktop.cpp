@@ -2,6 +2,9 @@
 
 #include <utility>
 
+#include "app/PageView.h"
+#include "shell/Acts.h"
+
 namespace quilm {
 
 Desktop::Desktop(PageDirectory directory, const QString& folder)
@@ -12,6 +15,13 @@ Desktop::Desktop(PageDirectory directory, const QString& folder)
     window.KeepPlace();
     if (onEnded) onEnded();
   };
+  const auto press = [&stage](void (*act)(Session&)) {
+    return [&stage, act] {
+      if (PageView* view = stage.TopView()) view->Press(act);
+    };
+  };
+  window.onUndo = press(Undo);
+  window.onRedo = press(Redo);
   window.onCloseBox = [&stage] { stage.PressCloseBox(); };
 }
 

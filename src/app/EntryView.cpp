@@ -8,6 +8,7 @@
 #include <QWheelEvent>
 #include <algorithm>
 
+#include "app/HistoryButton.h"
 #include "app/QtText.h"
 #include "shell/EntryStep.h"
 #include "shell/Session.h"
@@ -42,6 +43,12 @@ void EntryBox::Typed(const QString& text) {
 void EntryBox::ShowText(const QString& shown) {
   if (text() == shown) return;
   const QSignalBlocker quiet(this);
+  ReplaceText(shown);
+  if (!touched_) before_ = shown;
+}
+
+// The toolkit's box forgets its own undo with it.
+void EntryBox::ReplaceText(const QString& shown) {
   const int cursor = cursorPosition();
   setText(shown);
   setCursorPosition(std::min(cursor, static_cast<int>(shown.size())));
@@ -61,7 +68,14 @@ void EntryBox::LeaveIfTouched() {
   if (!touched_) return;
   touched_ = false;
   before_ = text();
+  ForgetTyping();
   if (onLeave) onLeave();
+}
+
+// What was typed is a step of the design once the box was left, and no longer the box's own to take back.
+void EntryBox::ForgetTyping() {
+  const QSignalBlocker quiet(this);
+  ReplaceText(text());
 }
 
 bool EntryBox::StepAtCursor(int direction) {
@@ -86,13 +100,23 @@ bool EntryBox::Restore() {
 // Keys that the box takes for itself must not be taken for a shortcut of the window first.
 bool EntryBox::event(QEvent* event) {
   if (event->type() == QEvent::ShortcutOverride) {
-    const int key = static_cast<QKeyEvent*>(event)->key();
-    if (key == Qt::Key_Escape && text() != before_) {
+    const auto& press = *static_cast<QKeyEvent*>(event);
+    if (press.key() == Qt::Key_Escape && text() != before_) {
       event->accept();
+      return true;
+    }
+    if (IsForDesign(press)) {
+      event->ignore();
       return true;
     }
   }
   return QLineEdit::event(event);
+}
+
+// The box takes back its own typing first; when nothing of it is left, the keys are for the design.
+bool EntryBox::IsForDesign(const QKeyEvent& press) const {
+  const QKeySequence keys(press.keyCombination());
+  return (keys == UndoKeys() && !isUndoAvailable()) || (keys == RedoKeys() && !isRedoAvailable());
 }
 
 void EntryBox::keyPressEvent(QKeyEvent* event) {
@@ -132,6 +156,7 @@ void EntryBox::focusOutEvent(QFocusEvent* event) {
   if (event->reason() == Qt::ActiveWindowFocusReason || event->reason() == Qt::PopupFocusReason) return;
   touched_ = false;
   deselect();
+  ForgetTyping();
   if (onLeave) onLeave();
 }
 

@@ -38,6 +38,9 @@ class EntryBox : public QLineEdit {
   void Typed(const QString& text);
   bool StepAtCursor(int direction);
   bool Restore();
+  void ReplaceText(const QString& shown);
+  void ForgetTyping();
+  bool IsForDesign(const QKeyEvent& press) const;
 
   QTimer warmth_;   // runs as long as a repair shows
   QString before_;  // when the box was entered

@@ -9,8 +9,10 @@
 #include <QVBoxLayout>
 #include <utility>
 
+#include "app/HistoryButton.h"
 #include "app/PageView.h"
 #include "app/QtText.h"
+#include "shell/Acts.h"
 #include "shell/Session.h"
 
 namespace quilm {
@@ -51,6 +53,8 @@ MainWindow::MainWindow(Session& session, QString settingsPath)
     : session_(session),
       settingsPath_(std::move(settingsPath)),
       pages_(new QStackedWidget),
+      undo_(new HistoryButton(QStringLiteral("Undo"), UndoKeys())),
+      redo_(new HistoryButton(QStringLiteral("Redo"), RedoKeys())),
       left_(new StatusText(Qt::AlignLeft)),
       right_(new StatusText(Qt::AlignRight)) {
   setWindowTitle(QStringLiteral("Quilm"));
@@ -68,10 +72,17 @@ MainWindow::MainWindow(Session& session, QString settingsPath)
   status->setSpacing(2 * margin);
   constexpr int leftShare = 3;
   constexpr int rightShare = 2;
+  auto* steps = new QHBoxLayout;
+  steps->setSpacing(0);
+  steps->addWidget(undo_);
+  steps->addWidget(redo_);
+  status->addLayout(steps);
   status->addWidget(left_, leftShare);
   status->addWidget(right_, rightShare);
   column->addLayout(status);
   setCentralWidget(whole);
+  undo_->onPress = [this] { onUndo(); };
+  redo_->onPress = [this] { onRedo(); };
   RestorePlace();
 }
 
@@ -127,6 +138,8 @@ void MainWindow::RemovePage(PageView& view) {
 }
 
 void MainWindow::SyncStatus() {
+  undo_->Show(CanUndo(session_), session_.history.UndoText());
+  redo_->Show(CanRedo(session_), session_.history.RedoText());
   left_->Show(summary ? ToQt(summary()) : QString());
   right_->Show(ToQt(session_.note));
 }

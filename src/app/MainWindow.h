@@ -9,6 +9,7 @@
 
 namespace quilm {
 
+class HistoryButton;
 class PageView;
 class Session;
 
@@ -42,6 +43,9 @@ class MainWindow : public QMainWindow {
   std::function<std::string()> summary;
   // The window's close box.
   std::function<void()> onCloseBox;
+  // The buttons at the left of the status line.
+  std::function<void()> onUndo;
+  std::function<void()> onRedo;
 
   void AddPage(PageView& view);
   void ShowPage(PageView& view, const QString& title);
@@ -63,6 +67,8 @@ class MainWindow : public QMainWindow {
   Session& session_;
   QString settingsPath_;
   QStackedWidget* pages_;
+  HistoryButton* undo_;
+  HistoryButton* redo_;
   StatusText* left_;
   StatusText* right_;
 };

@@ -8,11 +8,13 @@
 #include <algorithm>
 
 #include "app/EntryView.h"
+#include "app/HistoryButton.h"
 #include "app/LayoutBuilder.h"
 #include "app/Mnemonics.h"
 #include "app/PictureView.h"
 #include "app/QtText.h"
 #include "app/SideStack.h"
+#include "shell/Acts.h"
 #include "shell/Page.h"
 
 namespace quilm {
@@ -114,11 +116,16 @@ void PageView::AddShortcuts() {
     connect(shortcut, &QShortcut::activated, this, [this, name = key.control] { PressNamed(name); });
     shortcuts_.push_back(shortcut);
   }
+  // A box takes these keys for itself while it has something of its own to take back.
+  auto* undo = new QShortcut(UndoKeys(), this);
+  connect(undo, &QShortcut::activated, this, [this] { Press(Undo); });
+  auto* redo = new QShortcut(RedoKeys(), this);
+  connect(redo, &QShortcut::activated, this, [this] { Press(Redo); });
   auto* copy = new QShortcut(QKeySequence::Copy, this);
   connect(copy, &QShortcut::activated, this, [this] {
     if (const PictureView* picture = PictureToCopy()) picture->Copy();
   });
-  shortcuts_.push_back(copy);
+  shortcuts_.insert(shortcuts_.end(), {undo, redo, copy});
 }
 
 bool PageView::HasTool() const { return side_ != nullptr && side_->Panel() != nullptr; }

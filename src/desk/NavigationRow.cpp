@@ -15,7 +15,11 @@ NavigationRow::NavigationRow(Page& page, Session& session, Gate gate)
   AddSegment(PageId::Plotted, Sign::Plot, "cmdPlot", "Plot", "Plot the responses");
   AddSegment(PageId::Tabulated, Sign::Tabulate, "cmdTabulate", "Tabulate", "Tabulate the responses");
   cmdGet_ = &AddAction(Sign::Get, "cmdGet", "Get", "Get a design from disk", [this] { onGet(); });
-  cmdSave_ = &AddAction(Sign::Save, "cmdSave", "Save", "Save the design to disk", [this] { onSave(); });
+  cmdSave_ = &AddAction(Sign::Save, "cmdSave", "Save", "Save the design to disk", [this] {
+    // What is written is held to what a file can hold, which is nothing that the user did.
+    const History::Following following(session_);
+    onSave();
+  });
   cmdSpice_ = &AddAction(Sign::Write, "cmdSpice", "Write", "Write file", [this] { GoTo(PageId::WriteFiles); });
   cmdPrint_ = &AddAction(Sign::Print, "cmdPrint", "Print", "Print the responses", [this] { onPrint(); });
   AddAction(Sign::Help, "cmdHelp", "Help", "Help :-)",
@@ -54,6 +58,7 @@ Button& NavigationRow::AddAction(Sign sign, const char* name, const char* captio
 
 // The target is shown before this page is unloaded, so that its load step sees nothing but the session.
 void NavigationRow::GoTo(PageId target) {
+  const History::Following following(session_);
   if (!gate_(target)) {
     // A check that led elsewhere, to the entry in question, has left this page.
     if (session_.pages.Top() != &page_) session_.pages.UnloadPage(page_.Id());

@@ -106,6 +106,22 @@ void ClosePage(ScriptRun& run, const std::string& arguments) {
   PressCloseBox(run.session, page);
 }
 
+// The keys of undo and redo leave the box that has the focus, as in the window.
+void StepInHistory(ScriptRun& run, void (*step)(Session&)) {
+  run.focus.MoveTo(run.Top(), {});
+  step(run.session);
+}
+
+void UndoStep(ScriptRun& run, const std::string& arguments) {
+  Arguments(arguments, 0, 0, "undo");
+  StepInHistory(run, Undo);
+}
+
+void RedoStep(ScriptRun& run, const std::string& arguments) {
+  Arguments(arguments, 0, 0, "redo");
+  StepInHistory(run, Redo);
+}
+
 void RunAtYield(ScriptRun& run, const std::string& arguments) {
   const FirstWord split = SplitFirst(arguments);
   const auto command = ParseLine(split.rest, run.Present().line);
@@ -116,9 +132,9 @@ void RunAtYield(ScriptRun& run, const std::string& arguments) {
 }  // namespace
 
 const CommandTable& ActCommands() {
-  static const CommandTable table{{"press", Press},        {"type", TypeText},        {"spin", SpinButtons},
-                                  {"choose", ChooseLine},  {"mouse", MouseOnPicture}, {"close", ClosePage},
-                                  {"at-yield", RunAtYield}};
+  static const CommandTable table{{"press", Press},       {"type", TypeText},        {"spin", SpinButtons},
+                                  {"choose", ChooseLine}, {"mouse", MouseOnPicture}, {"close", ClosePage},
+                                  {"undo", UndoStep},     {"redo", RedoStep},        {"at-yield", RunAtYield}};
   return table;
 }
 

@@ -22,7 +22,7 @@ void RunCommand(ScriptRun& run, const Command& command);
 using CommandFunction = void (*)(ScriptRun& run, const std::string& arguments);
 using CommandTable = std::map<std::string_view, CommandFunction>;
 
-const CommandTable& ActCommands();    // what a user does: press, type, spin, choose, mouse, close, at-yield
+const CommandTable& ActCommands();    // what a user does: press, type, spin, choose, mouse, close, undo, at-yield
 const CommandTable& QueueCommands();  // what is prepared: answer, file, printer, seed, date
 const CommandTable& PrintCommands();  // what is printed or written: record, responses, page, canvas, ...
 

@@ -30,6 +30,15 @@ class Depth {
   Session& session_;
 };
 
+// The name of a control without its unit: "Passband ripple" of "Passband ripple, dB". An action of the navigation row
+// says in its tool tip what it does.
+std::string NameOf(const Control& control) {
+  const auto* button = dynamic_cast<const Button*>(&control);
+  if (button != nullptr && button->role == ButtonRole::Action) return button->toolTip;
+  const std::string name = control.SpokenName();
+  return name.substr(0, name.find(','));
+}
+
 using MouseHandler = std::function<void(f32, f32, MouseButton)>;
 
 const MouseHandler& HandlerOf(const PictureBox& box, MouseAct act) {
@@ -51,13 +60,12 @@ const HitArea* AreaThatTakes(const PictureBox& box, MouseAct act, f32 x, f32 y, 
   return area != nullptr && area->onPress ? area : nullptr;
 }
 
-}  // namespace
-
-void RunHandler(Session& session, const std::function<void()>& handler) {
-  if (!handler || session.ended) return;
+void RunAct(Session& session, const Deed& deed, const std::function<void()>& handler) {
+  if (session.ended) return;
   const Depth depth(session);
+  const History::Act act(session, deed);
   try {
-    handler();
+    if (handler) handler();
   } catch (const ProgramEnd&) {
     session.ended = true;
   } catch (const ActRefused&) {
@@ -70,32 +78,82 @@ void RunHandler(Session& session, const std::function<void()>& handler) {
   if (session.ended && session.handlerDepth > 1) throw ProgramEnd{};
 }
 
+// Shows the page of a step with the design as it stands. Its load step may repair entries, which must not touch what
+// comes back.
+void ShowAnew(Session& session, PageId id) {
+  const DesignRecord design = session.record;
+  const i16 familyOption = session.familyOption;
+  Page* present = session.pages.Top();
+  if (session.history.HasTool()) {
+    present->Reload();
+  } else if (present == nullptr || present->Id() != id) {
+    session.pages.ShowPage(id);
+    if (present != nullptr) session.pages.UnloadPage(present->Id());
+    session.record = design;
+    session.familyOption = familyOption;
+  }
+  if (Page* page = session.pages.Find(id)) page->Reload();
+}
+
+using HistoryStep = PageId (History::*)(Session&);
+
+void TakeStep(Session& session, const std::string& note, HistoryStep step) {
+  RunAct(session, {note}, [&session, &note, step] {
+    const History::Following following(session);
+    ShowAnew(session, (session.history.*step)(session));
+    session.note = note;
+  });
+}
+
+}  // namespace
+
+void RunHandler(Session& session, const std::function<void()>& handler) {
+  const Page* page = session.pages.Top();
+  RunAct(session, {page == nullptr ? std::string() : page->title}, handler);
+}
+
+bool CanUndo(const Session& session) { return session.history.HasUndo() && !session.history.IsOff(session); }
+
+bool CanRedo(const Session& session) { return session.history.HasRedo() && !session.history.IsOff(session); }
+
+void Undo(Session& session) {
+  if (!session.history.HasUndo()) throw ActRefused("there is nothing to undo");
+  if (!CanUndo(session)) throw ActRefused("nothing can be undone now");
+  TakeStep(session, "Undone: " + session.history.UndoText(), &History::StepBack);
+}
+
+void Redo(Session& session) {
+  if (!session.history.HasRedo()) throw ActRefused("there is nothing to redo");
+  if (!CanRedo(session)) throw ActRefused("nothing can be redone now");
+  TakeStep(session, "Redone: " + session.history.RedoText(), &History::StepForth);
+}
+
 void Click(Session& session, Control& control) {
   Require(control);
   if (auto* option = dynamic_cast<OptionButton*>(&control)) {
     option->Set();
-    RunHandler(session, option->onClick);
+    RunAct(session, {NameOf(control)}, option->onClick);
     return;
   }
   auto* button = dynamic_cast<Button*>(&control);
   if (button == nullptr) throw ActRefused(control.name + " is no button");
   // The handler may unload its page; the function it runs from must outlive it.
   const std::function<void()> handler = button->onClick;
-  RunHandler(session, handler);
+  RunAct(session, {NameOf(control)}, handler);
 }
 
 void Type(Session& session, TextBox& box, const std::string& text) {
   Require(box);
   if (box.readOnly) throw ActRefused(box.name + " cannot be typed in");
   box.text = FirstCharacters(text, static_cast<std::size_t>(box.maxLength));
-  RunHandler(session, box.onChange);
+  RunAct(session, {NameOf(box), box.name, false}, box.onChange);
 }
 
-void Leave(Session& session, TextBox& box) { RunHandler(session, box.onLeave); }
+void Leave(Session& session, TextBox& box) { RunAct(session, {NameOf(box), box.name}, box.onLeave); }
 
 void Step(Session& session, Spin& spin, int direction) {
   Require(spin);
-  RunHandler(session, direction > 0 ? spin.onUp : spin.onDown);
+  RunAct(session, {NameOf(spin)}, direction > 0 ? spin.onUp : spin.onDown);
 }
 
 void Choose(Session& session, ListBox& list, int line) {
@@ -104,24 +162,25 @@ void Choose(Session& session, ListBox& list, int line) {
     throw ActRefused(list.name + " has no line " + std::to_string(line));
   }
   list.selected = line;
-  RunHandler(session, list.onClick);
+  RunAct(session, {NameOf(list)}, list.onClick);
 }
 
 void Tick(Session& session, Timer& timer) {
-  if (timer.Active()) RunHandler(session, timer.onTick);
+  if (timer.Active()) RunAct(session, {timer.name, {}, false}, timer.onTick);
 }
 
 void PressCloseBox(Session& session, Page& page) {
-  RunHandler(session, [&page] { page.CloseBox(); });
+  RunAct(session, {page.title}, [&page] { page.CloseBox(); });
 }
 
 void Mouse(Session& session, PictureBox& box, MouseAct act, f32 x, f32 y, MouseButton button) {
   Require(box);
   if (const HitArea* area = AreaThatTakes(box, act, x, y, button)) {
-    if (area->enabled) RunHandler(session, std::function<void()>(area->onPress));
+    if (area->enabled) RunAct(session, {area->SpokenName()}, std::function<void()>(area->onPress));
     return;
   }
-  if (const MouseHandler& handler = HandlerOf(box, act)) RunHandler(session, [&] { handler(x, y, button); });
+  const MouseHandler& handler = HandlerOf(box, act);
+  if (handler) RunAct(session, {NameOf(box), {}, act != MouseAct::Move}, [&] { handler(x, y, button); });
 }
 
 bool HearsMouse(const PictureBox& box, MouseAct act, f32 x, f32 y, MouseButton button) {
@@ -136,12 +195,12 @@ void PressArea(Session& session, PictureBox& box, std::string_view name) {
   if (!area->enabled) throw ActRefused(area->name + " is disabled");
   if (area->onPress) {
     // The handler may lay out other areas; the function it runs from must outlive that.
-    RunHandler(session, std::function<void()>(area->onPress));
+    RunAct(session, {area->SpokenName()}, std::function<void()>(area->onPress));
     return;
   }
   const Point at = area->Middle();
   // Down and up in one handler: the page, with the box, lives until it is done.
-  RunHandler(session, [&session, &box, at] {
+  RunAct(session, {area->SpokenName()}, [&session, &box, at] {
     const Page* page = session.pages.Top();
     Mouse(session, box, MouseAct::Down, at.x, at.y, MouseButton::Left);
     if (session.pages.Top() == page && box.Usable()) Mouse(session, box, MouseAct::Up, at.x, at.y, MouseButton::Left);

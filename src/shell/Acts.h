@@ -38,6 +38,13 @@ bool HearsMouse(const PictureBox& box, MouseAct act, f32 x, f32 y, MouseButton b
 
 // Presses a named area of a picture, however the user got there.
 void PressArea(Session& session, PictureBox& box, std::string_view name);
+// Takes back the last change of the design, or makes the one again that was taken back last: the whole record returns
+// (History.h), and the page where the change was made comes up, loaded anew. Throws ActRefused when there is nothing to
+// take back, and while the history is off.
+void Undo(Session& session);
+void Redo(Session& session);
+bool CanUndo(const Session& session);
+bool CanRedo(const Session& session);
 
 // Runs anything as a handler runs: for the start of the program and for what is no control.
 void RunHandler(Session& session, const std::function<void()>& handler);

@@ -30,6 +30,10 @@ class Page {
   // Rebuilds the controls from the session. Runs on every visit, before the page is seen.
   virtual void Load() {}
 
+  // Shows the session as it stands while the page stays, after an undo: nothing of the design before may stay in its
+  // controls and members. A page whose load step repairs the design says how it shows it without.
+  virtual void Reload() { Load(); }
+
   // The window's own close box. Unless a page says otherwise it just closes the page.
   virtual void CloseBox();
 

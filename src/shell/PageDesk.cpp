@@ -45,6 +45,7 @@ Page& PageDesk::Open(PageId id) {
     open_.push_back(factory->second(session_));
   }
   Page& page = *open_.back();
+  const History::Following following(session_);
   page.Load();
   return page;
 }

@@ -8,6 +8,7 @@
 #include "core/RecordFwd.h"
 #include "core/SchematicView.h"
 #include "core/SmithView.h"
+#include "shell/History.h"
 #include "shell/PageDesk.h"
 #include "shell/Platform.h"
 #include "shell/PlotSheet.h"
@@ -48,6 +49,7 @@ class Session {
 
   PlotSheet plot;  // the plot on display
 
+  History history;         // undo and redo
   UniformNumbers random;   // all random numbers of the program come from here
   LongRun* run = nullptr;  // the long run in progress
   std::string note;        // what the last action did, for the status line

@@ -50,6 +50,20 @@ TEST(ReadDesign, EntriesOfAPlainFile) {
   EXPECT_EQ(r.record.NetworkEdited, 0);
 }
 
+TEST(ReadDesign, NoMarkOfTheDesignBeforeStays) {
+  for (const std::string& text : {Head("1 0 0 A 0") + tail, std::string("broken")}) {
+    DesignRecord record;
+    record.NetworkEdited = record.ResponsesValid = record.DesignChanged = 1;
+    record.MatchAccepted = 1;
+    std::istringstream in(text);
+    ReadDesign(in, record);
+    EXPECT_EQ(record.NetworkEdited, 0);
+    EXPECT_EQ(record.MatchAccepted, 0);
+    EXPECT_EQ(record.ResponsesValid, 0);
+    EXPECT_EQ(record.DesignChanged, 0);
+  }
+}
+
 TEST(ReadDesign, FamiliesOutsideOneToSevenAreManual) {
   EXPECT_EQ(Read(Head("8 0 0 A 0") + tail).record.Family, familyManual);
   EXPECT_EQ(Read(Head("0 0 0 A 0") + tail).record.Family, familyManual);

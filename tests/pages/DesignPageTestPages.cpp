@@ -180,7 +180,8 @@ TEST_F(DesignPages, EachFormTakesItsEntry) {
                {PageId::EnterFstopband, "frmEnterFstopband", "txtFstopband", "3M", 3e6F, record.Fstopband}};
   for (const auto& form : forms) {
     SCOPED_TRACE(form.name);
-    record.ResponsesValid = 1;
+    record.NetworkEdited = record.ResponsesValid = 1;
+    record.MatchAccepted = 1;
     InForm(form.id, [this, &form] {
       EXPECT_EQ(Top().Name(), form.name);
       EXPECT_EQ(Top().TakeFocusWish(), Top().Find(form.box));
@@ -190,6 +191,8 @@ TEST_F(DesignPages, EachFormTakesItsEntry) {
     });
     EXPECT_EQ(form.field, form.value);
     EXPECT_EQ(record.ResponsesValid, 0);
+    EXPECT_EQ(record.NetworkEdited, 0);
+    EXPECT_EQ(record.MatchAccepted, 0);
     EXPECT_TRUE(Top().Id() == PageId::Design);
   }
 }

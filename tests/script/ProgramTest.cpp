@@ -64,6 +64,34 @@ TEST_F(Program, RunsTheScriptOnStandardInputFromTheOpeningPage) {
 
 TEST_F(Program, ADashIsStandardInputToo) { EXPECT_EQ(Run("-", "parse 1k\n").Events().back()["value"], 1000.0); }
 
+// A lowpass, and a press of Plot that computes it.
+constexpr const char* lowpass =
+    "press cmdDesignNew\npress optButterworth\npress optCapInLowpass\ntype txtInputTerm 50\ntype txtBandwidth 1M\n"
+    "press cmdPlot\n";
+
+TEST_F(Program, UndoAndRedoTakeTheNetworkWithTheEntry) {
+  const Ended ended = Run("", std::string(lowpass) + "undo\nrecord Width Stages\nredo\nrecord Width Stages\n");
+  EXPECT_EQ(ended.status, 0) << ended.err;
+  const auto events = ended.Events();
+  std::vector<json> records;
+  std::vector<json> shown;
+  for (const json& event : events) {
+    if (event["event"] == "record") records.push_back(event["record"]);
+    if (event["event"] == "show") shown.push_back(event["page"]);
+  }
+  ASSERT_EQ(records.size(), 2U);
+  EXPECT_EQ(records[0], json({{"Width", 0.0}, {"Stages", 0}}));
+  EXPECT_EQ(records[1], json({{"Width", 1e6}, {"Stages", 3}}));
+  // Undo goes back to the page of the entry, where redo then stays.
+  EXPECT_EQ(shown, (std::vector<json>{"frmOpening", "frmDesign", "frmPlotted", "frmDesign"}));
+}
+
+TEST_F(Program, NothingCanBeUndoneInAModalPage) {
+  const Ended ended = Run("", std::string(lowpass) + "press cmdDesign\npress cmdTitle\nundo\n");
+  EXPECT_EQ(ended.status, 1);
+  EXPECT_EQ(json::parse(ended.err)["reason"], "nothing can be undone now");
+}
+
 TEST_F(Program, RunsAFile) {
   std::ofstream(folder / "a script.qsc") << "parse 4.7u\r\n";
   const Ended ended = Run("'a script.qsc'");

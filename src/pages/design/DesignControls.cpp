@@ -89,13 +89,16 @@ DesignControls::DesignControls(Page& page, DesignRecord& record, const std::func
   fraCauerBPFtop.Hold({&optCauerTopNormal, &optCauerTopZigZag});
 }
 
-void DesignControls::Fill() {
+void DesignControls::Settle() {
   // A letter that stands for no design is a network entered by hand.
   if (!record_.Topology.empty() && !IsTopologyLetter(record_.Topology)) {
     SettleByHand(record_);
   }
   WholeOrder(record_);
   DeriveStopband(record_);
+}
+
+void DesignControls::Fill() {
   restingCenter_ = 0;
   txtDesignChange.visible = false;
   lblOrder.caption = "Order (N) [" + std::to_string(record_.OrderMax) + " max]";

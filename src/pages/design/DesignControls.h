@@ -21,6 +21,10 @@ class DesignControls {
   // `onEntry` follows each keystroke in one of the boxes.
   DesignControls(Page& page, DesignRecord& record, const std::function<void()>& onEntry);
 
+  // What a design that comes from elsewhere needs before it is shown: a whole order, the stopband edge of its
+  // prototype, and the manual family when its letter stands for no design.
+  void Settle();
+
   // Rebuilds everything from the record.
   void Fill();
 

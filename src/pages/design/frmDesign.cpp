@@ -77,6 +77,12 @@ void frmDesign::ConnectButtons() {
 }
 
 void frmDesign::Load() {
+  const History::Following following(session_);
+  controls_.Settle();
+  Reload();
+}
+
+void frmDesign::Reload() {
   controls_.Fill();
   session_.familyOption = controls_.families.Chosen();
   navigation_.Load();
@@ -184,6 +190,7 @@ void frmDesign::AddEnds() {
 }
 
 bool frmDesign::MakeNetwork() {
+  const History::Following following(session_);
   ValidateDesign(session_, controls_);
   if (!CheckEntries(session_)) return false;
   ComputeNormalized(session_);

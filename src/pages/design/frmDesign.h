@@ -14,6 +14,7 @@ class frmDesign : public Page {
  public:
   explicit frmDesign(Session& session);
   void Load() override;
+  void Reload() override;
   void CloseBox() override;
   Layout MakeLayout() override;
 
