@@ -117,13 +117,6 @@ BUGS = [
     ),
     Bug(
         "src/files/ReadDesign.cpp",
-        "    record.MatchAccepted = 0;\n    record.ResponsesValid = 0;\n  } catch",
-        "    record.ResponsesValid = 0;\n  } catch",
-        "an accepted match outlives its design",
-        ("test-files",),
-    ),
-    Bug(
-        "src/files/ReadDesign.cpp",
         "<= 0.001F ? whole",
         "<= 0.01F ? whole",
         "steps that are no whole number are rounded to one",

@@ -4,6 +4,7 @@
 #include <QIconEngine>
 #include <QPalette>
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 #include "app/QtCanvas.h"
@@ -78,7 +79,7 @@ QIcon SignIcon(const Picture& picture) { return QIcon(new SignEngine(picture)); 
 
 QSize SignSize(const Picture& picture, int height) {
   const f64 proportion = static_cast<f64>(picture.ScaleWidth) / static_cast<f64>(picture.ScaleHeight);
-  return QSize(std::max(1, static_cast<int>(height * proportion + 0.5)), height);
+  return QSize(std::max(1, static_cast<int>(std::lround(height * proportion))), height);
 }
 
 }  // namespace quilm

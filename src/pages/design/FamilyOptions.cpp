@@ -31,7 +31,7 @@ void FamilyOptions::Enable(bool enabled) {
   for (const auto& option : options_) option->enabled = enabled;
 }
 
-void FamilyOptions::OnChoice(std::function<void(i16 family)> act) {
+void FamilyOptions::OnChoice(const std::function<void(i16 family)>& act) {
   for (std::size_t i = 0; i < options_.size(); ++i) {
     options_[i]->onClick = [act, code = FamilyRules()[i].code] { act(code); };
   }

@@ -23,7 +23,7 @@ class FamilyOptions {
   void Enable(bool enabled);
 
   // Runs after the user has chosen.
-  void OnChoice(std::function<void(i16 family)> act);
+  void OnChoice(const std::function<void(i16 family)>& act);
 
   const std::vector<std::unique_ptr<OptionButton>>& Options() const { return options_; }
 

@@ -51,7 +51,7 @@ void TopologyOptions::OfferFor(i16 family) {
   }
 }
 
-void TopologyOptions::OnChoice(std::function<void(const std::string& letter)> act) {
+void TopologyOptions::OnChoice(const std::function<void(const std::string& letter)>& act) {
   for (int number = 1; number <= topologyCount; ++number) {
     Option(number).onClick = [act, letter = TopologyLetter(number)] { act(letter); };
   }

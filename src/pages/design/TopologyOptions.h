@@ -32,7 +32,7 @@ class TopologyOptions {
   void OfferFor(i16 family);
 
   // Runs after the user has chosen.
-  void OnChoice(std::function<void(const std::string& letter)> act);
+  void OnChoice(const std::function<void(const std::string& letter)>& act);
 
  private:
   OptionGroup group_;
