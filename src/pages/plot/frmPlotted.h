@@ -20,7 +20,7 @@ class frmPlotted : public Page {
 
   NavigationRow navigation;
   std::vector<std::unique_ptr<Button>> plotButtons;  // cmd1 to cmd12
-  PictureBox picPlot;  // shows the sheet of the session
+  PictureBox picPlot;                                // shows the sheet of the session
   SmithControls smithControls;
 
   Button cmdAutoScale{*this, "cmdAutoScale", "AutoScale", "Set the scales from the response"};
