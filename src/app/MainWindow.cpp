@@ -13,6 +13,7 @@
 #include "app/PageView.h"
 #include "app/QtText.h"
 #include "shell/Acts.h"
+#include "shell/History.h"
 #include "shell/Session.h"
 
 namespace quilm {

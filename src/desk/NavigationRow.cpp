@@ -2,6 +2,7 @@
 
 #include "desk/modCheckEntries.h"
 #include "schematic/Icons.h"
+#include "shell/History.h"
 #include "shell/Session.h"
 
 namespace quilm {

@@ -22,7 +22,7 @@ bool Refuse(Session& session, const char* text, std::string_view focus) {
 }  // namespace
 
 bool ComputeReals(Session& session) {
-  if (NetworkStands(session.record)) return true;
+  if (NetworkStands(session.identity)) return true;
   if (session.entries.Width == 0) {
     return Refuse(session, "We need a bandwidth entry; please enter the bandwidth", "txtBandwidth");
   }

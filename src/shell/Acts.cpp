@@ -3,6 +3,7 @@
 #include <exception>
 
 #include "core/modGeneral.h"
+#include "shell/History.h"
 #include "shell/Page.h"
 #include "shell/Session.h"
 

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "core/Fault.h"
+#include "shell/History.h"
 #include "shell/Page.h"
 #include "shell/PageLock.h"
 #include "shell/Platform.h"

@@ -3,6 +3,7 @@
 #include "core/Configuration.h"
 #include "core/DesignRecord.h"
 #include "core/Responses.h"
+#include "shell/History.h"
 
 namespace quilm {
 
@@ -10,6 +11,7 @@ struct Session::Held {
   DesignRecord record;
   Responses responses;
   Configuration configuration;
+  History history;
 };
 
 Session::Session(Platform& runsOn, PageDirectory directory)
@@ -21,6 +23,7 @@ Session::Session(Platform& runsOn, PageDirectory directory)
       sweep(record),
       responses(held_->responses),
       configuration(held_->configuration),
+      history(held_->history),
       familyOption(familyNone),
       platform(runsOn),
       pages(*this, std::move(directory)) {}

@@ -8,7 +8,6 @@
 #include "core/RecordFwd.h"
 #include "core/SchematicView.h"
 #include "core/SmithView.h"
-#include "shell/History.h"
 #include "shell/PageDesk.h"
 #include "shell/Platform.h"
 #include "shell/PlotSheet.h"
@@ -16,6 +15,7 @@
 
 namespace quilm {
 
+class History;
 class LongRun;
 
 // The program ends at once: unwinds whatever runs, back to the dispatcher of events.
@@ -38,6 +38,7 @@ class Session {
 
   Responses& responses;
   Configuration& configuration;  // the settings as they were read at start
+  History& history;              // undo and redo
 
   // The family option that stands on the Design page, which the prototype routines read; kept here so that it is
   // known when the page is not loaded.
@@ -49,7 +50,6 @@ class Session {
 
   PlotSheet plot;  // the plot on display
 
-  History history;         // undo and redo
   UniformNumbers random;   // all random numbers of the program come from here
   LongRun* run = nullptr;  // the long run in progress
   std::string note;        // what the last action did, for the status line

@@ -41,7 +41,8 @@ DesignRecord OneStage(i16 type) {
 
 FrequencyResult Analyze(const DesignRecord& record, f64 frequency) {
   FrequencyResult result;
-  AnalyzeFrequency(record, Compile(record, QualityFrequency(record)), 0, 0, static_cast<f32>(frequency), result);
+  AnalyzeFrequency(record, Compile(record, QualityFrequency(record, record)), 0, 0, static_cast<f32>(frequency),
+                   result);
   return result;
 }
 

@@ -166,12 +166,12 @@ TEST_F(Sweep, AFailingPointRepeatsTheFormerFigures) {
 
 TEST_F(Sweep, TheFrequencyOfQ) {
   DesignRecord record = Attenuator();
-  EXPECT_EQ(QualityFrequency(record), 1e6F);
+  EXPECT_EQ(QualityFrequency(record, record), 1e6F);
   record.Fcenter = 3e6F;
-  EXPECT_EQ(QualityFrequency(record), 3e6F);
+  EXPECT_EQ(QualityFrequency(record, record), 3e6F);
   record.Fcenter = 0;
   record.Width = 0;
-  EXPECT_NEAR(QualityFrequency(record), std::sqrt(2e12), 1);
+  EXPECT_NEAR(QualityFrequency(record, record), std::sqrt(2e12), 1);
 }
 
 TEST_F(Sweep, ALineOf90Point0001DegreesReads90Afterwards) {

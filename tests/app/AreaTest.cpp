@@ -60,7 +60,7 @@ TEST_F(Areas, ArrowsGoToTheNeighbourAndKeysPress) {
   Key(Qt::Key_Return);
   Key(Qt::Key_Down);
   Key(Qt::Key_Enter);
-  EXPECT_THAT(Demo().log, ElementsAre("B", "A", "down 20 60"));
+  EXPECT_THAT(Demo().log, ElementsAre("B", "A", "down 20 60", "up left"));
 }
 
 TEST_F(Areas, AMarkStandsAroundTheOneInFocus) {

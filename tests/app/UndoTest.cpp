@@ -3,6 +3,7 @@
 
 #include "DemoPages.h"
 #include "app/HistoryButton.h"
+#include "core/DesignRecord.h"
 
 namespace quilm {
 namespace {

@@ -1,5 +1,6 @@
 // Undo and redo in the whole program, by the keyboard.
 #include "app/WalkBench.h"
+#include "core/DesignRecord.h"
 
 namespace quilm {
 namespace {

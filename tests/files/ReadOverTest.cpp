@@ -26,7 +26,6 @@ void TakeProgramFields(DesignRecord& record, const DesignRecord& from) {
   record.Units = from.Units;
   record.TopologyHelpCode = from.TopologyHelpCode;
   record.DesignFileName = from.DesignFileName;
-  record.DesignChanged = from.DesignChanged;
   record.DelayBottom = from.DelayBottom;
   record.MagnifyMode = from.MagnifyMode;
   record.PlotLineWidth = from.PlotLineWidth;
@@ -155,7 +154,6 @@ TEST(ReadOver, TheProgramsOwnFieldsStay) {
   record.Units = 2;
   record.TopologyHelpCode = 7;
   record.DesignFileName = "former.QLM";
-  record.DesignChanged = 1;
   record.DelayBottom = 1e-6F;
   record.MagnifyMode = 1;
   record.PlotLineWidth = 3;

@@ -1,6 +1,8 @@
 // The Design page with its entry forms, and plain pages in the places of those that it leads to.
 #pragma once
 
+#include "core/Configuration.h"
+#include "core/DesignRecord.h"
 #include "pages/PageBench.h"
 #include "pages/design/EntryForms.h"
 #include "pages/design/frmDesign.h"

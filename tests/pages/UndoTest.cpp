@@ -3,6 +3,7 @@
 #include "desk/StartUp.h"
 #include "pages/PageBench.h"
 #include "pages/PageDirectory.h"
+#include "shell/History.h"
 
 namespace quilm {
 namespace {

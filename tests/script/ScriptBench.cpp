@@ -1,5 +1,7 @@
 #include "script/ScriptBench.h"
 
+#include "core/Fault.h"
+
 namespace quilm {
 
 BenchPage::BenchPage(Session& session, Log& heard) : Page(session, PageId::Design, "Bench"), log(heard) {

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "core/DesignRecord.h"
 #include "shell/LongRun.h"
 #include "shell/Page.h"
 #include "shell/Session.h"

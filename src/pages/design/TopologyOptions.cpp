@@ -1,5 +1,6 @@
 #include "pages/design/TopologyOptions.h"
 
+#include "core/Identity.h"
 #include "pages/design/FamilyRules.h"
 #include "schematic/LadderPicture.h"
 #include "synthesis/DesignSummary.h"

@@ -13,6 +13,7 @@
 #include "pages/design/FamilyRules.h"
 #include "pages/design/ValidateDesign.h"
 #include "schematic/Icons.h"
+#include "shell/History.h"
 #include "shell/Session.h"
 #include "synthesis/EndSections.h"
 #include "synthesis/modNormalized.h"
