@@ -110,8 +110,9 @@ class AccessiblePicture : public QAccessibleWidget {
   }
 
   QAccessibleInterface* focusChild() const override {
-    if (!areas_ || !areas_->Present() || !widget()->hasFocus()) return nullptr;
-    return child(static_cast<int>(*areas_->Present()));
+    if (!areas_ || !widget()->hasFocus()) return nullptr;
+    const auto present = areas_->Present();
+    return present ? child(static_cast<int>(*present)) : nullptr;
   }
 
  private:

@@ -34,7 +34,7 @@ class SignCanvas : public QtCanvas {
 
 class SignEngine : public QIconEngine {
  public:
-  explicit SignEngine(Picture picture) : picture_(std::move(picture)) {}
+  explicit SignEngine(const Picture& picture) : picture_(picture) {}
 
   QIconEngine* clone() const override { return new SignEngine(picture_); }
 

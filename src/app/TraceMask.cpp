@@ -180,7 +180,8 @@ void TraceMask::AddRow(const Line& line, int row) {
       const f32 distance = std::sqrt(across * across + below * below);
       const f32 covered = std::min(std::max(line.reach - distance, 0.0F), 1.0F);
       constexpr f32 whole = 255;
-      cover[i] = std::max(cover[i], static_cast<std::uint8_t>(covered * whole + 0.5F));
+      constexpr f32 toNearest = 0.5F;
+      cover[i] = std::max(cover[i], static_cast<std::uint8_t>(covered * whole + toNearest));
     }
     x += count;
   }

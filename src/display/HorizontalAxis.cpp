@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "core/NumericFault.h"
+#include "core/Sweep.h"
 
 namespace quilm {
 

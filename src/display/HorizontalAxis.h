@@ -4,7 +4,7 @@
 #include <span>
 
 #include "core/AxisPlaces.h"
-#include "core/Sweep.h"
+#include "core/RecordFwd.h"
 
 namespace quilm {
 

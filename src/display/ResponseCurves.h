@@ -5,8 +5,8 @@
 #include <variant>
 #include <vector>
 
+#include "core/RecordFwd.h"
 #include "core/Responses.h"
-#include "core/Sweep.h"
 
 namespace quilm {
 

@@ -1,7 +1,7 @@
 // The readout under the mouse: every response at one sweep point, and a mark on each trace.
 #pragma once
 
-#include "core/Sweep.h"
+#include "core/RecordFwd.h"
 #include "display/PlotSetup.h"
 #include "display/ResponseCurves.h"
 #include "shell/Canvas.h"

@@ -68,7 +68,8 @@ PageId History::StepBack(Session& session) {
     GoTo(session, at_ - 1, step.record, step.found);
     return step.page;
   }
-  const OpenGroup group = *std::exchange(group_, std::nullopt);
+  const OpenGroup group = *group_;
+  group_.reset();
   GoTo(session, group.base, session.record, session.record);
   DropRedo();
   return group.page;
@@ -149,7 +150,7 @@ void History::TakeStep(const Session& session) {
 
 void History::AddStep(std::string what) {
   DropRedo();
-  places_.push_back({{}, act_.found, familyNone, std::move(what), *act_.page});
+  places_.push_back({{}, act_.found, familyNone, std::move(what), act_.page.value_or(PageId::Opening)});
   ++at_;
   if (at_ <= mostSteps) return;
   places_.pop_front();

@@ -7,6 +7,7 @@ namespace quilm {
 Picture::Picture(const Picture& other) : Recorder(other), drawing_(std::make_shared<PictureOps>(*other.drawing_)) {}
 
 Picture& Picture::operator=(const Picture& other) {
+  if (this == &other) return *this;
   Recorder::operator=(other);
   drawing_ = std::make_shared<PictureOps>(*other.drawing_);
   return *this;

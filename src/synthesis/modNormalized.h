@@ -47,8 +47,8 @@ Messages ComputeGaussian12(DesignRecord& record);
 Messages ComputePrototype(DesignRecord& record, i16 family);
 
 // Computes the prototype of the family option that stands on the Design page (session.familyOption, not Family), after
-// holding Order to OrderMax, and shows the messages. When the network stands (NetworkStands), only the order is held. The order box of
-// the page is not rewritten.
+// holding Order to OrderMax, and shows the messages. When the network stands (NetworkStands), only the order is held.
+// The order box of the page is not rewritten.
 void ComputeNormalized(Session& session);
 
 }  // namespace quilm

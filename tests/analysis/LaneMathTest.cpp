@@ -1,5 +1,7 @@
-// The functions of packs against the library's in extended precision. Each test states the largest error in units of
-// the last place; it was found by the test itself over some hundred thousand numbers, and rounded up.
+// The functions of packs against the library's in extended precision, over some hundred thousand numbers. Each test
+// bounds the error in units of the last place: by one to two and a half, what a minimax polynomial leaves with the
+// roundings of the steps around it. The outputs rest in 32 bits, of which one is half a thousand million of these
+// units.
 
 #include <gtest/gtest.h>
 

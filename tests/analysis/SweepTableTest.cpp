@@ -76,6 +76,17 @@ TEST(SweepTable, AFailureKeepsNothing) {
   EXPECT_TRUE(SamePoints(*table, *fresh));
 }
 
+// The last of its frequencies fails, when the others have been written already.
+TEST(SweepTable, AFailureHalfwayIsNotTakenForTheTableBefore) {
+  auto table = std::make_unique<SweepTable>();
+  KeepTable(*table, settings);
+  EXPECT_THROW(KeepTable(*table, {2, 1, 3e38F, 0.6F}), NumericFault);
+  KeepTable(*table, settings);
+  auto fresh = std::make_unique<SweepTable>();
+  KeepTable(*fresh, settings);
+  EXPECT_TRUE(SamePoints(*table, *fresh));
+}
+
 TEST(SweepTable, AFrequencyBeyond32BitsIsAFailure) {
   auto table = std::make_unique<SweepTable>();
   // One interval of 0.6: the second point lies at 1.67 times the way.

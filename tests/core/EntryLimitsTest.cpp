@@ -6,6 +6,7 @@
 #include <limits>
 #include <string>
 
+#include "core/Responses.h"
 #include "core/modGeneral.h"
 
 namespace quilm {
@@ -76,6 +77,10 @@ TEST(EntryLimits, NotANumberIsHeldAtTheLowerEnd) {
   const f32 nan = std::numeric_limits<f32>::quiet_NaN();
   EXPECT_FALSE(limitsOf::NrIntervals.Contain(nan));
   EXPECT_EQ(limitsOf::NrIntervals.Held(nan), 4);
+}
+
+TEST(EntryLimits, TheLongestSweepFillsTheResponses) {
+  EXPECT_EQ(limitsOf::NrIntervals.highest, static_cast<f32>(responseBound));
 }
 
 // The largest f32 that a starting frequency may be, as it prints in full.

@@ -166,7 +166,7 @@ TEST_F(TextFile, LinksInACircleFail) {
 
 TEST_F(TextFile, PermissionsStay) {
   WriteTextFile(Path(), "old");
-  for (const mode_t mode : {0600, 0640, 0664, 0755}) {
+  for (const mode_t mode : {0600U, 0640U, 0664U, 0755U}) {
     ASSERT_EQ(chmod(Path().c_str(), mode), 0);
     EXPECT_TRUE(WriteTextFile(Path(), "new"));
     struct stat now {};

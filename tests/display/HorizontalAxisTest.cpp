@@ -1,5 +1,7 @@
 #include "display/HorizontalAxis.h"
 
+#include "core/Sweep.h"
+
 #include <gtest/gtest.h>
 
 #include <vector>

@@ -119,6 +119,18 @@ TEST(DesignText, WritingChangesTheRecordInSmallWays) {
   EXPECT_EQ(record.stage[1].TLval.degrees, 1e-6F);
 }
 
+// Open in its path or short across it, a stub of no length would stop the network; the others do no harm.
+TEST(DesignText, StubsThatWouldStopTheNetworkKeepALength) {
+  DesignRecord record = PlainDesign();
+  const i16 types[] = {SeriesShortStub, SeriesOpenStub, ShuntShortStub, ShuntOpenStub};
+  for (const i16 type : types) record.stage[++record.Stages].ElementType = type;
+  DesignText(record, date);
+  EXPECT_EQ(record.stage[1].TLval.degrees, 0);
+  EXPECT_EQ(record.stage[2].TLval.degrees, 1e-6F);
+  EXPECT_EQ(record.stage[3].TLval.degrees, 1e-6F);
+  EXPECT_EQ(record.stage[4].TLval.degrees, 0);
+}
+
 TEST(DesignText, CauerCodes) {
   struct Row {
     i16 flag;

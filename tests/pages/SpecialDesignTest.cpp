@@ -20,7 +20,7 @@ class SpecialDesign : public PageBench {
 
   // Presses a button that opens a modal page, on which `act` is done.
   void PressAndThen(const std::string& button, PageId page, std::function<void()> act) {
-    platform.modalActs.push_back([this, page, act](Page& opened) {
+    platform.modalActs.push_back([page, act](Page& opened) {
       EXPECT_EQ(opened.Id(), page);
       act();
     });

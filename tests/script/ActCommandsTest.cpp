@@ -42,7 +42,8 @@ TEST(Type, AKeyGoesToTheEndOfWhatTheHandlerPutThere) {
 }
 
 TEST(Focus, MovingOnLeavesTheBoxFirst) {
-  for (const char* next : {"press cmdLog", "type txtShort 1", "spin UpDown1 up", "choose lstLines 1", "close"}) {
+  for (const char* next :
+       {"press cmdLog", "type txtShort 1", "spin UpDown1 up", "choose lstLines 1", "close", "undo", "redo"}) {
     const Outcome outcome = RunText("type txtValue 5\n" + std::string(next));
     ASSERT_GE(outcome.log.size(), 2U) << next;
     EXPECT_EQ(outcome.log[1], "leave [5]") << next;

@@ -435,6 +435,23 @@ TEST_F(HistoryTest, ALoadStepCannotTouchWhatComesBack) {
   EXPECT_EQ(record().Astop, 0);
 }
 
+TEST_F(HistoryTest, ALoadStepCannotTouchTheFamilyOptionThatComesBack) {
+  session.familyOption = familyBessel;
+  SetOrder(3);
+  Do([this] {
+    session.pages.ShowPage(PageId::Plotted);
+    session.pages.UnloadPage(PageId::Design);
+  });
+  int loads = 0;
+  bench.prepare = [&](BenchPage& made) {
+    made.onLoad = [this, &loads] {
+      if (++loads == 1) session.familyOption = familyCauer;
+    };
+  };
+  Undo(session);
+  EXPECT_EQ(session.familyOption, familyBessel);
+}
+
 TEST_F(HistoryTest, ItIsOffWhileAHandlerRuns) {
   SetOrder(3);
   Do([this] {
@@ -503,6 +520,19 @@ TEST_F(HistoryToolTest, UndoGoesNoFurtherBackThanToItsOpening) {
   EXPECT_TRUE(CanUndo(session));
   Undo(session);
   EXPECT_EQ(record().Apass, 0);
+}
+
+// Its first step then drops the oldest one, and its opening lies a place further down.
+TEST_F(HistoryToolTest, InAFullHistoryUndoGoesBackToItsOpeningToo) {
+  for (int i = 1; i <= 200; ++i) SetOrder(static_cast<f32>(i));
+  OpenTool([this](BenchPage& tool) {
+    Tune(tool, 10);
+    ASSERT_TRUE(CanUndo(session));
+    Undo(session);
+    EXPECT_EQ(record().Width, 0);
+    EXPECT_EQ(record().Apass, 1);
+    EXPECT_FALSE(CanUndo(session));
+  });
 }
 
 TEST_F(HistoryToolTest, ItsStepsCanBeTakenBackWhenItHasClosed) {
@@ -578,6 +608,16 @@ TEST_F(HistoryGroupTest, ItsActsAreTakenBackAsOne) {
   EXPECT_EQ(record().Order, 3);
   Redo(session);
   EXPECT_EQ(record().stage[1].Cval.value, 5);
+}
+
+TEST_F(HistoryGroupTest, ItsActsAreTakenBackAsOneInAFullHistoryToo) {
+  for (int i = 1; i <= 200; ++i) SetOrder(static_cast<f32>(i));
+  Begin();
+  GoOn();
+  Accept();
+  Undo(session);
+  EXPECT_EQ(record().Stages, 0);
+  EXPECT_EQ(record().Order, 200);
 }
 
 TEST_F(HistoryGroupTest, UndoMeanwhileTakesAllOfItBack) {

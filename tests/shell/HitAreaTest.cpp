@@ -48,6 +48,13 @@ TEST(AreaToward, EndsAtTheEdge) {
   EXPECT_EQ(AreaToward(areas, 5, Direction::Right), std::nullopt);
 }
 
+TEST(AreaToward, PrefersWhatLiesAheadToWhatIsNearerAside) {
+  const HitAreas areas = {{"start", {0, 0}, {10, 10}, "", true, {}},
+                          {"aside", {40, 50}, {50, 60}, "", true, {}},
+                          {"ahead", {0, 100}, {10, 110}, "", true, {}}};
+  EXPECT_EQ(AreaToward(areas, 0, Direction::Down), 2U);
+}
+
 TEST(AreaToward, PassesOverWhatIsDisabled) {
   HitAreas areas = Palette();
   areas[1].enabled = false;

@@ -27,7 +27,7 @@ TEST(LiveLayer, HoldsWhatWasDrawnInOrder) {
 
 TEST(LiveLayer, DropsTheOldestBeyondItsBound) {
   LiveLayer layer(30);
-  for (const Color color : {1, 2, 3, 4}) Trace(layer, 10, color);
+  for (const Color color : {1U, 2U, 3U, 4U}) Trace(layer, 10, color);
   EXPECT_EQ(layer.Present().dropped, 1U);
   EXPECT_EQ(layer.Present().Drawn(), 4U);
   ASSERT_EQ(layer.Present().kept.size(), 3U);
