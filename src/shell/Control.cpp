@@ -122,7 +122,9 @@ Timer::Timer(Page& page, std::string timerName, i32 milliseconds)
 }
 
 PictureBox::PictureBox(Page& page, std::string boxName, std::string accessible)
-    : PictureBox(page, std::move(boxName), std::move(accessible), own_, ownLive_) {}
+    : Control(page, ControlKind::Picture, std::move(boxName)), picture(own_), live(ownLive_) {
+  accessibleName = std::move(accessible);
+}
 
 PictureBox::PictureBox(Page& page, std::string boxName, std::string accessible, Picture& shown, LiveLayer& over)
     : Control(page, ControlKind::Picture, std::move(boxName)), picture(shown), live(over) {
