@@ -18,7 +18,8 @@
 #include "analysis/modAnalysis.h"
 #include "app/PictureView.h"
 #include "core/Responses.h"
-#include "display/modPlot.h"
+#include "display/HorizontalAxis.h"
+#include "display/SheetDrawing.h"
 #include "shell/LiveLayer.h"
 #include "shell/Picture.h"
 #include "support/RandomLadder.h"
@@ -62,7 +63,9 @@ class Plot {
     Show();
   }
 
-  void Draw() { DrawPlot(record, *responses, plotCode, TraceColors{}, picture); }
+  void Draw() {
+    DrawSheet({HorizontalAxis(record), record, {}, {}, 50}, SpansOf(*responses, LastPoint(record)), places_, picture);
+  }
 
   // A ripple that runs through the plot, another one each time.
   void DrawTrial(Canvas& canvas) {
@@ -87,6 +90,7 @@ class Plot {
   PictureView view;
 
  private:
+  AxisPlaces places_;
   std::vector<Point> trace_{points};
   int trial_ = 0;
 };
