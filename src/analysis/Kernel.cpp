@@ -6,7 +6,7 @@
 #include <string_view>
 
 #include "analysis/KernelVariants.h"
-#include "core/Responses.h"
+#include "core/ResponseArray.h"
 
 namespace quilm {
 

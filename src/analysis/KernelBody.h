@@ -4,7 +4,7 @@
 #include "analysis/KernelFinish.h"
 #include "analysis/KernelResults.h"
 #include "analysis/KernelVariants.h"
-#include "core/Responses.h"
+#include "core/ResponseArray.h"
 
 namespace quilm {
 

@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "core/NumericFault.h"
+#include "core/Responses.h"
 #include "core/Sweep.h"
 
 namespace quilm {

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "core/RecordFwd.h"
-#include "core/Responses.h"
+#include "core/Types.h"
 
 namespace quilm {
 

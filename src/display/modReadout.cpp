@@ -7,6 +7,7 @@
 
 #include "core/Fault.h"
 #include "core/NumericFault.h"
+#include "core/ResponseArray.h"
 #include "core/Sweep.h"
 #include "core/modGeneral.h"
 #include "display/PlotKinds.h"

@@ -5,6 +5,8 @@
 #include <initializer_list>
 #include <memory>
 
+#include "core/Responses.h"
+
 namespace quilm {
 namespace {
 

@@ -5,6 +5,7 @@
 #include <memory>
 
 #include "core/Fault.h"
+#include "core/Responses.h"
 
 namespace quilm {
 namespace {

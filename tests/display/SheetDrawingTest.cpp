@@ -7,6 +7,7 @@
 #include <array>
 #include <vector>
 
+#include "core/Responses.h"
 #include "display/PlotKinds.h"
 #include "display/modSmith.h"
 #include "shell/HeadlessPlatform.h"

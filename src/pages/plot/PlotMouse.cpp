@@ -1,6 +1,7 @@
 #include "pages/plot/PlotMouse.h"
 
 #include "core/DesignRecord.h"
+#include "core/ResponseArray.h"
 #include "display/SheetDrawing.h"
 #include "display/modReadout.h"
 #include "shell/Session.h"
