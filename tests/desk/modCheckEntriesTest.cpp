@@ -37,6 +37,17 @@ TEST(CheckEntries, TheFirstFailureEndsTheCheck) {
   EXPECT_EQ(bench.record.SweepMode, 0);
 }
 
+TEST(CheckEntries, TheCaretGoesToTheFailureNotToARepairToldBefore) {
+  DesignBench bench;
+  bench.record = Sound();
+  bench.record.Order = 22;
+  bench.record.Width = 0;
+  EXPECT_FALSE(CheckEntries(bench.session));
+  ASSERT_THAT(bench.platform.messages, SizeIs(2));
+  EXPECT_EQ(bench.platform.messages[1].title, "Error checker 53");
+  EXPECT_EQ(bench.Focus(), "txtBandwidth");
+}
+
 TEST(CheckEntries, ADesignPageOnTopIsNotLoadedAgain) {
   DesignBench bench;
   bench.session.pages.ShowPage(PageId::Design);
