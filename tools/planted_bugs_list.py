@@ -47,6 +47,20 @@ BUGS = [
     ),
     Bug(
         "src/core/TextFile.cpp",
+        "IsThere(file) && file.Lock()",
+        "IsThere(file)",
+        "the temporary file of a writer on another machine is taken away",
+        ("test-core",),
+    ),
+    Bug(
+        "src/core/TextFile.cpp",
+        "kill(writer, 0) == 0 || errno != ESRCH",
+        "false",
+        "the temporary file of a living process is taken away",
+        ("test-core",),
+    ),
+    Bug(
+        "src/core/TextFile.cpp",
         "fchmod(fd, old.st_mode & permissionBits) == 0",
         "true",
         "a file that is replaced loses its permissions",

@@ -12,16 +12,28 @@ enum class OnFailure {
   KeepWhatWasWritten,  // the new text as far as it got
 };
 
-// Replaces the file at `path`, or makes it, with `text` byte for byte. False when that failed, for whatever reason: no
-// such folder, no permission, a full disk, a limit on the size of files.
+// True when the file is written.
+struct WriteOutcome {
+  std::string failure = {};  // why it is not, in words for the user
+  explicit operator bool() const { return failure.empty(); }
+};
+
+// Replaces the file at `path`, or makes it, with `text` byte for byte. Fails for whatever reason: no such folder, no
+// permission, a full disk, a limit on the size of files.
 //
 // KeepOldFile writes to a temporary file beside the old one, flushes it to the disk and renames it, so that whoever
 // reads, a second instance or the next start after a power failure, finds the old text or the new one and never a part.
-// Of several writers at once the last to end wins. It needs a folder in which files can be made; a failure leaves no
-// temporary file behind, a kill can leave one. An old file keeps its permissions, and one that is protected against
+// Of several writers at once the last to end wins. An old file keeps its permissions, and one that is protected against
 // writing is not replaced. A symbolic link stays, and what it leads to is replaced.
 //
+// It needs a folder in which files can be made. Where none can, a file that could be written in place is left as it is:
+// a kill halfway would cost the user the old text and the new one, a failure that is told costs a second choice of
+// folder.
+//
+// A failure leaves no temporary file behind. A kill can leave one, which the next write in that folder takes away.
+//
 // What is no regular file, such as a pipe or a terminal, has no text to lose and is written to as it stands.
-bool WriteTextFile(const std::string& path, std::string_view text, OnFailure onFailure = OnFailure::KeepOldFile);
+WriteOutcome WriteTextFile(const std::string& path, std::string_view text,
+                           OnFailure onFailure = OnFailure::KeepOldFile);
 
 }  // namespace quilm

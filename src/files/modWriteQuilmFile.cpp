@@ -1,6 +1,7 @@
 #include "files/modWriteQuilmFile.h"
 
 #include <cstdio>
+#include <filesystem>
 
 #include "core/Identity.h"
 #include "core/Network.h"
@@ -39,7 +40,10 @@ bool modWriteQuilmFile(Session& session) {
     throw ProgramEnd{};
   }
   const std::string text = DesignText(session.record, ShortDate(session.platform.Now()));
-  if (WriteTextFile(session.identity.DesignFileName, text)) return true;
+  const std::string& path = session.identity.DesignFileName;
+  const WriteOutcome outcome = WriteTextFile(path, text);
+  if (outcome) return true;
+  session.note = "Nothing was written to " + std::filesystem::path(path).filename().string() + ": " + outcome.failure;
   session.platform.Beep();
   return false;
 }

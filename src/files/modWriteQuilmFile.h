@@ -7,8 +7,8 @@ namespace quilm {
 
 class Session;
 
-// Writes the design to DesignFileName, over any file there. False when that failed: after a beep, without a message and
-// with the old file as it was.
+// Writes the design to DesignFileName, over any file there. False when that failed: after a beep, without a message,
+// with the reason in the status line and with the old file as it was.
 //
 // With no network the program waits a moment and ends. The ways out of the program rest on it: a run that designed
 // nothing leaves through the same call, and a save with no design ends likewise.

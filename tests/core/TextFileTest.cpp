@@ -1,6 +1,10 @@
 #include "core/TextFile.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sched.h>
+#include <sys/file.h>
+#include <sys/mount.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
@@ -60,7 +64,7 @@ class TextFile : public testing::Test {
 // As on a disk that is full beyond so many bytes.
 bool WithFileSizeLimit(rlim_t bytes, const std::string& path, const std::string& text, OnFailure onFailure) {
   const rlimit limit{bytes, bytes};
-  return setrlimit(RLIMIT_FSIZE, &limit) == 0 && WriteTextFile(path, text, onFailure);
+  return setrlimit(RLIMIT_FSIZE, &limit) == 0 && static_cast<bool>(WriteTextFile(path, text, onFailure));
 }
 
 constexpr rlim_t limitOfSize = 4096;
@@ -118,6 +122,48 @@ TEST_F(TextFile, AFullDiskFailsInBothModes) {
   EXPECT_FALSE(WriteTextFile("/dev/full", "text", OnFailure::KeepOldFile));
   EXPECT_FALSE(WriteTextFile("/dev/full", "text", OnFailure::KeepWhatWasWritten));
   EXPECT_TRUE(fs::is_character_file("/dev/full"));
+}
+
+// A file system of its own with room for so many bytes, in name spaces that end with the process. False where that is
+// not allowed.
+bool MountSmallDisk(const std::string& folder, int bytes) {
+  const bool apart = geteuid() == 0 ? unshare(CLONE_NEWNS) == 0 : unshare(CLONE_NEWUSER | CLONE_NEWNS) == 0;
+  const std::string size = "size=" + std::to_string(bytes);
+  return apart && mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
+         mount("tmpfs", folder.c_str(), "tmpfs", 0, size.c_str()) == 0;
+}
+
+TEST_F(TextFile, OnAFullFileSystemTheOldFileStaysAndTheReasonIsTold) {
+  enum Result { Kept, Wrong, NoMount };
+  const pid_t child = fork();
+  if (child == 0) {
+    if (!MountSmallDisk(folder.string(), 64 * 1024)) _exit(NoMount);
+    const bool first = static_cast<bool>(WriteTextFile(Path(), "old"));
+    const WriteOutcome second = WriteTextFile(Path(), longText);
+    const bool kept = second.failure == "the disk is full" && Read(Path()) == "old" && Names().size() == 1;
+    // There is room again for what fits.
+    _exit(first && kept && WriteTextFile(Path(), "new") ? Kept : Wrong);
+  }
+  int status = 0;
+  waitpid(child, &status, 0);
+  ASSERT_TRUE(WIFEXITED(status));
+  if (WEXITSTATUS(status) == NoMount) {
+    GTEST_SKIP() << "no file system can be mounted here; a full one is tried by /dev/full and the limit of file sizes";
+  }
+  EXPECT_EQ(WEXITSTATUS(status), Kept);
+}
+
+TEST_F(TextFile, TheFailureSaysWhatIsInTheWay) {
+  EXPECT_EQ(WriteTextFile("/dev/full", "text").failure, "the disk is full");
+  EXPECT_EQ(WriteTextFile(Path("no/such.QLM"), "text").failure, "there is no such folder");
+  fs::create_directory(Path());
+  EXPECT_EQ(WriteTextFile(Path(), "text").failure, "it is a folder");
+  EXPECT_EQ(WriteTextFile(Path("b.QLM"), "text").failure, "");
+  EXPECT_TRUE(InAProcess([&] {
+    const rlimit limit{limitOfSize, limitOfSize};
+    setrlimit(RLIMIT_FSIZE, &limit);
+    return WriteTextFile(Path("c.QLM"), longText).failure == "the file would grow beyond the limit set for this user";
+  }));
 }
 
 TEST_F(TextFile, AFolderIsNotReplaced) {
@@ -188,7 +234,7 @@ TEST_F(TextFile, ANewFileFollowsTheUsersMask) {
 bool AsAUser(const std::string& path) {
   constexpr uid_t nobody = 65534;
   if (geteuid() == 0 && (setegid(nobody) != 0 || seteuid(nobody) != 0)) return true;
-  return WriteTextFile(path, "new");
+  return static_cast<bool>(WriteTextFile(path, "new"));
 }
 
 TEST_F(TextFile, AProtectedFileIsNotReplaced) {
@@ -208,18 +254,113 @@ TEST_F(TextFile, AProtectedFolderKeepsItsFile) {
   EXPECT_EQ(Names(), std::vector<std::string>{"a.QLM"});
 }
 
+TEST_F(TextFile, ProtectionOfTheFileAndOfItsFolderAreToldApart) {
+  WriteTextFile(Path(), "old");
+  WriteTextFile(Path("b.QLM"), "old");
+  fs::permissions(Path(), fs::perms(0666));
+  fs::permissions(Path("b.QLM"), fs::perms(0444));
+  fs::permissions(folder, fs::perms(0555));
+  EXPECT_TRUE(InAProcess([&] {
+    AsAUser(Path());
+    return WriteTextFile(Path(), "new").failure == "its folder takes no new files" &&
+           WriteTextFile(Path("b.QLM"), "new").failure == "it is protected";
+  }));
+}
+
 TEST_F(TextFile, ALongNameLeavesRoomForTheTemporary) {
   const std::string longest(255, 'n');
   EXPECT_TRUE(WriteTextFile(Path(longest), "text"));
   EXPECT_EQ(Read(Path(longest)), "text");
 }
 
-TEST_F(TextFile, ATemporaryThatSomebodyLeftIsLeftAlone) {
-  const std::string left = ".quilm-" + std::to_string(getpid()) + "-";
-  for (int i = 0; i < 200; ++i) std::ofstream(Path(left + std::to_string(i) + ".tmp")) << "left";
+// The number of a process that has ended.
+pid_t DeadProcess() {
+  const pid_t child = fork();
+  if (child == 0) _exit(0);
+  waitpid(child, nullptr, 0);
+  return child;
+}
+
+std::string TemporaryOf(pid_t process, int count) {
+  return ".quilm-" + std::to_string(process) + "-" + std::to_string(count) + ".tmp";
+}
+
+TEST_F(TextFile, TheTemporariesOfKilledWritersAreTakenAwayByTheNextWrite) {
+  const pid_t dead = DeadProcess();
+  for (const int count : {1, 2, 77}) std::ofstream(Path(TemporaryOf(dead, count))) << "half";
+  EXPECT_TRUE(WriteTextFile(Path(), "text"));
+  EXPECT_EQ(Names(), std::vector<std::string>{"a.QLM"});
+}
+
+TEST_F(TextFile, TheTemporariesOfOtherFoldersStay) {
+  fs::create_directory(folder / "other");
+  const std::string stale = "other/" + TemporaryOf(DeadProcess(), 1);
+  std::ofstream(Path(stale)) << "half";
+  EXPECT_TRUE(WriteTextFile(Path(), "text"));
+  EXPECT_TRUE(fs::exists(Path(stale)));
+}
+
+// Its own number comes again too: a name that stands there is passed over.
+TEST_F(TextFile, TheTemporariesOfLivingProcessesStay) {
+  for (int i = 0; i < 200; ++i) std::ofstream(Path(TemporaryOf(getpid(), i))) << "left";
+  std::ofstream(Path(TemporaryOf(getppid(), 1))) << "left";
   EXPECT_TRUE(WriteTextFile(Path(), "text"));
   EXPECT_EQ(Read(Path()), "text");
-  EXPECT_EQ(Names().size(), 201U);
+  EXPECT_EQ(Names().size(), 202U);
+}
+
+// A writer on another machine of the same network folder has a number that nobody has here.
+TEST_F(TextFile, ATemporaryThatItsWriterHoldsStays) {
+  const std::string held = Path(TemporaryOf(DeadProcess(), 1));
+  const int fd = open(held.c_str(), O_WRONLY | O_CREAT, 0600);
+  ASSERT_EQ(flock(fd, LOCK_EX | LOCK_NB), 0);
+  EXPECT_TRUE(WriteTextFile(Path(), "text"));
+  EXPECT_TRUE(fs::exists(held));
+  close(fd);
+  EXPECT_TRUE(WriteTextFile(Path(), "text"));
+  EXPECT_FALSE(fs::exists(held));
+}
+
+// The writer holds the lock up to the rename: seen from a process that catches it between two writes of its long text.
+TEST_F(TextFile, AWriterHoldsItsTemporaryWhileItWrites) {
+  const pid_t writer = fork();
+  if (writer == 0) {
+    while (true) WriteTextFile(Path(), longText);
+  }
+  int seen = 0;
+  int free = 0;
+  for (int i = 0; i < 100000 && seen < 20; ++i) {
+    for (const std::string& name : Names()) {
+      const int fd = name == "a.QLM" ? -1 : open(Path(name).c_str(), O_RDONLY);
+      if (fd < 0) continue;
+      const bool locked = flock(fd, LOCK_EX | LOCK_NB) != 0;
+      // Free in the moment after the rename as well, which has taken the name away, and in the one before it is locked,
+      // when nothing is written yet.
+      if (!locked && fs::exists(Path(name)) && fs::file_size(Path(name)) > 0) ++free;
+      ++seen;
+      close(fd);
+    }
+  }
+  kill(writer, SIGKILL);
+  waitpid(writer, nullptr, 0);
+  EXPECT_GT(seen, 0);
+  EXPECT_EQ(free, 0);
+}
+
+TEST_F(TextFile, OnlyItsOwnTemporariesAreTakenAway) {
+  const std::string dead = std::to_string(DeadProcess());
+  std::vector<std::string> names{".quilm-.tmp",
+                                 ".quilm-x-1.tmp",
+                                 ".quilm-" + dead + "-notes.tmp",
+                                 ".quilm-" + dead + ".tmp",
+                                 "quilm-" + dead + "-1.tmp",
+                                 ".quilm-" + dead + "-1.bak"};
+  for (const std::string& name : names) std::ofstream(Path(name)) << "mine";
+  fs::create_directory(Path(".quilm-" + dead + "-2.tmp"));
+  fs::create_symlink("a.QLM", Path(".quilm-" + dead + "-3.tmp"));
+  ASSERT_EQ(mkfifo(Path(".quilm-" + dead + "-4.tmp").c_str(), 0600), 0);
+  EXPECT_TRUE(WriteTextFile(Path(), "text"));
+  EXPECT_EQ(Names().size(), names.size() + 4);
 }
 
 // Each text is one letter all through, so that a torn one shows.

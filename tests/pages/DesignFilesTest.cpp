@@ -104,6 +104,7 @@ TEST_F(DesignFiles, ASaveThatFailsBeepsAndGoesOn) {
   Press("cmdSave");
   EXPECT_EQ(platform.beeps, 1);
   EXPECT_TRUE(platform.messages.empty());
+  EXPECT_EQ(session.note, "Nothing was written to folder.QLM: there is no such folder");
 }
 
 TEST_F(DesignFiles, TheCloseBoxStoresTheLastSession) {
