@@ -1,6 +1,5 @@
 #include "core/Configuration.h"
 
-#include <algorithm>
 #include <array>
 #include <string_view>
 
@@ -99,8 +98,8 @@ bool TakeSettings(DesignRecord& record, const Configuration& configuration) {
   } catch (const NumericFault&) {
     return false;
   }
-  record.SmithAspect = std::max(record.SmithAspect, limitsOf::SmithAspect.lowest);
-  record.PlotLineWidth = std::max(record.PlotLineWidth, static_cast<i16>(limitsOf::PlotLineWidth.lowest));
+  record.SmithAspect = limitsOf::SmithAspect.Held(record.SmithAspect);
+  record.PlotLineWidth = static_cast<i16>(limitsOf::PlotLineWidth.Held(record.PlotLineWidth));
   return true;
 }
 
@@ -122,6 +121,11 @@ f32 WrittenValue(int line, f32 value, Configuration& configuration) {
   }
 }
 
+// What a file is the only reason for is no preference.
+bool IsOfBrokenFile(int line, f32 value, const Configuration& configuration) {
+  return line == lineRsource && value != 0 && value == configuration.sourceOfBrokenFile;
+}
+
 }  // namespace
 
 void ApplyDefaults(DesignRecord& record, Configuration& configuration) {
@@ -140,11 +144,23 @@ bool ReadConfiguration(std::istream& in, DesignRecord& record, Configuration& co
   return false;
 }
 
+void TakePreferences(DesignRecord& record, const Configuration& configuration) {
+  for (const int line : {lineQcap, lineQind, lineSweepMode, lineNrXints, lineNrYints, lineNrIntervals, lineDelayTop,
+                         lineImpedanceTop, lineLossBottom, lineRstandard, lineFstart, lineFstop, lineVSWRTop}) {
+    SettingOf(line).write(record, configuration.ConfigValue[line]);
+  }
+}
+
 std::string FormatConfiguration(DesignRecord& record, Configuration& configuration, const std::string& now) {
   std::string text = "* Quilm Configuration File\r\n\r\n* " + now + "\r\n\r\n";
   for (int line = 1; line <= settingCount; ++line) {
     const Setting& setting = SettingOf(line);
-    setting.write(record, WrittenValue(line, setting.read(record), configuration));
+    const f32 value = setting.read(record);
+    if (IsOfBrokenFile(line, value, configuration)) {
+      text += setting.label + NumText(configuration.ConfigValue[line]) + "\r\n";
+      continue;
+    }
+    setting.write(record, WrittenValue(line, value, configuration));
     // As the field holds it: a count is written as the whole number that it became.
     text += setting.label + NumText(setting.read(record)) + "\r\n";
   }

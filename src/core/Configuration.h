@@ -37,6 +37,9 @@ inline constexpr int settingCount = lineLineWidth;
 // file is written.
 struct Configuration {
   BoundedArray<f32, 1, settingCount> ConfigValue;
+  // The source termination that stands in the record because of a design file that broke off: nobody's preference, and
+  // never stored as one. 0 for none.
+  f32 sourceOfBrokenFile = 0;
 };
 
 // Sets every setting of the record, and ConfigValue, to its default.
@@ -49,8 +52,12 @@ void ApplyDefaults(DesignRecord& record, Configuration& configuration);
 // value does not fit its field; then all settings are the defaults.
 bool ReadConfiguration(std::istream& in, DesignRecord& record, Configuration& configuration);
 
+// Sets sweep, scales, Q values and reference of the record to ConfigValue.
+void TakePreferences(DesignRecord& record, const Configuration& configuration);
+
 // The text of the file, lines ended by CR LF. A field that is 0 takes the value read at start, so that an empty field
 // never overwrites a preference; the record takes that value too. `now`, date and time, stands in the head of the file.
+// A source termination that is sourceOfBrokenFile stays in the record, and what was read at start is written.
 // Throws NumericFault when a ConfigValue that must stand in does not fit its field; none does after reading.
 std::string FormatConfiguration(DesignRecord& record, Configuration& configuration, const std::string& now);
 

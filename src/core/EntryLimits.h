@@ -44,8 +44,7 @@ inline constexpr EntryLimits DelayTop = {0, 6, "0", "6"};
 inline constexpr EntryLimits ImpedanceTop = {0, 600000, "0", "600k"};
 inline constexpr EntryLimits VSWRTop = {1.05F, 7, "1.05", "7"};
 inline constexpr EntryLimits PlotLineWidth = {1, 6, "1", "6"};  // pixels
-// Width over height of the round charts. The configuration's reader holds the lower end alone, for there the chart
-// would lose its width; the box of the chart holds both.
+// Width over height of the round charts.
 inline constexpr EntryLimits SmithAspect = {0.5F, 1.5F, "0.5", "1.5"};
 inline constexpr EntryLimits VSWRCircle = {1, 20, "1", "20"};
 

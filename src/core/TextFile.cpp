@@ -214,6 +214,17 @@ WriteOutcome Replace(const fs::path& path, const struct stat* old, std::string_v
 
 }  // namespace
 
+std::ifstream OpenTextFile(const std::string& path) {
+  std::ifstream file;
+  std::error_code failed;
+  if (fs::is_regular_file(path, failed)) {
+    file.open(path, std::ios::binary);
+  } else {
+    file.setstate(std::ios::failbit);
+  }
+  return file;
+}
+
 WriteOutcome WriteTextFile(const std::string& path, std::string_view text, OnFailure onFailure) {
   const IgnoreFileSizeSignal scope;
   const fs::path target = BehindLinks(path);

@@ -1,10 +1,16 @@
-// Writes the text files of the program: designs, the last session, the configuration, and whatever is exported.
+// Opens and writes the text files of the program: designs, the last session, the configuration, and whatever is
+// exported.
 #pragma once
 
+#include <fstream>
 #include <string>
 #include <string_view>
 
 namespace quilm {
+
+// Opens the file at `path` to be read. A folder, a pipe and a device cannot be opened, nor can a link to one: reading
+// them would fail, wait for somebody else, or never end. The stream of what cannot be opened is false.
+std::ifstream OpenTextFile(const std::string& path);
 
 // What a write that does not get to its end leaves at the path.
 enum class OnFailure {

@@ -11,19 +11,36 @@ namespace {
 
 constexpr std::size_t longestLine = 65536;
 constexpr std::string_view commentStarts = "!*'/\\";
+constexpr int end = std::char_traits<char>::eof();
+
+// The buffer of a file throws where the disk fails.
+template <class Read>
+int FromDisk(Read read) {
+  try {
+    return read();
+  } catch (const std::ios_base::failure&) {
+    throw ReadFault("The file cannot be read on");
+  }
+}
 
 }  // namespace
 
+int LineReader::Get() {
+  return FromDisk([this] { return in_.rdbuf()->sbumpc(); });
+}
+
+int LineReader::Peek() {
+  return FromDisk([this] { return in_.rdbuf()->sgetc(); });
+}
+
 bool LineReader::ReadRaw(std::string& line) {
   line.clear();
-  std::streambuf& buffer = *in_.rdbuf();
-  constexpr int end = std::char_traits<char>::eof();
-  int c = buffer.sbumpc();
+  int c = Get();
   if (c == end) return false;
-  for (; c != end && c != '\n' && c != '\r'; c = buffer.sbumpc()) {
+  for (; c != end && c != '\n' && c != '\r'; c = Get()) {
     if (line.size() < longestLine) line.push_back(static_cast<char>(c));
   }
-  if (c == '\r' && buffer.sgetc() == '\n') buffer.sbumpc();
+  if (c == '\r' && Peek() == '\n') Get();
   return true;
 }
 
@@ -39,7 +56,7 @@ const std::string& LineReader::Take() {
   throw ReadFault("Input past end of file");
 }
 
-bool LineReader::AtEnd() { return in_.rdbuf()->sgetc() == std::char_traits<char>::eof(); }
+bool LineReader::AtEnd() { return Peek() == end; }
 
 const std::string& WordSplitter::Next() {
   const std::size_t first = rest_.find_first_not_of(' ');

@@ -22,9 +22,10 @@ class LineReader {
 
   // The next line that is no comment, trimmed. A line is skipped when it is empty or when, trimmed, it begins with "!",
   // "*", "'", "/" or "\"; one that holds only blanks is not, and is handed on as empty text. Throws ReadFault at the
-  // end of the file.
+  // end of the file, and where the disk cannot be read on.
   const std::string& Take();
 
+  // Whether nothing follows. Throws ReadFault where the disk cannot tell.
   bool AtEnd();
 
   // The last line that Take handed on, whole.
@@ -32,6 +33,8 @@ class LineReader {
 
  private:
   bool ReadRaw(std::string& line);
+  int Get();   // the next byte, taken
+  int Peek();  // the next byte
 
   std::istream& in_;
   std::string last_;

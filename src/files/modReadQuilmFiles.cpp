@@ -1,8 +1,8 @@
 #include "files/modReadQuilmFiles.h"
 
-#include <fstream>
-
+#include "core/Configuration.h"
 #include "core/DesignRecord.h"
+#include "core/TextFile.h"
 #include "files/ReadDesign.h"
 #include "shell/Session.h"
 
@@ -23,6 +23,14 @@ void TellFailure(Session& session, const ReadOutcome& outcome) {
                               Buttons::Ok, Icon::None, "");
 }
 
+// Half a file is no design: what it says of sweep and scales gives way to the user's settings, and its name to none.
+void TakeFailure(Session& session, const ReadOutcome& outcome) {
+  TellFailure(session, outcome);
+  TakePreferences(session.record, session.configuration);
+  session.configuration.sourceOfBrokenFile = session.record.Rsource[1];
+  session.record.DesignFileName.clear();
+}
+
 // Files that stop before the last blocks were written by older versions.
 void TakeOldLayout(Session& session, FileLayout layout) {
   session.record.DesignChanged = 1;
@@ -36,34 +44,35 @@ Got TakeDesign(Session& session, std::istream& in, std::string& path) {
   const ReadOutcome outcome = ReadDesign(in, session.record);
   session.familyOption = session.record.Family;
   if (outcome.failed) {
-    TellFailure(session, outcome);
+    TakeFailure(session, outcome);
     path.clear();
     return Got::Failure;
   }
+  session.configuration.sourceOfBrokenFile = 0;
   if (outcome.layout == FileLayout::Current) return Got::Design;
   TakeOldLayout(session, outcome.layout);
   return Got::OlderDesign;
 }
 
+Got ReadFrom(Session& session, std::string& path, const std::string& title) {
+  std::ifstream in = OpenTextFile(path);
+  if (in) return TakeDesign(session, in, path);
+  session.platform.MessageBox("The file " + path + " cannot be opened.", Buttons::Ok, Icon::Exclamation, title);
+  return Got::Nothing;
+}
+
 }  // namespace
 
 Got modReadQuilmFiles(Session& session, std::string& path) {
-  if (path.empty()) return Got::Nothing;
-  std::ifstream in(path, std::ios::binary);
-  return TakeDesign(session, in, path);
+  return path.empty() ? Got::Nothing : ReadFrom(session, path, "");
 }
 
 Got GetDesign(Session& session, const std::string& title) {
   const std::optional<std::string> chosen = session.platform.OpenDialog(title, quilmFileFilter);
   if (!chosen) return Got::Nothing;
-  std::ifstream in(*chosen, std::ios::binary);
-  if (!in) {
-    session.platform.MessageBox("The file " + *chosen + " cannot be opened.", Buttons::Ok, Icon::Exclamation, title);
-    return Got::Nothing;
-  }
   std::string path = *chosen;
-  const Got got = TakeDesign(session, in, path);
-  if (got == Got::Failure) return got;
+  const Got got = ReadFrom(session, path, title);
+  if (got == Got::Nothing || got == Got::Failure) return got;
   session.record.DesignFileName = path;
   session.note = "Read " + path;
   return got;
@@ -77,7 +86,10 @@ void GetDesignFor(Session& session, PageId page) {
     return;
   }
   const PageId instead = got == Got::Failure ? PageId::Design : PageId::Schematic;
-  if (got == Got::Failure) session.pages.ShowPage(instead);
+  if (got == Got::Failure) {
+    session.pages.ShowPage(instead);
+    session.note = "The design could not be read; Ctrl+Z brings the former design back";
+  }
   // The reader takes the pages of the old design away, but for those that it does not know of.
   if (page != instead) session.pages.UnloadPage(page);
 }

@@ -1,7 +1,5 @@
 #include "shell/Acts.h"
 
-#include <exception>
-
 #include "core/modGeneral.h"
 #include "shell/History.h"
 #include "shell/Page.h"
@@ -72,8 +70,7 @@ void RunAct(Session& session, const Deed& deed, const std::function<void()>& han
   } catch (const ActRefused&) {
     throw;  // a script inside a modal page asked for the impossible: the script's fault, not the handler's
   } catch (const std::exception& fault) {
-    session.platform.MessageBox(std::string("This action could not be finished:\r\n") + fault.what(), Buttons::Ok,
-                                Icon::Critical, "Error checker");
+    TellFault(session, fault);
   }
   // Within another handler the end of the program goes on unwinding.
   if (session.ended && session.handlerDepth > 1) throw ProgramEnd{};
@@ -107,6 +104,11 @@ void TakeStep(Session& session, const std::string& note, HistoryStep step) {
 }
 
 }  // namespace
+
+void TellFault(Session& session, const std::exception& fault) {
+  session.platform.MessageBox(std::string("This action could not be finished:\r\n") + fault.what(), Buttons::Ok,
+                              Icon::Critical, "Error checker");
+}
 
 void RunHandler(Session& session, const std::function<void()>& handler) {
   const Page* page = session.pages.Top();

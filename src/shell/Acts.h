@@ -2,6 +2,8 @@
 // handlers under the same rules.
 #pragma once
 
+#include <exception>
+#include <functional>
 #include <string>
 
 #include "core/Fault.h"
@@ -45,6 +47,9 @@ void Undo(Session& session);
 void Redo(Session& session);
 bool CanUndo(const Session& session);
 bool CanRedo(const Session& session);
+
+// Tells the user of what left a handler or a load step, in a message box.
+void TellFault(Session& session, const std::exception& fault);
 
 // Runs anything as a handler runs: for the start of the program and for what is no control.
 void RunHandler(Session& session, const std::function<void()>& handler);

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "core/Fault.h"
+#include "shell/Acts.h"
 #include "shell/History.h"
 #include "shell/Page.h"
 #include "shell/PageLock.h"
@@ -47,7 +48,14 @@ Page& PageDesk::Open(PageId id) {
   }
   Page& page = *open_.back();
   const History::Following following(session_);
-  page.Load();
+  try {
+    page.Load();
+  } catch (const ActRefused&) {
+    throw;
+  } catch (const std::exception& fault) {
+    // Better a page with what it has than none.
+    TellFault(session_, fault);
+  }
   return page;
 }
 

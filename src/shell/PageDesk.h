@@ -27,8 +27,9 @@ class PageDesk {
   // Whether the program has such a page.
   bool Has(PageId id) const;
 
-  // Loads the page if it is not loaded, runs its load step and shows it on top. A page that the program does not have
-  // is a Fault.
+  // Loads the page if it is not loaded, runs its load step and shows it on top. A load step that ends in a fault is
+  // told to the user, and the page shows what it has. A page that the program does not have, or that cannot be made, is
+  // a Fault, and the page before it stays.
   void ShowPage(PageId id);
 
   // The same, and returns when the page has closed.

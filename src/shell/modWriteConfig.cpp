@@ -1,7 +1,6 @@
 #include "shell/modWriteConfig.h"
 
 #include <cstdio>
-#include <fstream>
 
 #include "core/Configuration.h"
 #include "core/Identity.h"
@@ -26,7 +25,7 @@ std::string InProgramFolder(Session& session, const std::string& name) {
 }
 
 void ReadConfig(Session& session) {
-  std::ifstream file(InProgramFolder(session, configurationFile), std::ios::binary);
+  std::ifstream file = OpenTextFile(InProgramFolder(session, configurationFile));
   if (file) {
     ReadConfiguration(file, session.record, session.configuration);
   } else {

@@ -79,8 +79,8 @@ TEST_F(ConfigurationFile, EachLineGoesToItsField) {
   EXPECT_EQ(record.Fstart, 33);
   EXPECT_EQ(record.Fstop, 34);
   EXPECT_EQ(record.VSWRTop, 35);
-  EXPECT_EQ(record.SmithAspect, 36);
-  EXPECT_EQ(record.PlotLineWidth, 37);
+  EXPECT_EQ(record.SmithAspect, 1.5F);  // held, as the width of the pen is
+  EXPECT_EQ(record.PlotLineWidth, 6);
   for (int line = 1; line <= 17; ++line) EXPECT_EQ(configuration.ConfigValue[line], line + 20);
 }
 
@@ -253,16 +253,16 @@ TEST_F(ConfigurationFile, VerticalStepsNeedAPreferenceAboveThree) {
   EXPECT_EQ(Line(7), "Number of plot Y steps: 2 \r");
 }
 
-// The floors themselves stay, and there is no ceiling: the chart's own box holds the upper end.
-TEST_F(ConfigurationFile, ReadingHoldsTheLowerEndAlone) {
+// The ends themselves stay.
+TEST_F(ConfigurationFile, ReadingHoldsBothEnds) {
   const struct {
     const char* aspect;
     f32 read;
-  } aspects[] = {{".4999", 0.5F}, {".5", 0.5F}, {".5001", 0.5001F}, {"1.5", 1.5F}, {"1.6", 1.6F}};
+  } aspects[] = {{".4999", 0.5F}, {".5", 0.5F}, {".5001", 0.5001F}, {"1.5", 1.5F}, {"1.5001", 1.5F}, {"9g", 1.5F}};
   const struct {
     const char* width;
     i16 read;
-  } widths[] = {{"0", 1}, {"1", 1}, {"2", 2}, {"6", 6}, {"7", 7}};
+  } widths[] = {{"0", 1}, {"1", 1}, {"2", 2}, {"6", 6}, {"7", 6}, {"32767", 6}};
   std::string settings;
   for (int i = 0; i < 15; ++i) settings += "x: 1\n";
   for (const auto& row : aspects) {
@@ -296,6 +296,40 @@ TEST_F(ConfigurationFile, AspectAndLineWidthAreHeld) {
   EXPECT_EQ(record.PlotLineWidth, 6);
   record.PlotLineWidth = -2;
   EXPECT_EQ(Line(17), "Plot data line width: 1 \r");
+}
+
+// All but the units, the aspect and the pen, which no design file holds, and the termination.
+TEST_F(ConfigurationFile, TheSettingsOfSweepAndScalesCanBeTakenAgain) {
+  std::string text;
+  for (int line = 1; line <= 17; ++line) text += "x: " + std::to_string(line + 20) + "\n";
+  Read(text);
+  const DesignRecord settings = record;
+  record = DesignRecord();
+  TakePreferences(record, configuration);
+  EXPECT_EQ(static_cast<const SweepSettings&>(record), static_cast<const SweepSettings&>(settings));
+  EXPECT_EQ(record.Qcap[1], 21);
+  EXPECT_EQ(record.Qind[1], 23);
+  EXPECT_EQ(record.NrXints, 26);
+  EXPECT_EQ(record.NrYints, 27);
+  EXPECT_EQ(record.DelayTop, 29);
+  EXPECT_EQ(record.ImpedanceTop, 30);
+  EXPECT_EQ(record.LossBottom, 31);
+  EXPECT_EQ(record.Rstandard, 32);
+  EXPECT_EQ(record.VSWRTop, 35);
+  EXPECT_EQ(record.Rsource[1], 0);
+  EXPECT_EQ(record.Units, DesignRecord().Units);
+  EXPECT_EQ(record.SmithAspect, DesignRecord().SmithAspect);
+  EXPECT_EQ(record.PlotLineWidth, DesignRecord().PlotLineWidth);
+}
+
+TEST_F(ConfigurationFile, TheTerminationOfABrokenFileIsNotWritten) {
+  Read("");
+  record.Rsource[1] = 7;
+  configuration.sourceOfBrokenFile = 7;
+  EXPECT_EQ(Line(4), "Input termination: 50 \r");
+  EXPECT_EQ(record.Rsource[1], 7);
+  record.Rsource[1] = 75;  // the user's own
+  EXPECT_EQ(Line(4), "Input termination: 75 \r");
 }
 
 }  // namespace

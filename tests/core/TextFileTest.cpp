@@ -399,5 +399,26 @@ TEST_F(TextFile, AKillWhileWritingTearsNothing) {
   }
 }
 
+TEST_F(TextFile, AFileIsOpenedToBeReadThroughLinksToo) {
+  ASSERT_TRUE(WriteTextFile(Path(), "text"));
+  fs::create_symlink(Path(), Path("link"));
+  for (const char* name : {"a.QLM", "link"}) {
+    std::ifstream in = OpenTextFile(Path(name));
+    ASSERT_TRUE(in) << name;
+    EXPECT_EQ(in.get(), 't');
+  }
+}
+
+// A pipe that nobody writes to would be waited for, a device may never end.
+TEST_F(TextFile, WhatIsNoFileCannotBeOpenedToBeRead) {
+  ASSERT_EQ(mkfifo(Path("pipe").c_str(), 0600), 0);
+  fs::create_symlink(Path("loop"), Path("loop"));
+  fs::create_symlink("/dev/zero", Path("device"));
+  for (const std::string& path : {Path("none"), Path("pipe"), Path("loop"), Path("device"), folder.string(),
+                                  std::string("/dev/zero"), std::string()}) {
+    EXPECT_FALSE(OpenTextFile(path)) << path;
+  }
+}
+
 }  // namespace
 }  // namespace quilm

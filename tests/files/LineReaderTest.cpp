@@ -47,6 +47,32 @@ TEST(LineReader, KnowsTheEnd) {
   EXPECT_EQ(reader.Last(), "b");
 }
 
+// A file whose disk fails behind a text.
+class FailingDisk : public std::streambuf {
+ public:
+  explicit FailingDisk(std::string text) : text_(std::move(text)) {
+    setg(text_.data(), text_.data(), text_.data() + text_.size());
+  }
+
+ protected:
+  int_type underflow() override { throw std::ios_base::failure("read"); }
+
+ private:
+  std::string text_;
+};
+
+TEST(LineReader, AFailingDiskIsAFaultOfTheFile) {
+  FailingDisk disk("a\nb\nhalf");
+  std::istream in(&disk);
+  LineReader reader(in);
+  EXPECT_EQ(reader.Take(), "a");
+  EXPECT_FALSE(reader.AtEnd());
+  EXPECT_EQ(reader.Take(), "b");
+  EXPECT_THROW(reader.Take(), ReadFault);
+  EXPECT_THROW(reader.AtEnd(), ReadFault);
+  EXPECT_EQ(reader.Last(), "b");
+}
+
 TEST(WordSplitter, BlanksAreTheOnlyDelimiters) {
   WordSplitter words("  1.5  a,b\tc ");
   EXPECT_EQ(words.Next(), "1.5");

@@ -1,5 +1,8 @@
 // Designs that survive the day: saved, opened again, and kept as the last session on every way out.
 
+#include <sys/stat.h>
+
+#include "core/Configuration.h"
 #include "desk/StartUp.h"
 #include "pages/PageBench.h"
 #include "pages/PageDirectory.h"
@@ -96,6 +99,109 @@ TEST_F(DesignFiles, ADamagedFileIsToldAndLeavesTheProgramUsable) {
   Enter("txtInputTerm", "50");
   Press("cmdPlot");
   EXPECT_EQ(Top().Id(), PageId::Plotted);
+}
+
+// A file that breaks off behind its scales: all that a preference is made of has been read.
+class BrokenFile : public DesignFiles {
+ protected:
+  BrokenFile() {
+    session.configuration.ConfigValue[lineNrIntervals] = 800;
+    session.configuration.ConfigValue[lineRsource] = 75;
+    MakeLowpass();
+    Write("broken.QLM",
+          "head\ntitle\ndate\ninfo\n1 0 1 A 0\n1M 0 0\n.1 50\n7 7 1 33\n11 12\n1 1e-6 0\n"
+          "1 5 9 1\n-3 0 0 1 2 3 4 5\n");
+    platform.files = {Path("broken.QLM")};
+  }
+
+  std::string Configured(const std::string& label) {
+    const std::string text = File(configurationFile);
+    const std::size_t at = text.find(label) + label.size();
+    return text.substr(at, text.find('\r', at) - at);
+  }
+};
+
+TEST_F(BrokenFile, LeavesTheUsersSettings) {
+  Press("cmdGet");
+  EXPECT_EQ(session.record.Width, 1e6F);  // what was read stays
+  EXPECT_EQ(session.record.Rsource[1], 7);
+  EXPECT_EQ(session.record.Stages, 0);
+  EXPECT_EQ(session.record.DesignFileName, "");
+  EXPECT_EQ(session.record.NrIntervals, 800);
+  EXPECT_EQ(session.record.SweepMode, 2);
+  EXPECT_EQ(session.record.Fstart, 1000);
+  EXPECT_EQ(session.record.Fstop, 1e7F);
+  EXPECT_EQ(session.record.LossBottom, -60);
+  EXPECT_EQ(session.record.NrYints, 6);
+  EXPECT_EQ(session.record.Qind[1], 200);
+  EXPECT_EQ(session.record.Rstandard, 50);
+}
+
+TEST_F(BrokenFile, IsNobodysPreference) {
+  Press("cmdGet");
+  PressCloseBox(session, Top());
+  EXPECT_EQ(Configured("Number of test freq steps:"), " 800 ");
+  EXPECT_EQ(Configured("Input termination:"), " 75 ");
+  EXPECT_EQ(Configured("Plot loss bottom:"), "-60 ");
+  EXPECT_EQ(Configured("Inductor Q values:"), " 200 ");
+  EXPECT_EQ(Configured("Rstandard:"), " 50 ");
+}
+
+// The next design that is read whole brings the user's own again.
+TEST_F(BrokenFile, IsForgottenWithTheNextDesign) {
+  platform.files = {Path("sound.QLM"), Path("broken.QLM"), Path("sound.QLM")};
+  session.record.Rsource[1] = 7;
+  Press("cmdSave");
+  Press("cmdGet");
+  Press("cmdGet");
+  PressCloseBox(session, Top());
+  EXPECT_EQ(Configured("Input termination:"), " 7 ");
+}
+
+TEST_F(BrokenFile, TheFormerDesignComesBackAndTheStatusLineSaysHow) {
+  const DesignRecord before = session.record;
+  Press("cmdGet");
+  EXPECT_EQ(session.note, "The design could not be read; Ctrl+Z brings the former design back");
+  Undo(session);
+  EXPECT_EQ(Top().Id(), PageId::Plotted);
+  EXPECT_EQ(session.record, before);
+}
+
+TEST_F(DesignFiles, OnTheOpeningPageThereIsNoFormerDesign) {
+  Write("bad.QLM", "header\r\ntitle\r\ndate\r\n");
+  platform.files = {Path("bad.QLM")};
+  Press("cmdRetrieveOld");
+  EXPECT_EQ(platform.messages.size(), 1U);
+  EXPECT_EQ(Top().Id(), PageId::Opening);
+  EXPECT_EQ(session.note.find("Ctrl+Z"), std::string::npos);
+  EXPECT_EQ(session.record.NrIntervals, 1000);
+}
+
+TEST_F(DesignFiles, WhatIsNoFileIsRefusedAtOnce) {
+  MakeLowpass();
+  ASSERT_EQ(mkfifo(Path("pipe").c_str(), 0600), 0);
+  const DesignRecord before = session.record;
+  for (const std::string& path : {platform.ProgramFolder(), Path("pipe"), std::string("/dev/zero")}) {
+    platform.messages.clear();
+    platform.files = {path};
+    Press("cmdGet");
+    EXPECT_EQ(MessageTexts(), std::vector<std::string>{"The file " + path + " cannot be opened."});
+    EXPECT_EQ(session.record, before);
+    EXPECT_EQ(Top().Id(), PageId::Plotted);
+  }
+}
+
+// The system lists it as a file, opens it, and fails to read its first byte.
+TEST_F(DesignFiles, AFileThatCannotBeReadIsAFailureLikeAnyOther) {
+  MakeLowpass();
+  platform.files = {"/proc/self/mem"};
+  Press("cmdGet");
+  ASSERT_EQ(platform.messages.size(), 1U);
+  EXPECT_EQ(platform.messages[0].text,
+            "ReadQuilmFiles line 706; StagesMax: 43\r\nEntire last line which was read: \r\n"
+            "Error string: 42\r\nErrorDescription: The file cannot be read on");
+  EXPECT_EQ(Top().Id(), PageId::Design);
+  EXPECT_EQ(session.record.Stages, 0);
 }
 
 TEST_F(DesignFiles, ASaveThatFailsBeepsAndGoesOn) {

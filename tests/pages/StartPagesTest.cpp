@@ -46,6 +46,26 @@ TEST_F(StartPages, TheLastSessionIsOfferedWhenThereIsOne) {
   EXPECT_TRUE(Get<Button>("cmdLastSession").Shown());
 }
 
+// Where the system cannot even tell whether there is one, the program starts all the same.
+TEST_F(StartPages, ALastSessionOutOfReachIsNone) {
+  std::filesystem::create_symlink(lastSessionFile, platform.ProgramFolder() + "/" + lastSessionFile);
+  session.pages.ShowPage(PageId::Opening);
+  EXPECT_TRUE(platform.messages.empty());
+  EXPECT_FALSE(Get<Button>("cmdLastSession").Shown());
+  EXPECT_TRUE(Get<Button>("cmdDesignNew").Usable());
+}
+
+TEST_F(StartPages, ALastSessionThatIsNoFileIsToldAndChangesNothing) {
+  std::filesystem::create_directory(platform.ProgramFolder() + "/" + lastSessionFile);
+  session.pages.ShowPage(PageId::Opening);
+  const DesignRecord before = session.record;
+  Press("cmdLastSession");
+  EXPECT_EQ(MessageTexts(), std::vector<std::string>{"The file " + platform.ProgramFolder() + "/" + lastSessionFile +
+                                                     " cannot be opened."});
+  EXPECT_EQ(Top().Id(), PageId::Opening);
+  EXPECT_EQ(session.record, before);
+}
+
 TEST_F(StartPages, TheUpdatesPageIsHandedToTheBrowser) {
   Press("cmdGoTo");
   EXPECT_EQ(platform.opened, std::vector<std::string>{platform.HelpFolder() + "/updates.htm"});

@@ -132,6 +132,50 @@ TEST(PageDesk, ALoadStepMayLeadElsewhere) {
   EXPECT_THAT(bench.platform.pageEvents, ElementsAre("show frmDesign", "unload frmPlotted"));
 }
 
+TEST(PageDesk, APageWhoseLoadStepFailsIsShownWithWhatItHas) {
+  ShellBench bench;
+  BenchPage& first = bench.Show();
+  bench.prepare = [&](BenchPage& page) {
+    page.onLoad = [&page] {
+      page.lblValue.caption = "half";
+      throw Fault("no such folder");
+    };
+  };
+  first.cmdGo.onClick = [&] {
+    bench.session.pages.ShowPage(PageId::Plotted);
+    bench.session.pages.UnloadPage(PageId::Design);
+  };
+  Click(bench.session, first.cmdGo);
+  ASSERT_EQ(bench.platform.messages.size(), 1U);
+  EXPECT_EQ(bench.platform.messages[0].text, "This action could not be finished:\r\nno such folder");
+  EXPECT_THAT(bench.platform.pageEvents, ElementsAre("show frmDesign", "show frmPlotted", "unload frmDesign"));
+  EXPECT_EQ(bench.session.pages.Top()->Find("lblValue")->caption, "half");
+  bench.session.pages.ShowModal(PageId::EnterWidth);
+  EXPECT_EQ(bench.platform.messages.size(), 2U);
+  EXPECT_EQ(bench.platform.pageEvents[3], "modal frmEnterWidth");
+}
+
+TEST(PageDesk, APageThatCannotBeMadeLeavesTheOneBefore) {
+  ShellBench bench;
+  BenchPage& first = bench.Show();
+  bench.prepare = [](BenchPage&) { throw Fault("no memory"); };
+  first.cmdGo.onClick = [&] {
+    bench.session.pages.ShowPage(PageId::Plotted);
+    bench.session.pages.UnloadPage(PageId::Design);
+  };
+  Click(bench.session, first.cmdGo);
+  EXPECT_EQ(bench.platform.messages.size(), 1U);
+  EXPECT_THAT(bench.platform.pageEvents, ElementsAre("show frmDesign"));
+  EXPECT_EQ(bench.session.pages.Top(), &first);
+}
+
+TEST(PageDesk, TheEndOfTheProgramPassesThroughALoadStep) {
+  ShellBench bench;
+  bench.prepare = [](BenchPage& page) { page.onLoad = [] { throw ProgramEnd{}; }; };
+  EXPECT_THROW(bench.Show(), ProgramEnd);
+  EXPECT_TRUE(bench.platform.messages.empty());
+}
+
 TEST(Page, FindsItsControlsByName) {
   ShellBench bench;
   BenchPage& page = bench.Show();

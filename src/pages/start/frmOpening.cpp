@@ -24,7 +24,9 @@ frmOpening::frmOpening(Session& session) : Page(session, PageId::Opening, "Quilm
 }
 
 void frmOpening::Load() {
-  cmdLastSession.visible = std::filesystem::exists(InProgramFolder(session_, lastSessionFile));
+  // What the system cannot tell, of a folder that may not be searched or of links in a circle, is no session.
+  std::error_code unknown;
+  cmdLastSession.visible = std::filesystem::exists(InProgramFolder(session_, lastSessionFile), unknown);
   cmdManualEntry.enabled = session_.pages.Has(PageId::ManualEntry);
   lblVersion.caption = ProgramVersion();
   imgOpening.picture = TopologyPicture("A");
@@ -42,7 +44,7 @@ void frmOpening::Leave() {
 void frmOpening::ContinueLastSession() {
   std::string path = InProgramFolder(session_, lastSessionFile);
   const Got got = modReadQuilmFiles(session_, path);
-  if (got == Got::Failure) return;
+  if (got == Got::Failure || got == Got::Nothing) return;
   session_.identity.DesignFileName = path;
   GoOn(got);
 }
