@@ -14,8 +14,8 @@ namespace quilm {
 namespace {
 
 bool IsUnit(std::string_view text) {
-  constexpr std::array<std::string_view, 14> units = {"",     "Hz",   "hz", "H",      "F", "ohm", "Ohm",
-                                                      "ohms", "Ohms", "R",  "\u03a9", "s", "dB",  "db"};
+  constexpr std::array<std::string_view, 15> units = {"",     "Hz", "hz",     "H",      "F", "ohm", "Ohm", "ohms",
+                                                      "Ohms", "R",  "\u03a9", "\u2126", "s", "dB",  "db"};
   return std::find(units.begin(), units.end(), text) != units.end();
 }
 
@@ -29,7 +29,7 @@ std::optional<f32> ScaleOf(std::string_view rest) {
 }  // namespace
 
 std::optional<f32> PlainMeaning(std::string_view text) {
-  std::string entry = Trimmed(text);
+  std::string entry = WithLatinMicro(Trimmed(text));
   if (entry.empty()) return 0.0F;
   std::replace(entry.begin(), entry.end(), ',', '.');
   const char* first = entry.data() + (entry.front() == '+' ? 1 : 0);

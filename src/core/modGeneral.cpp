@@ -159,12 +159,23 @@ std::string ByMagnitude(f32 value, std::span<const Row> rows, const Mask& mask) 
 void ParseEntry(std::string& Text, f32& Result) {
   TrimAndCut(Text);
   EntryScanner scanner;
-  for (const char c : Text) scanner.Take(c);
+  for (const char c : WithLatinMicro(Text)) scanner.Take(c);
   // Held before it is narrowed, so that a huge entry sets no overflow flag in a caller's fault scope. Only an entry
   // with an exponent, which takes no multiplier, gets that far. Adding zero takes the sign from a zero.
   constexpr f64 largest = std::numeric_limits<f32>::max();
   const f32 number = static_cast<f32>(std::clamp(LeadingNumber(scanner.Kept()), -largest, largest));
   Result = std::clamp(number * scanner.Scale(), -largestEntry, largestEntry) + 0.0F;
+}
+
+std::string WithLatinMicro(std::string_view text) {
+  constexpr std::string_view micro[] = {"\u00b5", "\u03bc"};
+  std::string latin(text);
+  for (const std::string_view sign : micro) {
+    for (std::size_t at = latin.find(sign); at != std::string::npos; at = latin.find(sign, at + 1)) {
+      latin.replace(at, sign.size(), "u");
+    }
+  }
+  return latin;
 }
 
 std::optional<f32> MultiplierOf(char letter) {

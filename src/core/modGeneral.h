@@ -10,10 +10,14 @@
 namespace quilm {
 
 // Reads an entry such as "1.2M", "1200k" or "1,2e6" into Result. Multipliers: p n u k g in either case, m milli, M
-// mega. A comma counts as a point; whatever makes no sense is dropped. Never fails: an entry without a number is 0, and
-// the result is held within -1e10..1e10, and an underflow is 0. Each step rounds to 32 bits. Trims Text and cuts it to
-// its first 12 characters.
+// mega, and the micro sign and the Greek mu count as u. A comma counts as a point; whatever makes no sense is dropped.
+// Never fails: an entry without a number is 0, and the result is held within -1e10..1e10, and an underflow is 0. Each
+// step rounds to 32 bits. Trims Text and cuts it to its first 12 characters.
 void ParseEntry(std::string& Text, f32& Result);
+
+// A text of an entry with a u for each micro sign (U+00B5) and each small Greek mu (U+03BC): keyboards have the one or
+// the other, and nobody can tell them apart.
+std::string WithLatinMicro(std::string_view text);
 
 // The multiplier that a letter of an entry stands for; nothing for any other character.
 std::optional<f32> MultiplierOf(char letter);

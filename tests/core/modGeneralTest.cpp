@@ -48,14 +48,16 @@ TEST(ParseEntry, ACommaIsAPoint) { ExpectParsed({{"1,5k", 1500}, {"1,2,3", 1.23F
 TEST(ParseEntry, ASecondPointIsDropped) { ExpectParsed({{"1.2.3", 1.23F}, {"..5", 0.5F}}); }
 
 TEST(ParseEntry, UnitsAreDropped) {
-  ExpectParsed({{"47pF", 47 * 1e-12F},
-                {"2.2kohm", 2200},
-                {"10uH", 10 * 1e-6F},
-                {"1Meg", 1e6F},
-                {"0x10", 10},
-                {"47\xC2\xB5"
-                 "F",
-                 47}});
+  ExpectParsed({{"47pF", 47 * 1e-12F}, {"2.2kohm", 2200}, {"10uH", 10 * 1e-6F}, {"1Meg", 1e6F}, {"0x10", 10}});
+}
+
+TEST(ParseEntry, TheMicroSignAndTheGreekMuCountAsU) {
+  ExpectParsed({{"47\u00b5F", 47 * 1e-6F}, {"47\u03bcF", 47 * 1e-6F}, {"2.2 \u00b5H", 2.2F * 1e-6F}});
+  std::string text = "2.2\u00b5H";
+  f32 value = 0;
+  ParseEntry(text, value);
+  EXPECT_EQ(text, "2.2\u00b5H");                   // the user's text stays as typed
+  ExpectParsed({{"5\u00b4", 5}, {"5\u03bd", 5}});  // neighbours of the two, which share their first bytes
 }
 
 TEST(ParseEntry, ALetterBeforeAnyDigitIsDropped) { ExpectParsed({{"k", 0}, {"k5", 5}, {"H3", 3}}); }
