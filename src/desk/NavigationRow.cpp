@@ -7,6 +7,15 @@
 
 namespace quilm {
 
+namespace {
+
+// As the page itself says where the user is.
+std::string NameOf(PageId page, const std::string& caption) {
+  return (page == PageId::Analyze ? std::string("analysis") : caption) + " page";
+}
+
+}  // namespace
+
 NavigationRow::NavigationRow(Page& page, Session& session, Gate gate)
     : page_(page), session_(session), gate_(std::move(gate)) {
   AddSegment(PageId::Design, Sign::Design, "cmdDesign", "Design", "Go to the Design page");
@@ -36,9 +45,8 @@ NavigationRow::Gate NavigationRow::WithSoundEntries(Session& session) {
 
 void NavigationRow::AddSegment(PageId target, Sign sign, const char* name, const char* caption, const char* toolTip) {
   const bool here = target == page_.Id();
-  auto button =
-      here ? std::make_unique<Button>(page_, "cmdHere", caption, std::string("You are at the ") + caption + " page")
-           : std::make_unique<Button>(page_, name, caption, toolTip);
+  auto button = here ? std::make_unique<Button>(page_, "cmdHere", caption, "You are at the " + NameOf(target, caption))
+                     : std::make_unique<Button>(page_, name, caption, toolTip);
   button->role = ButtonRole::Segment;
   button->picture = SignPicture(sign);
   button->pressed = here;

@@ -132,7 +132,7 @@ void PrintNotes(const PlotSetup& setup, Canvas& canvas) {
   PrintOnPatch(canvas, chartCenter.x - canvas.TextWidth(title) / 2, chartTitleRow, title);
   if (!IsSmith(setup)) return;
   canvas.FontSize = labelSize;
-  const std::string note = "Normalized to " + ShortText(setup.reference, LeadingZero::Keep) + " ohms";
+  const std::string note = "Normalized to " + ShortText(setup.reference, LeadingZero::Drop) + " ohms";
   PrintOnPatch(canvas, noteEnd.x - canvas.TextWidth(note), noteEnd.y, note);
 }
 

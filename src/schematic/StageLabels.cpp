@@ -69,7 +69,7 @@ std::vector<std::string> ToleranceLabels(const Stage& stage) {
   std::vector<std::string> labels;
   for (const Slot& slot : SlotsOf(stage.ElementType)) {
     if (!slot.tolerance || !(slot.tolerance(stage) > 0)) continue;
-    labels.push_back(std::string(slot.name) + ": " + ShortText(slot.tolerance(stage), LeadingZero::Keep) + "%");
+    labels.push_back(std::string(slot.name) + ": " + ShortText(slot.tolerance(stage), LeadingZero::Drop) + "%");
   }
   return labels;
 }
@@ -90,8 +90,8 @@ std::vector<LossLabel> LossLabels(const Network& network, const Stage& stage, f3
 bool IsSeriesElement(i16 elementType) {
   const Element* element = FindElement(elementType);
   if (element == nullptr) return false;
-  const bool parts = element->joint == Joint::Chain || element->joint == Joint::Parallel;
-  return (parts && element->placement == Placement::Series) || element->joint == Joint::Line;
+  if (element->joint == Joint::Line) return true;
+  return element->placement == Placement::Series && element->joint != Joint::Reactance;
 }
 
 bool HasNegativeValue(const Stage& stage) {

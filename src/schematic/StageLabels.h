@@ -31,7 +31,7 @@ struct LossLabel {
 // capacitor's is left out, as is one that cannot be computed.
 std::vector<LossLabel> LossLabels(const Network& network, const Stage& stage, f32 Fq);
 
-// Whether the type is parts in the line or a piece of line, which a balanced network has on both rails.
+// Whether the type is parts or a stub in the line or a piece of line, which a balanced network has on both rails.
 bool IsSeriesElement(i16 elementType);
 
 // Whether any value of the stage is below 0, in use or not.

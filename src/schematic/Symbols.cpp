@@ -101,18 +101,16 @@ class StageDrawing {
     balanced_ ? LineOn(box_.gap) : LowerRail();
   }
 
-  // The line is broken; the stub lies between the rails and has one conductor at each side of the break.
   void StubInLine(bool shorted) const {
-    const Stub stub{Middle() - 110, Middle() + 220, box_.y + box_.gap * 0.45F};
-    const f32 before = stub.from - 180;
-    DrawStub(stub, shorted);
-    Stroke(box_.x, box_.y, before, box_.y);
-    Stroke(before, box_.y, before, stub.y + lineHalf);
-    Stroke(before, stub.y + lineHalf, stub.from, stub.y + lineHalf);
-    Stroke(stub.from - 90, box_.y, box_.x + box_.width, box_.y);
-    Stroke(stub.from - 90, box_.y, stub.from - 90, stub.y - lineHalf);
-    Stroke(stub.from - 90, stub.y - lineHalf, stub.from, stub.y - lineHalf);
-    LowerRail();
+    constexpr f32 aloneAt = 0.45F;  // of the gap away from the rail
+    constexpr f32 sharedAt = 0.28F;
+    if (balanced_) {
+      StubOn(0, box_.gap * sharedAt, shorted);
+      StubOn(box_.gap, -box_.gap * sharedAt, shorted);
+    } else {
+      StubOn(0, box_.gap * aloneAt, shorted);
+      LowerRail();
+    }
   }
 
   // The stub lies between the rails; one of its conductors hangs on the line and the other stands on common.
@@ -182,6 +180,24 @@ class StageDrawing {
     Rail(rail).Lead(0, left);
     DrawLine(canvas_, box_.x + left, box_.x + right, box_.y + rail, color_);
     Rail(rail).Lead(right + lineBulge, box_.width);
+  }
+
+  // The rail is broken; the stub lies `away` below it, or above it where that is negative, and has one conductor at each
+  // side of the break.
+  void StubOn(f32 rail, f32 away, bool shorted) const {
+    const f32 y = box_.y + rail;
+    const Stub stub{Middle() - 110, Middle() + 220, y + away};
+    const f32 far = stub.y + std::copysign(lineHalf, away);
+    const f32 near = stub.y - std::copysign(lineHalf, away);
+    const f32 before = stub.from - 180;
+    const f32 behind = stub.from - 90;
+    DrawStub(stub, shorted);
+    Stroke(box_.x, y, before, y);
+    Stroke(before, y, before, far);
+    Stroke(before, far, stub.from, far);
+    Stroke(behind, y, box_.x + box_.width, y);
+    Stroke(behind, y, behind, near);
+    Stroke(behind, near, stub.from, near);
   }
 
   // The conductors go on a little beyond the sheath, so that a short or an open end shows.

@@ -32,7 +32,7 @@ f32 SymbolWidth(i16 elementType);
 enum class RailForm { Unbalanced, Balanced };
 
 // Draws a stage of this type in the middle of `box`, which is at least SymbolWidth wide. Codes that are no element draw
-// nothing. Stubs and windings are the same in both forms.
+// nothing. What stands between the rails is the same in both forms.
 void DrawStage(Canvas& canvas, i16 elementType, const StageBox& box, Color color, RailForm form = RailForm::Unbalanced);
 
 // The same as wide as in the schematic: from x to x + StageWidth.

@@ -44,7 +44,7 @@ class Session {
   // known when the page is not loaded.
   i16 familyOption;
 
-  // How charts and schematic are looked at; stays for the run of the program.
+  // How charts and schematic are looked at. Their pages begin with the defaults; the charts' zoom alone stays.
   SmithView smithView;
   SchematicView schematicView;
 

@@ -24,6 +24,7 @@ class AnalysisPage : public PageBench {
 };
 
 TEST_F(AnalysisPage, ShowsTheSettings) {
+  EXPECT_EQ(Get<Button>("cmdHere").toolTip, "You are at the analysis page");
   ASSERT_EQ(Top().Id(), PageId::Analyze);
   EXPECT_EQ(Text("txtFstart"), "1k");
   EXPECT_EQ(Text("txtFstop"), "10M");

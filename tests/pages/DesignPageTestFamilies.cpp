@@ -236,6 +236,7 @@ TEST_F(DesignFamilies, TheParityOfACauerOrderShowsAndHidesRippleAndType) {
   Spin("UpDown1", +1);
   EXPECT_TRUE(Shown("txtPassbandRipple"));
   EXPECT_TRUE(Shown("optCauerTermsEqual"));
+  EXPECT_EQ(Get<OptionButton>("optCauerTermsEqual").caption, "Equal terms.");
   EXPECT_EQ(record.CauerType, "B");
   Press("optCauerTermsEqual");
   EXPECT_EQ(record.CauerType, "C");

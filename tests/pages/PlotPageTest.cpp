@@ -79,6 +79,12 @@ TEST_F(SmithPage, TheChartHasItsTools) {
   EXPECT_FALSE(Get<Button>("cmdLimits").Shown());
 }
 
+TEST_F(SmithPage, AReferenceBelowOneOhmHasNoZeroBeforeItsPoint) {
+  session.record.Rstandard = 0.5F;
+  Press("cmd11");
+  EXPECT_TRUE(Shows("Normalized to .5 ohms"));
+}
+
 TEST_F(SmithPage, ThePolarPlotHasItsAspectAlone) {
   Press("cmd12");
   EXPECT_EQ(session.record.PlotCode, 12);
@@ -127,6 +133,16 @@ TEST_F(SmithPage, TheZoomStaysOverOtherPlotsAndPages) {
   Press("cmd11");
   EXPECT_EQ(session.smithView.ZoomFactor, 2);
   EXPECT_TRUE(Get<Button>("cmdZoomOut").Active());
+}
+
+TEST_F(SmithPage, TheVSWRCircleIsGoneWhenThePageIsLoadedAgain) {
+  Enter("txtVSWR", "3");
+  Press("cmdVSWR");
+  Press("cmdDesign");
+  session.pages.ShowPage(PageId::Plotted);
+  EXPECT_EQ(session.smithView.VSWRCircleOn, 0);
+  EXPECT_EQ(session.smithView.VSWRCircle, 2);
+  EXPECT_EQ(Get<TextBox>("txtVSWR").text, "2");
 }
 
 TEST_F(SmithPage, TheVSWRButtonTogglesACircleWithinItsLimits) {

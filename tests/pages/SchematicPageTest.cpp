@@ -103,15 +103,24 @@ TEST_F(SchematicPage, TheLossesComeAndGo) {
   EXPECT_EQ(Count("L-rseries:"), 0);
 }
 
-TEST_F(SchematicPage, ItsFormStaysOverAVisitToAnotherPage) {
+TEST_F(SchematicPage, ItsFormIsTheUsualOneAfterAVisitToAnotherPage) {
   Press("Option2");
   Press("optYes");
   Press("cmdPlot");
   Press("cmdSchematic");
-  EXPECT_TRUE(Get<OptionButton>("Option2").Value());
-  EXPECT_TRUE(Get<OptionButton>("optYes").Value());
-  EXPECT_EQ(Count("7.95775uH"), 2);
-  EXPECT_EQ(Count("L-rseries:"), 1);
+  EXPECT_TRUE(Get<OptionButton>("Option0").Value());
+  EXPECT_TRUE(Get<OptionButton>("optNo").Value());
+  EXPECT_EQ(Count("15.9155uH"), 1);
+  EXPECT_EQ(Count("L-rseries:"), 0);
+}
+
+// A list that claims more stages than the record has room for.
+TEST_F(SchematicPage, ADrawingThatFailsIsToldWithItsMark) {
+  session.record.Stages = session.record.StagesMax = 10000;
+  session.pages.ShowPage(PageId::Schematic);
+  ASSERT_EQ(MessageTexts().size(), 1U);
+  EXPECT_EQ(MessageTexts()[0].substr(0, 15), "Schematic 224\r\n");
+  EXPECT_EQ(Top().Id(), PageId::Schematic);
 }
 
 TEST_F(SchematicPage, ANegativePartIsPointedOut) {

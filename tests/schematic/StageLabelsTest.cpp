@@ -70,6 +70,21 @@ TEST(StageLabels, TolerancesAreNamedByTheirPart) {
   EXPECT_TRUE(ToleranceLabels(exact).empty());
 }
 
+TEST(StageLabels, AToleranceBelowOnePercentHasNoZeroBeforeItsPoint) {
+  Stage stage = FullStage(SeriesL);
+  stage.Lval.tolerance = 0.5F;
+  EXPECT_EQ(ToleranceLabels(stage), Texts{"L: .5%"});
+}
+
+TEST(StageLabels, StubsInTheLineAreSeriesElements) {
+  for (const i16 type : {SeriesL, SeriesPLC, TransLine, SeriesShortStub, SeriesOpenStub}) {
+    EXPECT_TRUE(IsSeriesElement(type)) << type;
+  }
+  for (const i16 type : {ShuntL, ShuntShortStub, ShuntOpenStub, Transformer, CoupledInductors}) {
+    EXPECT_FALSE(IsSeriesElement(type)) << type;
+  }
+}
+
 // At 1 MHz 10 uH are 62.832 ohms, with a Q of 200 0.31416 ohms; 200 pF are 795.77 ohms, times 2000 1.5915 megohms.
 TEST(StageLabels, LossesFollowFromTheQualities) {
   DesignRecord record;

@@ -132,6 +132,29 @@ TEST_F(Schematic, BalancedNetworksHaveSeriesPartsOnBothRails) {
   EXPECT_EQ(Texts("200pF").size(), 1U);  // shunt parts stay
 }
 
+// A stub breaks the rail that it stands on: no line goes from one end of the stage to the other.
+TEST_F(Schematic, BalancedNetworksHaveSeriesStubsOnBothRails) {
+  record.Stages = 0;
+  Add(SeriesShortStub);
+  record.stage[1].TLval = {90, 1e9F, 50, 0, 0};
+  const auto unbroken = [this](f32 y) {
+    const Picture picture = Drawn();
+    return std::any_of(picture.Operations().begin(), picture.Operations().end(), [y](const PictureOp& operation) {
+      const auto* line = std::get_if<PolylineOp>(&operation);
+      return line != nullptr && line->points == std::vector<Point>{{1620, y}, {1620 + 960, y}};
+    });
+  };
+  EXPECT_FALSE(unbroken(1500));
+  EXPECT_TRUE(unbroken(2540));
+  EXPECT_EQ(Texts("90deg").size(), 1U);
+  for (const SchematicMode mode : {SchematicMode::BalancedB, SchematicMode::BalancedA}) {
+    view.mode = mode;
+    EXPECT_FALSE(unbroken(1500));
+    EXPECT_FALSE(unbroken(2540));
+    EXPECT_EQ(Texts("90deg").size(), 2U);
+  }
+}
+
 TEST_F(Schematic, HalfOfASeriesValueStandsOnEachRail) {
   view.mode = SchematicMode::BalancedA;
   EXPECT_EQ(Texts("5uH").size(), 2U);

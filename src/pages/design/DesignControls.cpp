@@ -52,7 +52,7 @@ DesignControls::DesignControls(Page& page, DesignRecord& record, const std::func
     : families(page),
       fraCauerType(page, "fraCauerType", "Even order"),
       optCauerTermBest(page, cauerTypes, "optCauerTermBest", "Best selectivity", "Unequal terminations"),
-      optCauerTermsEqual(page, cauerTypes, "optCauerTermsEqual", "Equal terms", "Equal terminations"),
+      optCauerTermsEqual(page, cauerTypes, "optCauerTermsEqual", "Equal terms.", "Equal terminations"),
       fraCauerBPFtop(page, "fraCauerBPFtop", "Bandpass layout"),
       optCauerTopNormal(page, cauerTops, "optCauerTopNormal", "Normal", "The layout for any order"),
       optCauerTopZigZag(page, cauerTops, "optCauerTopZigZag", "Zig-zag", "Fewer inductors, for even order only"),

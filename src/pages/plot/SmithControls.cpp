@@ -49,6 +49,7 @@ SmithControls::SmithControls(Page& page, Session& session, std::function<void()>
 }
 
 void SmithControls::Load() {
+  session_.smithView = {.ZoomFactor = session_.smithView.ZoomFactor};
   VSWR_.Fill();
   aspect_.Fill();
   RefreshZoom();

@@ -16,7 +16,7 @@ class SmithControls {
   // `redraw` draws the plot on display anew.
   SmithControls(Page& page, Session& session, std::function<void()> redraw);
 
-  // Fills the boxes from the session.
+  // Fills the boxes from the session. The zoom stays as it was left; there is no VSWR circle yet.
   void Load();
 
   // Shows what the plot of a code has: the aspect on both round plots, zoom and VSWR circle on the Smith chart.

@@ -1,5 +1,6 @@
 #include "pages/schematic/frmSchematic.h"
 
+#include "core/Fault.h"
 #include "core/Network.h"
 #include "desk/Leaving.h"
 #include "files/modReadQuilmFiles.h"
@@ -40,10 +41,9 @@ frmSchematic::frmSchematic(Session& session)
 void frmSchematic::Load() {
   navigation_.Load();
   CutStages();
-  view_.SchemOffset = 0;
-  OptionButton* const modes[] = {&Option0_, &Option1_, &Option2_};
-  modes[static_cast<std::size_t>(view_.mode)]->Set();
-  (view_.ShowQ ? optYes_ : optNo_).Set();
+  view_ = {};
+  Option0_.Set();
+  optNo_.Set();
   Draw();
 }
 
@@ -75,8 +75,12 @@ void frmSchematic::Scroll(i32 distance) {
 
 void frmSchematic::Draw() {
   lblEmptyList_.visible = session_.network.Stages < 1;
-  lblNegativePart_.visible = HasNegativePart(session_.network);
-  DrawSchematic(session_.record, view_, picSchematic_.picture);
+  try {
+    lblNegativePart_.visible = HasNegativePart(session_.network);
+    DrawSchematic(session_.record, view_, picSchematic_.picture);
+  } catch (const Fault& fault) {
+    session_.platform.MessageBox(std::string("Schematic 224\r\n") + fault.what(), Buttons::Ok, Icon::Critical, "");
+  }
 }
 
 Layout frmSchematic::MakeLayout() {
