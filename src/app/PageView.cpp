@@ -33,6 +33,7 @@ std::vector<WindowKey> WindowKeys() {
           {QKeySequence::Print, "cmdPrint"},
           {QKeySequence(Qt::CTRL | Qt::Key_Q), "cmdExit"},
           {QKeySequence(Qt::Key_F1), "cmdHelp"},
+          {QKeySequence(Qt::CTRL | Qt::Key_F), "cmdFitSweep"},
           {QKeySequence(Qt::CTRL | Qt::Key_1), "cmdDesign"},
           {QKeySequence(Qt::CTRL | Qt::Key_2), "cmdSchematic"},
           {QKeySequence(Qt::CTRL | Qt::Key_3), "cmdEdit"},

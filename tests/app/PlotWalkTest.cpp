@@ -2,6 +2,7 @@
 #include <QElapsedTimer>
 
 #include "app/WalkBench.h"
+#include "core/DesignRecord.h"
 
 namespace quilm {
 namespace {
@@ -94,6 +95,14 @@ TEST_F(PlotWalk, TheSmithChartIsZoomedByItsButtons) {
   EXPECT_EQ(desktop_.session.smithView.ZoomFactor, 16);
   EXPECT_FALSE(Find("cmdZoomIn")->isEnabled());
   EXPECT_TRUE(Find("cmdZoomOut")->isEnabled());
+}
+
+TEST_F(PlotWalk, AKeyFitsTheSweepToTheBand) {
+  const DesignRecord& record = desktop_.session.record;
+  desktop_.session.record.Fstart = 1;
+  QTest::keyClick(&Plot(), Qt::Key_F, Qt::ControlModifier);
+  EXPECT_EQ(record.Fstart, record.Width / 10);
+  EXPECT_EQ(record.Fstop, record.Width * 10);
 }
 
 // From the click to the painted rows, the sweep included. The limit leaves room for a busy machine.

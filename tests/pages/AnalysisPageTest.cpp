@@ -74,6 +74,41 @@ TEST_F(AnalysisPage, EntriesAreHeldAndEchoedWhenTheBoxIsLeft) {
   }
 }
 
+TEST_F(AnalysisPage, TheSweepIsFittedToTheBandAsItIsDivided) {
+  session.record.Topology = "A";
+  session.record.Width = 2e6F;
+  for (const char* option : {"optLinear", "optLog"}) {
+    Press(option);
+    Enter("txtFstart", "1");
+    session.record.ResponsesValid = 1;
+    Press("cmdFitSweep");
+    EXPECT_EQ(session.record.Fstart, 200e3F);
+    EXPECT_EQ(session.record.Fstop, 20e6F);
+    EXPECT_EQ(session.record.ResponsesValid, 0);
+    EXPECT_EQ(Get<TextBox>("txtFstart").text, "200k");
+    EXPECT_EQ(Get<TextBox>("txtFstop").text, "20M");
+    EXPECT_TRUE(Get<OptionButton>(option).Value());
+  }
+}
+
+TEST_F(AnalysisPage, WithoutABandTheSweepStays) {
+  session.record.Width = 0;
+  const f32 start = session.record.Fstart;
+  Press("cmdFitSweep");
+  EXPECT_EQ(session.record.Fstart, start);
+  EXPECT_EQ(session.note, "No band to fit the sweep to: the design has no bandwidth");
+}
+
+TEST_F(AnalysisPage, ASweepWithoutARangeIsTold) {
+  Enter("txtFstart", "1M");
+  Enter("txtFstop", "1M");
+  EXPECT_EQ(Get<Label>("lblSweepFault").caption, "Start and stop are equal");
+  Enter("txtFstop", "900k");
+  EXPECT_EQ(Get<Label>("lblSweepFault").caption, "Stop is below start");
+  Enter("txtFstop", "2M");
+  EXPECT_EQ(Get<Label>("lblSweepFault").caption, "");
+}
+
 TEST_F(AnalysisPage, RelativeForcesASweepAndMagnifyDoesNot) {
   Record().ResponsesValid = 1;
   Press("optMagnify");

@@ -62,6 +62,35 @@ TEST_F(PlotPage, EveryButtonDrawsItsPlot) {
   }
 }
 
+// 1 kHz to 1 MHz ends at the edge; a tenth and ten times the edge are 100 kHz and 10 MHz.
+TEST_F(PlotPage, ASweepThatDoesNotHoldTheBandIsToldAndFitted) {
+  session.record.Fstart = 1e3F;
+  session.record.Fstop = 1e6F;
+  Press("cmd1");
+  EXPECT_EQ(session.note, "The sweep does not hold the band: Ctrl+F fits it");
+  const Picture before = Plot();
+  Press("cmdFitSweep");
+  EXPECT_EQ(session.record.Fstart, 100e3F);
+  EXPECT_EQ(session.record.Fstop, 10e6F);
+  EXPECT_EQ(session.responses.RespFreq[0], 100e3F);
+  EXPECT_EQ(session.note, "The sweep goes from 100kHz to 10MHz");
+  EXPECT_FALSE(Plot() == before);
+  session.note.clear();
+  Press("cmd2");
+  EXPECT_EQ(session.note, "");
+}
+
+TEST_F(PlotPage, ASweepWithoutARangeIsToldBesideTheMessage) {
+  session.record.Fstart = session.record.Fstop = 1e6F;
+  Press("cmd1");
+  EXPECT_EQ(session.note, "Start and stop are equal: Ctrl+F fits the sweep to the band");
+  ASSERT_FALSE(MessageTexts().empty());
+  EXPECT_EQ(MessageTexts()[0].substr(0, 36), "We had a plotting routine problem.\r\n");
+  session.record.Fstop = 0.5e6F;
+  Press("cmd1");
+  EXPECT_EQ(session.note, "Stop is below start: Ctrl+F fits the sweep to the band");
+}
+
 class SmithPage : public PlotPage {
  protected:
   SmithPage() {

@@ -3,12 +3,14 @@
 #include <cmath>
 
 #include "analysis/AnalysisEntries.h"
+#include "analysis/SweepFit.h"
 #include "analysis/modAnalysis.h"
 #include "core/DesignRecord.h"
 #include "core/EntryLimits.h"
 #include "core/Fault.h"
 #include "core/modGeneral.h"
 #include "desk/Leaving.h"
+#include "desk/SweepRange.h"
 #include "desk/modCheckEntries.h"
 #include "display/PlotScaling.h"
 #include "files/modReadQuilmFiles.h"
@@ -31,6 +33,7 @@ f32 ReferenceHeld(f32 value) { return value <= 0 ? 50.0F : value; }
 frmAnalyze::frmAnalyze(Session& session)
     : Page(session, PageId::Analyze, "Analysis"),
       navigation_(*this, session, [this](PageId target) { return MayGoTo(target); }) {
+  lblSweepFault_.emphasised = true;
   navigation_.helpFile = "analysis.htm";
   navigation_.onGet = [&session] { GetDesignFor(session, PageId::Analyze); };
   navigation_.onSave = [&session] { SaveDesign(session, "Save Quilm File"); };
@@ -38,6 +41,7 @@ frmAnalyze::frmAnalyze(Session& session)
   ConnectOptions();
   ConnectSpins();
   cmdAutoScale_.onClick = [this] { ScaleToResponse(); };
+  cmdFitSweep_.onClick = [this] { FitToBand(); };
   cmdAssistance_.onClick = [this] { session_.pages.ShowModal(PageId::EntryAssistance); };
   // Their pages are still to come.
   for (Button* tool : {&cmdStepsize_, &cmdModulation_, &cmdPhase_, &cmdNoise_, &cmdTransient_}) tool->enabled = false;
@@ -173,6 +177,12 @@ void frmAnalyze::ScaleToResponse() {
   session_.pages.UnloadPage(PageId::Blank);
 }
 
+void frmAnalyze::FitToBand() {
+  FitSweep(session_);
+  entries.Fill();
+  ShowLabels();
+}
+
 void frmAnalyze::ShowOptions() {
   const DesignRecord& record = session_.record;
   (record.SweepMode == 1 ? optLinear_ : optLog_).Set();
@@ -183,6 +193,7 @@ void frmAnalyze::ShowOptions() {
 void frmAnalyze::ShowLabels() {
   const DesignRecord& record = session_.record;
   lblSpanValue_.caption = SpanText(record);
+  lblSweepFault_.caption = SweepFault(record);
   lblPerInterval_.caption = FrequencyPerIntervalText(record);
   lbldBper_.caption = LossPerIntervalText(record);
   lblDelayPer_.caption = DelayPerIntervalText(record);
@@ -206,7 +217,7 @@ Layout frmAnalyze::SweepGroup() {
                                 Row({Put(optLinear_), Put(optLog_), Space()}),
                                 KeepPlace(Row({KeepPlace(Put(lblXints_)), KeepPlace(Put(lblNrXints_)),
                                                KeepPlace(Put(UpDown1_)), Space()})),
-                                KeepPlace(Put(lblPerInterval_)), Space()}));
+                                KeepPlace(Put(lblPerInterval_)), Put(lblSweepFault_), Space()}));
 }
 
 Layout frmAnalyze::ScaleGroup() {
@@ -233,7 +244,7 @@ Layout frmAnalyze::ReferenceGroup() {
 Layout frmAnalyze::MakeLayout() {
   return Column({navigation_.MakeLayout(), Row({SweepGroup(), ScaleGroup(), QualityGroup(), ReferenceGroup(), Space()}),
                  Space(),
-                 Group("Tools", Grid(7, {Put(cmdAutoScale_), Put(cmdStepsize_), Put(cmdModulation_), Put(cmdPhase_),
+                 Group("Tools", Grid(8, {Put(cmdAutoScale_), Put(cmdFitSweep_), Put(cmdStepsize_), Put(cmdModulation_), Put(cmdPhase_),
                                          Put(cmdNoise_), Put(cmdTransient_), Put(cmdAssistance_)}))});
 }
 

@@ -28,6 +28,7 @@ class frmAnalyze : public Page {
   bool CheckAll();
   bool MayGoTo(PageId target);
   void ScaleToResponse();
+  void FitToBand();
   void ShowOptions();
   void ShowLabels();
   Layout SweepGroup();
@@ -42,6 +43,7 @@ class frmAnalyze : public Page {
   Label lblFstop_{*this, "lblFstop", "Stop (Hz)"};
   TextBox txtFstop_{*this, "txtFstop", "Stopping frequency in Hz"};
   Label lblSpanValue_{*this, "lblSpanValue", ""};
+  Label lblSweepFault_{*this, "lblSweepFault", ""};
   Label lblNrIntervals_{*this, "lblNrIntervals", "Intervals"};
   TextBox txtNrIntervals_{*this, "txtNrIntervals", "Number of intervals of the sweep"};
   OptionGroup sweeps_;
@@ -86,6 +88,7 @@ class frmAnalyze : public Page {
   OptionButton optMagnify_{*this, magnifications_, "optMagnify", "Magnify", "A second trace, ten times as high"};
 
   Button cmdAutoScale_{*this, "cmdAutoScale", "AutoScale", "Set the scales from the response"};
+  Button cmdFitSweep_{*this, "cmdFitSweep", "Fit sweep", "Set start and stop round the band (Ctrl+F)"};
   Button cmdStepsize_{*this, "cmdStepsize", "Stepsize %", "Set the step of each part"};
   Button cmdModulation_{*this, "cmdModulation", "Modulation", "See the modulation response"};
   Button cmdPhase_{*this, "cmdPhase", "Phase lin.", "See the phase linearity"};

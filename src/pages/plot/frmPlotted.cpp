@@ -3,6 +3,7 @@
 #include "analysis/modAnalysis.h"
 #include "core/DesignRecord.h"
 #include "desk/Leaving.h"
+#include "desk/SweepRange.h"
 #include "display/PlotKinds.h"
 #include "display/PlotScaling.h"
 #include "display/SheetDrawing.h"
@@ -41,6 +42,7 @@ frmPlotted::frmPlotted(Session& session)
     plotButtons.push_back(std::move(button));
   }
   cmdAutoScale.onClick = [this] { ScaleToResponse(); };
+  cmdFitSweep.onClick = [this] { FitToBand(); };
   for (Button* tool : {&cmdLimits, &cmdMarkers, &cmdMonteCarlo, &cmdOptimize, &cmdStepSize, &cmdTunePart, &cmdTuneWidth,
                        &cmdTuneApass, &cmdGetOverlay, &cmdSaveOverlay}) {
     tool->enabled = false;
@@ -61,6 +63,7 @@ void frmPlotted::CloseBox() { LeaveByCloseBox(session_); }
 // Sweeps, whatever ResponsesValid says, and draws the plot of the code.
 void frmPlotted::Choose(i16 code) {
   RefreshTools();
+  TellOfSweep(session_);
   AnalyzeSweep(session_);
   if (session_.record.ResponsesValid != 1) return;
   for (std::size_t i = 0; i < plotButtons.size(); ++i) plotButtons[i]->pressed = PlotButtons()[i].code == code;
@@ -79,12 +82,17 @@ void frmPlotted::ScaleToResponse() {
   session_.pages.UnloadPage(PageId::Blank);
 }
 
+void frmPlotted::FitToBand() {
+  FitSweep(session_);
+  Choose(session_.record.PlotCode);
+}
+
 Layout frmPlotted::MakeLayout() {
   std::vector<Layout> strip;
   for (const auto& button : plotButtons) strip.push_back(Put(*button));
   strip.push_back(Space());
   const Layout tools =
-      Column({Grid(1, {Put(cmdAutoScale), KeepPlace(Put(cmdLimits)), Put(cmdMarkers), Put(cmdStepSize),
+      Column({Grid(1, {Put(cmdAutoScale), Put(cmdFitSweep), KeepPlace(Put(cmdLimits)), Put(cmdMarkers), Put(cmdStepSize),
                        Put(cmdTunePart), Put(cmdTuneWidth), KeepPlace(Put(cmdTuneApass)), Put(cmdOptimize),
                        Put(cmdMonteCarlo), Put(cmdGetOverlay), Put(cmdSaveOverlay), Put(cmdEnd), Put(cmdExtremes)}),
               smithControls.MakeLayout(), Space()});

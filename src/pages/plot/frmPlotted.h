@@ -24,6 +24,7 @@ class frmPlotted : public Page {
   SmithControls smithControls;
 
   Button cmdAutoScale{*this, "cmdAutoScale", "AutoScale", "Set the scales from the response"};
+  Button cmdFitSweep{*this, "cmdFitSweep", "Fit sweep", "Set start and stop round the band (Ctrl+F)"};
   Button cmdLimits{*this, "cmdLimits", "Limits", "Set limit areas for this plot"};
   Button cmdMarkers{*this, "cmdMarkers", "Markers", "Set marker frequencies"};
   Button cmdMonteCarlo{*this, "cmdMonteCarlo", "Monte Carlo", "Try the design with part tolerances"};
@@ -41,6 +42,7 @@ class frmPlotted : public Page {
   void Choose(i16 code);
   void RefreshTools();
   void ScaleToResponse();
+  void FitToBand();
 
   PlotMouse mouse_;
 };
