@@ -18,13 +18,6 @@ NumberType Parsed(const std::string& word, const char* kind) {
   return value;
 }
 
-// The page on top and, where it is a tool that stands beside another page, that one.
-std::vector<Page*> PagesInSight(ScriptRun& run) {
-  std::vector<Page*> pages{&run.Top()};
-  if (Page* beside = run.session.pages.Beside()) pages.push_back(beside);
-  return pages;
-}
-
 std::vector<PictureBox*> PicturesOf(const Page& page) {
   std::vector<PictureBox*> boxes;
   for (Control* control : page.Controls()) {
@@ -70,6 +63,12 @@ int CountArgument(const std::string& word, int least, int most) {
     throw CommandFailure{word + " is not within " + std::to_string(least) + " and " + std::to_string(most)};
   }
   return value;
+}
+
+std::vector<Page*> PagesInSight(ScriptRun& run) {
+  std::vector<Page*> pages{&run.Top()};
+  if (Page* beside = run.session.pages.Beside()) pages.push_back(beside);
+  return pages;
 }
 
 Control* LookUpControl(ScriptRun& run, const std::string& name) {

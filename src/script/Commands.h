@@ -14,6 +14,7 @@
 namespace quilm {
 
 class Control;
+class Page;
 class PictureBox;
 
 // Does the command. Throws CommandFailure, or a std::exception of whatever it called, when it cannot be done.
@@ -36,6 +37,9 @@ std::string WholeArgument(const std::string& arguments, std::string_view form);
 // A number in plain decimal or exponent form, a whole number.
 f32 NumberArgument(const std::string& word);
 int CountArgument(const std::string& word, int least, int most);
+
+// The page on top and, where it is a tool that stands beside another page, that one.
+std::vector<Page*> PagesInSight(ScriptRun& run);
 
 // The control of the page on top, or of the page that it stands beside; nullptr for none. FindControl fails instead.
 Control* LookUpControl(ScriptRun& run, const std::string& name);

@@ -27,7 +27,7 @@ void PrintResponses(ScriptRun& run, const std::string& arguments) {
 
 void PrintPage(ScriptRun& run, const std::string& arguments) {
   Arguments(arguments, 0, 0, "page");
-  run.Emit(PageEvent(run.Top()));
+  for (const Page* page : PagesInSight(run)) run.Emit(PageEvent(*page));
 }
 
 // What has a picture: one of the two is there.

@@ -18,9 +18,16 @@ void QueueAnswer(ScriptRun& run, const std::string& arguments) {
   throw CommandFailure{"the form is: answer ok|yes|no"};
 }
 
+// A file that happens to be called "open" is reached as "./open".
 void QueueFile(ScriptRun& run, const std::string& arguments) {
-  const std::string path = WholeArgument(arguments, "file PATH, or file cancel");
-  run.platform.files.push_back(path == "cancel" ? std::nullopt : std::optional<std::string>(path));
+  constexpr std::string_view form = "file [open|save] PATH, or file cancel";
+  const FirstWord split = SplitFirst(arguments);
+  const auto kind = split.word == "open"   ? FileAnswer::For::Open
+                    : split.word == "save" ? FileAnswer::For::Save
+                                           : FileAnswer::For::Any;
+  const std::string path = WholeArgument(kind == FileAnswer::For::Any ? arguments : split.rest, form);
+  const bool cancel = path == "cancel" && kind == FileAnswer::For::Any;
+  run.platform.files.emplace_back(cancel ? std::nullopt : std::optional(path), kind);
 }
 
 void QueuePrinter(ScriptRun& run, const std::string& arguments) {

@@ -15,8 +15,12 @@ void ScriptPlatform::RequireAnswer(const std::string& text, Buttons buttons) con
   }
 }
 
-void ScriptPlatform::RequireFile(const std::string& title) const {
+void ScriptPlatform::RequireFile(const std::string& title, bool save) const {
   if (files.empty()) throw CommandFailure{"no answer is queued for the file dialog: " + title};
+  if (files.front().Answers(save)) return;
+  const std::string queued = files.front().path.value_or("cancel");
+  throw CommandFailure{"the dialog " + std::string(save ? "saves" : "opens") + ", and " + queued + " is queued to " +
+                       std::string(save ? "open" : "save") + ": " + title};
 }
 
 Answer ScriptPlatform::MessageBox(const std::string& text, Buttons buttons, Icon icon, const std::string& title) {
@@ -25,13 +29,13 @@ Answer ScriptPlatform::MessageBox(const std::string& text, Buttons buttons, Icon
 }
 
 std::optional<std::string> ScriptPlatform::OpenDialog(const std::string& title, const std::string& filter) {
-  RequireFile(title);
+  RequireFile(title, false);
   return HeadlessPlatform::OpenDialog(title, filter);
 }
 
 std::optional<std::string> ScriptPlatform::SaveDialog(const std::string& title, const std::string& filter,
                                                       const std::string& defaultName) {
-  RequireFile(title);
+  RequireFile(title, true);
   return HeadlessPlatform::SaveDialog(title, filter, defaultName);
 }
 

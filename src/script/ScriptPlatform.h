@@ -19,7 +19,8 @@ class ScriptPlatform : public HeadlessPlatform {
   // Runs the commands that follow while a modal page is open; returns when it has closed.
   std::function<void(Page&)> onModal;
 
-  // A question with Yes and No needs a queued "yes" or "no", a box with Ok alone takes nothing but "ok".
+  // A question with Yes and No needs a queued "yes" or "no", a box with Ok alone takes nothing but "ok". A dialog takes
+  // no file that is meant for the other kind.
   Answer MessageBox(const std::string& text, Buttons buttons, Icon icon, const std::string& title) override;
   std::optional<std::string> OpenDialog(const std::string& title, const std::string& filter) override;
   std::optional<std::string> SaveDialog(const std::string& title, const std::string& filter,
@@ -28,7 +29,7 @@ class ScriptPlatform : public HeadlessPlatform {
 
  private:
   void RequireAnswer(const std::string& text, Buttons buttons) const;
-  void RequireFile(const std::string& title) const;
+  void RequireFile(const std::string& title, bool save) const;
 };
 
 }  // namespace quilm

@@ -53,12 +53,12 @@ void ScriptRun::Run(const std::function<void(Session&)>& start) {
       if (!command) return;
       Execute(*command);
     }
+    Emit(NamedEvent("exit"));
   } catch (const ScriptEnd&) {
     return;
   } catch (const CommandFailure& failure) {
     throw ScriptError{opening.line, opening.text, failure.reason};
   }
-  Emit(NamedEvent("exit"));
 }
 
 Page& ScriptRun::Top() {

@@ -16,7 +16,8 @@ namespace quilm {
 
 class ScriptRun {
  public:
-  // `folder` is the program's folder; every event goes to `emit` as it happens.
+  // `folder` is the program's folder; every event goes to `emit` as it happens, which throws CommandFailure when it
+  // cannot pass it on.
   ScriptRun(std::istream& script, std::string folder, PageDirectory directory, EventSink emit);
 
   // Starts the program and runs the script to its end, or to the program's own end, which is the event "exit". Throws

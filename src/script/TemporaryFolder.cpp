@@ -7,13 +7,32 @@
 
 namespace quilm {
 
-TemporaryFolder::TemporaryFolder() : path_((std::filesystem::temp_directory_path() / "quilm-XXXXXX").string()) {
-  if (mkdtemp(path_.data()) == nullptr) throw Fault("No temporary folder can be made at " + path_);
+namespace {
+
+// The variable names a folder that is not there as readily as one that is.
+std::string FolderForTemporaries() {
+  std::error_code failed;
+  const std::filesystem::path folder = std::filesystem::temp_directory_path(failed);
+  if (!failed) return folder.string();
+  const char* named = std::getenv("TMPDIR");
+  throw Fault("the folder for temporary files cannot be used: " + std::string(named == nullptr ? "/tmp" : named));
 }
 
-TemporaryFolder::~TemporaryFolder() {
-  std::error_code ignored;  // what cannot be removed stays for the system to clean up
-  std::filesystem::remove_all(path_, ignored);
+}  // namespace
+
+TemporaryFolder::TemporaryFolder() : path_(FolderForTemporaries() + "/quilm-XXXXXX") {
+  if (mkdtemp(path_.data()) == nullptr) throw Fault("no temporary folder can be made at " + path_);
+}
+
+TemporaryFolder::~TemporaryFolder() { RemoveFolder(path_); }
+
+void RemoveFolder(const std::string& path) {
+  constexpr int mostTries = 100;  // a file made between the last removed one and the folder stops it
+  std::error_code failed;
+  for (int attempt = 0; attempt < mostTries; ++attempt) {
+    std::filesystem::remove_all(path, failed);
+    if (!std::filesystem::exists(path, failed)) return;
+  }
 }
 
 }  // namespace quilm

@@ -19,4 +19,8 @@ class TemporaryFolder {
   std::string path_;
 };
 
+// Removes the folder with what is in it, also while somebody still writes there. What cannot be removed stays for the
+// system to clean up.
+void RemoveFolder(const std::string& path);
+
 }  // namespace quilm

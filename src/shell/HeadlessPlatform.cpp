@@ -41,9 +41,10 @@ Answer HeadlessPlatform::MessageBox(const std::string& text, Buttons buttons, Ic
 }
 
 std::optional<std::string> HeadlessPlatform::AskFile(FileAsked asked) {
-  const auto answer = TakeFirst(files);
-  if (!answer) throw Fault("No answer is queued for the file dialog: " + asked.title);
-  asked.answer = *answer;
+  if (files.empty() || !files.front().Answers(asked.save)) {
+    throw Fault("No answer is queued for the file dialog: " + asked.title);
+  }
+  asked.answer = TakeFirst(files)->path;
   fileDialogs.push_back(asked);
   if (onFile) onFile(asked);
   return asked.answer;

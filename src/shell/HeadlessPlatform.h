@@ -4,7 +4,9 @@
 
 #include <deque>
 #include <functional>
+#include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "shell/Picture.h"
@@ -26,6 +28,21 @@ struct FileAsked {
   std::string filter;
   std::string defaultName;
   std::optional<std::string> answer;
+};
+
+// The answer to a coming file dialog: a path, or nothing for a cancelled one.
+struct FileAnswer {
+  enum class For { Any, Open, Save };
+
+  FileAnswer(std::optional<std::string> answer, For dialog) : path(std::move(answer)), kind(dialog) {}
+  FileAnswer(std::string answer) : path(std::move(answer)) {}
+  FileAnswer(const char* answer) : path(answer) {}
+  FileAnswer(std::nullopt_t) {}
+
+  bool Answers(bool save) const { return kind == For::Any || (kind == For::Save) == save; }
+
+  std::optional<std::string> path;
+  For kind = For::Any;  // the only kind of dialog that it is meant for
 };
 
 // The printer of a machine without one: keeps the sheets of the document.
@@ -50,9 +67,9 @@ class HeadlessPlatform : public Platform {
   explicit HeadlessPlatform(std::string programFolder) : folder_(std::move(programFolder)) {}
 
   // Answers waiting for the next questions. A message box without one answers Ok; a Yes/No box without one is a Fault,
-  // and so is a file dialog. PrintDialog without one is cancelled.
+  // and so is a file dialog, or one whose answer is meant for the other kind. PrintDialog without one is cancelled.
   std::deque<Answer> answers;
-  std::deque<std::optional<std::string>> files;
+  std::deque<FileAnswer> files;
   std::deque<bool> printers;
 
   // What to do while the next modal pages, or tools beside a page, are open, one function a page. A page that is still

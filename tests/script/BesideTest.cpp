@@ -14,6 +14,14 @@ TEST(Beside, TakesTheCommandsUntilItCloses) {
   EXPECT_EQ(outcome.One("unload")["page"], "frmEnterWidth");
 }
 
+TEST(Beside, BothPagesArePrintedTheToolFirst) {
+  const auto pages = RunText("press cmdBeside\npage\npress cmdOk\n").Of("page");
+  ASSERT_EQ(pages.size(), 2U);
+  EXPECT_EQ(pages[0]["page"], "frmEnterWidth");
+  EXPECT_EQ(pages[1]["page"], "frmDesign");
+  EXPECT_EQ(RunText("press cmdBeside\npress cmdOk\npage\n").Of("page").size(), 1U);
+}
+
 TEST(Beside, ItsCloseBoxClosesItAlone) {
   EXPECT_THAT(RunText("press cmdBeside\nclose\npress cmdLog\n").log,
               ElementsAre("left entry []", "beside closed", "log"));

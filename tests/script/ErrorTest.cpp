@@ -42,7 +42,11 @@ constexpr Failing failing[] = {
     {"press cmdAsk", "no answer is queued for the question: Really?\r\nSure?"},
     {"answer ok\npress cmdAsk", "the question takes yes or no, and ok is queued: Really?\r\nSure?"},
     {"answer yes\npress cmdTell", "the message takes ok alone, and yes or no is queued: Done"},
-    {"file", "the form is: file PATH, or file cancel"},
+    {"file", "the form is: file [open|save] PATH, or file cancel"},
+    {"file open", "the form is: file [open|save] PATH, or file cancel"},
+    {"file save  ", "the form is: file [open|save] PATH, or file cancel"},
+    {"file open /a.QLM\npress cmdSave", "the dialog saves, and /a.QLM is queued to open: Write"},
+    {"file save /a.QLM\npress cmdOpen", "the dialog opens, and /a.QLM is queued to save: Get"},
     {"press cmdOpen", "no answer is queued for the file dialog: Get"},
     {"press cmdSave", "no answer is queued for the file dialog: Write"},
     {"printer maybe", "the form is: printer ok|cancel"},
@@ -112,6 +116,19 @@ TEST(ScriptErrors, AFaultOfAHandlerIsAMessageAndNoError) {
   EXPECT_FALSE(outcome.error);
   EXPECT_EQ(outcome.One("message")["text"], "This action could not be finished:\r\nout of paper");
   EXPECT_EQ(outcome.log.size(), 1U);
+}
+
+// The sink fails at one event after the other, wherever it happens: at the start, in a handler, at the end.
+TEST(ScriptErrors, AnEventThatCannotBePassedOnIsOne) {
+  const std::string script = "press cmdTell\npress cmdBeep\npress cmdForm\npage\npress cmdOk\npage\npress cmdEnd\n";
+  std::size_t events = 0;
+  for (std::size_t limit = 0; limit <= events; ++limit) {
+    const Outcome outcome = RunText(script, {}, limit);
+    if (limit == 0) events = RunText(script).events.size();
+    EXPECT_EQ(outcome.Reason(), limit < events ? "the pipe is shut" : "") << limit;
+    EXPECT_EQ(outcome.events.size(), limit);
+  }
+  EXPECT_GE(events, 6U);
 }
 
 TEST(ScriptErrors, WhatTheStartAsksWithoutAnAnswerIsOneToo) {

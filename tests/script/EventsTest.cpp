@@ -48,6 +48,12 @@ TEST(File, TellsWhatWasAskedAndAnswered) {
   EXPECT_THAT(outcome.log, ElementsAre("/a b/c.QLM", "cancelled"));
 }
 
+TEST(File, AnAnswerWithAKindGoesToItsKindOfDialog) {
+  const Outcome outcome =
+      RunText("file open /a b/c.QLM\nfile save open\nfile ./open\npress cmdOpen\npress cmdSave\npress cmdOpen\n");
+  EXPECT_THAT(outcome.log, ElementsAre("/a b/c.QLM", "open", "./open"));
+}
+
 TEST(Pages, TellWhichIsShownAndUnloaded) {
   const Outcome outcome = RunText("press cmdOther");
   EXPECT_EQ(outcome.One("unload")["page"], "frmDesign");

@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <map>
 #include <nlohmann/json.hpp>
 #include <sstream>
 
@@ -44,9 +45,14 @@ class Program : public testing::Test {
   // Runs it in the test's folder, which also holds its temporary files.
   Ended Run(const std::string& arguments, const std::string& script = {}) {
     std::ofstream(folder / "stdin") << script;
-    const std::string command = "cd '" + folder.string() + "' && TMPDIR='" + (folder / "tmp").string() + "' '" +
-                                QUILM_SCRIPT "' " + arguments + " <stdin >stdout 2>stderr";
-    const int status = std::system(command.c_str());
+    return RunInShell("\"$quilm\" " + arguments + " <stdin >stdout 2>stderr");
+  }
+
+  // Runs commands of the shell there; $quilm is the program.
+  Ended RunInShell(const std::string& commands) {
+    std::ofstream(folder / "commands") << "cd '" + folder.string() + "'\nexport TMPDIR='" + (folder / "tmp").string() +
+                                              "'\nquilm='" QUILM_SCRIPT "'\n" + commands;
+    const int status = std::system(("bash '" + (folder / "commands").string() + "'").c_str());
     return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, ContentOf(folder / "stdout"), ContentOf(folder / "stderr")};
   }
 
@@ -132,6 +138,88 @@ TEST_F(Program, EndsItselfWithTheEventExit) {
 TEST_F(Program, ItsTemporaryFolderIsRemoved) {
   Run("", "parse 1\n");
   Run("", "press cmdNone\n");
+  EXPECT_TRUE(std::filesystem::is_empty(folder / "tmp"));
+}
+
+TEST_F(Program, ATemporaryFolderThatCannotBeMadeGivesTwoAndSaysWhy) {
+  const Ended missing = RunInShell("TMPDIR=\"$PWD/none\" \"$quilm\" </dev/null >stdout 2>stderr");
+  EXPECT_EQ(missing.status, 2);
+  EXPECT_EQ(missing.err,
+            "quilm-script: the folder for temporary files cannot be used: " + (folder / "none\n").string());
+  // No folder can be made there by anybody.
+  const Ended refused = RunInShell("TMPDIR=/proc \"$quilm\" </dev/null >stdout 2>stderr");
+  EXPECT_EQ(refused.status, 2);
+  EXPECT_THAT(refused.err, testing::StartsWith("quilm-script: no temporary folder can be made at /proc/"));
+}
+
+TEST_F(Program, AFolderThatCannotBeUsedGivesTwoAndSaysWhy) {
+  std::filesystem::create_symlink("loop", folder / "loop");
+  for (const char* name : {"stdin", "stdin/below", "loop", "''"}) {
+    const Ended ended = Run("--folder " + std::string(name));
+    EXPECT_EQ(ended.status, 2) << name;
+    EXPECT_THAT(ended.err, testing::HasSubstr("is no folder, and cannot be made one")) << name;
+    EXPECT_EQ(ended.out, "") << name;
+  }
+}
+
+TEST_F(Program, AFolderThatIsProtectedAgainstWritingWillDo) {
+  std::filesystem::create_directory(folder / "mine");
+  std::ofstream(folder / "mine/QuilmConfiguration.CFG") << "Capacitor Q values: 1234 \r\n";
+  std::filesystem::permissions(folder / "mine", std::filesystem::perms(0555));
+  const Ended ended = Run("--folder mine", "record Qcap\n");
+  EXPECT_EQ(ended.status, 0) << ended.err;
+  EXPECT_EQ(ended.Events().back()["record"]["Qcap"][0], 1234.0);
+}
+
+TEST_F(Program, OutputThatCannotBeWrittenGivesOneAndSaysWhy) {
+  std::ofstream(folder / "stdin") << "page\n";
+  for (const char* output : {">/dev/full", ">&-"}) {
+    const Ended ended = RunInShell("\"$quilm\" <stdin 2>stderr " + std::string(output));
+    EXPECT_EQ(ended.status, 1) << output;
+    EXPECT_EQ(json::parse(ended.err)["reason"], "the output cannot be written") << output;
+    EXPECT_TRUE(std::filesystem::is_empty(folder / "tmp")) << output;
+  }
+}
+
+// More than a pipe holds, so that the writer is still at it when the reader has gone.
+TEST_F(Program, AReaderThatGoesEndsTheRunAndItsTemporaryFolder) {
+  std::ofstream script(folder / "stdin");
+  for (int i = 0; i < 2000; ++i) script << "page\n";
+  script.close();
+  const Ended ended = RunInShell("\"$quilm\" <stdin 2>stderr | head -c 100 >stdout\nexit ${PIPESTATUS[0]}");
+  EXPECT_EQ(ended.status, 1);
+  EXPECT_TRUE(std::filesystem::is_empty(folder / "tmp"));
+}
+
+// It waits for a line that does not come, and has a file of its own in its folder by then.
+TEST_F(Program, ASignalTakesItsTemporaryFolderAway) {
+  for (const char* signal : {"TERM", "INT", "HUP"}) {
+    const Ended ended = RunInShell(
+        "rm -f in; mkfifo in\n"
+        "(trap - INT; exec \"$quilm\" <in >stdout 2>stderr) & pid=$!\n"
+        "exec 3>in\n"
+        "echo page >&3\n"
+        "for i in $(seq 500); do test $(wc -l <stdout) = 2 && break; sleep 0.01; done\n"
+        "for made in tmp/quilm-*; do echo mine >$made/mine; done\n"
+        "kill -" +
+        std::string(signal) + " $pid; wait $pid; exit $?");
+    const std::map<std::string, int> number{{"TERM", 15}, {"INT", 2}, {"HUP", 1}};
+    EXPECT_EQ(ended.status, 128 + number.at(signal)) << signal;
+    EXPECT_EQ(ended.Events().size(), 2U) << signal;
+    EXPECT_TRUE(std::filesystem::is_empty(folder / "tmp")) << signal;
+  }
+}
+
+TEST_F(Program, ASignalThatIsIgnoredStaysSo) {
+  const Ended ended = RunInShell(
+      "mkfifo in\n"
+      "(trap '' HUP; exec \"$quilm\" <in >stdout 2>stderr) & pid=$!\n"
+      "exec 3>in\n"
+      "echo page >&3\n"
+      "for i in $(seq 500); do test $(wc -l <stdout) = 2 && break; sleep 0.01; done\n"
+      "kill -HUP $pid; echo page >&3; exec 3>&-; wait $pid; exit $?");
+  EXPECT_EQ(ended.status, 0);
+  EXPECT_EQ(ended.Events().size(), 3U);
   EXPECT_TRUE(std::filesystem::is_empty(folder / "tmp"));
 }
 

@@ -156,7 +156,7 @@ Json Outcome::Control(const std::string& name) const {
   return nullptr;
 }
 
-Outcome RunText(const std::string& script, const std::function<void(Session&)>& prepare) {
+Outcome RunText(const std::string& script, const std::function<void(Session&)>& prepare, std::size_t mostEvents) {
   Outcome outcome;
   std::istringstream text(script);
   const PageDirectory pages{
@@ -166,8 +166,10 @@ Outcome RunText(const std::string& script, const std::function<void(Session&)>& 
       {PageId::Schematic,
        [&](Session& session) { return std::make_unique<DemoRunPage>(session, PageId::Schematic, outcome.run); }}};
   // Read back, as whoever uses the lines does.
-  ScriptRun run(text, "/nowhere", pages,
-                [&](const Json& event) { outcome.events.push_back(Json::parse(JsonLine(event))); });
+  ScriptRun run(text, "/nowhere", pages, [&](const Json& event) {
+    if (outcome.events.size() == mostEvents) throw CommandFailure{"the pipe is shut"};
+    outcome.events.push_back(Json::parse(JsonLine(event)));
+  });
   if (prepare) prepare(run.session);
   try {
     run.Run([](Session& session) { session.pages.ShowPage(PageId::Design); });

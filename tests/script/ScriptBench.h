@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
 #include <sstream>
 
 #include "script/ScriptRun.h"
@@ -99,7 +100,9 @@ struct Outcome {
   std::string Reason() const { return error ? error->reason : std::string(); }
 };
 
-// Runs the text of a script over the small program. `prepare` sees the session before.
-Outcome RunText(const std::string& script, const std::function<void(Session&)>& prepare = {});
+// Runs the text of a script over the small program. `prepare` sees the session before. After `mostEvents` no more can
+// be printed.
+Outcome RunText(const std::string& script, const std::function<void(Session&)>& prepare = {},
+                std::size_t mostEvents = SIZE_MAX);
 
 }  // namespace quilm

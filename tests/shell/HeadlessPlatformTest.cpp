@@ -33,6 +33,15 @@ TEST_F(HeadlessPlatformTest, AFileDialogNeedsAnAnswer) {
   EXPECT_THROW(platform.SaveDialog("Write", "filter", "name"), Fault);
 }
 
+TEST_F(HeadlessPlatformTest, AnAnswerForOneKindOfDialogWaitsForThatKind) {
+  platform.files.emplace_back("/read.QLM", FileAnswer::For::Open);
+  EXPECT_THROW(platform.SaveDialog("Write", "filter", "name"), Fault);
+  EXPECT_EQ(platform.OpenDialog("Get", "filter"), "/read.QLM");
+  platform.files.emplace_back("/written.QLM", FileAnswer::For::Save);
+  EXPECT_THROW(platform.OpenDialog("Get", "filter"), Fault);
+  EXPECT_EQ(platform.SaveDialog("Write", "filter", "name"), "/written.QLM");
+}
+
 TEST_F(HeadlessPlatformTest, FileDialogsAreRecorded) {
   platform.files = {"/a.QLM", std::nullopt};
   EXPECT_EQ(platform.OpenDialog("Get", "one"), "/a.QLM");
