@@ -15,7 +15,10 @@ namespace {
 f32 AboveZero(f32 configured, f32 otherwise) { return configured > 0 ? configured : otherwise; }
 
 f32 DelayOfDesign(const DesignRecord& record, f32 configured, f32 otherwise) {
-  if (record.Width > 0 && record.Order > 0) return record.Order * 0.3F / record.Width;
+  if (record.Width > 0 && record.Order > 0) {
+    const f32 delay = record.Order * 0.3F / record.Width;
+    if (std::isfinite(delay)) return delay;
+  }
   return AboveZero(configured, otherwise);
 }
 
@@ -27,6 +30,11 @@ f32 ReferenceOf(const DesignRecord& record) {
 
 }  // namespace
 
+void FillMissingQualities(Network& network, const Configuration& configuration) {
+  if (network.Qind[1] <= 0) network.Qind[1] = AboveZero(configuration.ConfigValue[lineQind], 200);
+  if (network.Qcap[1] <= 0) network.Qcap[1] = AboveZero(configuration.ConfigValue[lineQcap], 2000);
+}
+
 void FillMissingEntries(DesignRecord& record, const Configuration& configuration) {
   const auto& configured = configuration.ConfigValue;
   if (record.Fstart <= 0) record.Fstart = AboveZero(configured[lineFstart], 100);
@@ -36,11 +44,12 @@ void FillMissingEntries(DesignRecord& record, const Configuration& configuration
   if (record.NrXints < limitsOf::NrXints.lowest)
     record.NrXints = ToI16(static_cast<f64>(AboveZero(configured[lineNrXints], 10)));
   if (record.NrYints < limitsOf::NrYintsAtSpin.lowest) record.NrYints = AboveZero(configured[lineNrYints], 6);
+  // A file may have any number; the label and the spin control have whole ones.
+  record.NrYints = std::min(record.NrYints, limitsOf::NrYintsAtSpin.highest);
   if (record.LossBottom >= 0) record.LossBottom = configured[lineLossBottom] < 0 ? configured[lineLossBottom] : -60;
   if (record.DelayTop == 0) record.DelayTop = DelayOfDesign(record, configured[lineDelayTop], 0.001F);
   if (record.ImpedanceTop <= 0) record.ImpedanceTop = AboveZero(configured[lineImpedanceTop], 120);
-  if (record.Qind[1] <= 0) record.Qind[1] = AboveZero(configured[lineQind], 200);
-  if (record.Qcap[1] <= 0) record.Qcap[1] = AboveZero(configured[lineQcap], 2000);
+  FillMissingQualities(record, configuration);
   if (record.Rstandard <= 0) record.Rstandard = ReferenceOf(record);
 }
 
@@ -54,6 +63,7 @@ void HoldAnalysisEntries(DesignRecord& record, const Configuration& configuratio
   }
   record.DelayTop = limitsOf::DelayTop.Held(record.DelayTop);
   record.VSWRTop = limitsOf::VSWRTop.Held(record.VSWRTop);
+  FillMissingQualities(record, configuration);
   record.Qind[1] = limitsOf::Q.Held(record.Qind[1]);
   record.Qcap[1] = limitsOf::Q.Held(record.Qcap[1]);
   if (record.Rsource[1] > limitsOf::leastEntered) {

@@ -8,8 +8,12 @@
 
 namespace quilm {
 
+// A Q of 0 or below is none: it becomes the configured value, else 200 for inductors and 2000 for capacitors.
+void FillMissingQualities(Network& network, const Configuration& configuration);
+
 // Fills in what is missing when the page loads: the configured value if there is one, else a figure that suits most
-// designs. A delay scale follows from the order and the bandwidth where both are known.
+// designs. A delay scale follows from the order and the bandwidth where both are known. More grid intervals upward than
+// a spin control can have, as a file may bring, become the most that it can.
 void FillMissingEntries(DesignRecord& record, const Configuration& configuration);
 
 // Forces the scales, Q values and counts into their ranges before a plot or a table; the design's own entries and the

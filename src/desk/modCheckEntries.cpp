@@ -20,7 +20,7 @@ void ShowEntry(Session& session, const RepairedEntry& box) {
 }  // namespace
 
 bool CheckEntries(Session& session) {
-  const EntryReport report = ExamineEntries(session.record);
+  const EntryReport report = ExamineEntries(session.record, session.configuration);
   for (const RepairedEntry& box : report.boxes) ShowEntry(session, box);
   for (const EntryFinding& finding : report.findings) {
     session.platform.MessageBox(finding.text, Buttons::Ok, Icon::Exclamation, finding.title);

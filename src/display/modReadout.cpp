@@ -1,5 +1,6 @@
 #include "display/modReadout.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <string>
@@ -76,7 +77,8 @@ bool InReadoutFrame(f32 x, f32 y) { return x > plotFrame.left && x < plotFrame.R
 
 i16 CursorIndex(const SweepSettings& sweep, f32 x) {
   const f64 part = (static_cast<f64>(x) - static_cast<f64>(plotFrame.left)) / static_cast<f64>(plotFrame.width);
-  const f64 index = std::floor(part * (static_cast<f64>(sweep.NrIntervals) + 1));
+  // At the right edge, and with intervals that are no whole number, the last point is the nearest.
+  const f64 index = std::min(std::floor(part * (static_cast<f64>(sweep.NrIntervals) + 1)), f64(LastPoint(sweep)));
   if (!(index >= 0 && index <= responseBound)) throw BoundFault();
   return static_cast<i16>(index);
 }

@@ -1,5 +1,6 @@
 #include "synthesis/EntryRules.h"
 
+#include "analysis/AnalysisEntries.h"
 #include "core/DesignRecord.h"
 #include "core/EntryLimits.h"
 #include "core/Topology.h"
@@ -14,6 +15,7 @@ namespace {
 // The rules at work on one record.
 struct Check {
   DesignRecord& record;
+  const Configuration& configuration;
   EntryReport report;
 
   void Tell(std::string title, std::string text) { report.findings.push_back({std::move(title), std::move(text), {}}); }
@@ -191,6 +193,16 @@ void HoldImpedanceTop(Check& check) {
 
 // A blank configuration leaves these at 0.
 void HoldVSWRTop(Check& check) { Hold(check, VSWRrange); }
+void FillQualities(Check& check) {
+  const f32 Qind = check.record.Qind[1];
+  const f32 Qcap = check.record.Qcap[1];
+  FillMissingQualities(check.record, check.configuration);
+  const auto tell = [&check](f32 before, f32 now, const char* control) {
+    if (now != before) check.Repaired(PageId::Analyze, control, EntryText(now, FormatValue));
+  };
+  tell(Qind, check.record.Qind[1], "txtQinductor");
+  tell(Qcap, check.record.Qcap[1], "txtQcapacitor");
+}
 void HoldQind(Check& check) { Hold(check, QindRange); }
 void HoldQcap(Check& check) { Hold(check, QcapRange); }
 
@@ -200,7 +212,7 @@ constexpr Rule rules[] = {
     HoldYints,     HoldXints,       HoldIntervals, HoldOrderToProgram, HoldStages,       HoldOrderToFamily,
     RequireWidth,  RequireSource,   RequireCenter, HoldStart,          HoldStop,         SetSweepMode,
     RequireRipple, RequireStopband, RequireDepth,  RequireCauerOrder,  RequireReference, HoldImpedanceTop,
-    HoldVSWRTop,   HoldQind,        HoldQcap,
+    HoldVSWRTop,   FillQualities,   HoldQind,      HoldQcap,
 };
 
 }  // namespace
@@ -210,8 +222,8 @@ bool HasInputTermination(const DesignRecord& record) {
   return source > limitsOf::leastEntered || (IsByHand(record) && source == limitsOf::leastEntered);
 }
 
-EntryReport ExamineEntries(DesignRecord& record) {
-  Check check{record, {}};
+EntryReport ExamineEntries(DesignRecord& record, const Configuration& configuration) {
+  Check check{record, configuration, {}};
   for (const Rule rule : rules) {
     rule(check);
     if (!check.report.Passed()) break;

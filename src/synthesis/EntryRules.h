@@ -37,7 +37,8 @@ struct EntryReport {
 };
 
 // Applies the rules one after the other up to the first failure. Repairs what is out of range, with a message only
-// where the rule has one; a repair clears ResponsesValid. Nothing is a fault.
-EntryReport ExamineEntries(DesignRecord& record);
+// where the rule has one; a repair clears ResponsesValid. The configuration stands by for a Q that is missing. Nothing
+// is a fault.
+EntryReport ExamineEntries(DesignRecord& record, const Configuration& configuration);
 
 }  // namespace quilm

@@ -52,6 +52,21 @@ TEST_F(AnalysisEntries, ScalesAndQualitiesAreHeldInTheirRanges) {
   ExpectRange(record.LossBottom, -120, -0.6F);
 }
 
+// A Q of 1 is an entry, if one that no plot takes; of 0 and below there is none.
+TEST_F(AnalysisEntries, AMissingQualityIsTheConfiguredOneElseAFigure) {
+  configuration.ConfigValue[lineQind] = 150;
+  configuration.ConfigValue[lineQcap] = 900;
+  for (const f32 missing : {0.0F, -1.0F, -1e9F}) {
+    ExpectHeld(record.Qind[1], missing, 150);
+    ExpectHeld(record.Qcap[1], missing, 900);
+  }
+  configuration.ConfigValue[lineQind] = configuration.ConfigValue[lineQcap] = 0;
+  ExpectHeld(record.Qind[1], 0, 200);
+  ExpectHeld(record.Qcap[1], 0, 2000);
+  ExpectHeld(record.Qind[1], 1, 2);
+  ExpectHeld(record.Qcap[1], JustAbove(0), 2);
+}
+
 TEST_F(AnalysisEntries, ALossIsBelowZero) {
   ExpectHeld(record.LossBottom, 60, -60);
   ExpectHeld(record.LossBottom, 0, -0.6F);
@@ -159,7 +174,23 @@ TEST_F(AnalysisEntries, WhatIsMissingIsFilledFromTheConfigurationElseWithAFigure
   EXPECT_EQ(record.Qcap[1], 2000);
 }
 
-// Loading the page holds nothing: a scale of one interval upward, or a Q of 1, is the user's until a plot asks.
+TEST_F(AnalysisEntries, MoreIntervalsThanTheSpinControlHasAreHeldWhenThePageLoads) {
+  for (const f32 upward : {30000.0F, 30001.0F, 9e9F}) {
+    record.NrYints = upward;
+    FillMissingEntries(record, configuration);
+    EXPECT_EQ(record.NrYints, 30000);
+  }
+}
+
+// 5 * 0.3 / 1e-39 seconds are more than 32 bits hold.
+TEST_F(AnalysisEntries, ADelayBeyondAllNumbersIsNone) {
+  record.Width = 1e-39F;
+  record.DelayTop = 0;
+  FillMissingEntries(record, configuration);
+  EXPECT_EQ(record.DelayTop, 0.0001F);  // the configured one
+}
+
+// Loading the page holds little: a scale of one interval upward, or a Q of 1, is the user's until a plot asks.
 TEST_F(AnalysisEntries, WhatIsThereStaysWhenThePageLoads) {
   record.NrYints = 1;
   record.Qind[1] = 1;

@@ -182,6 +182,16 @@ TEST(CursorIndex, IsLinearOverTheFrame) {
   EXPECT_EQ(CursorIndex(sweep, std::nextafter(11000.0F, 0.0F)), 99);
 }
 
+// 1000.4 intervals have their last point at 1000, where the frame has room for one more.
+TEST(CursorIndex, NeverPassesTheLastPoint) {
+  SweepSettings sweep;
+  for (const f32 intervals : {4.0F, 99.0F, 1000.4F, 2047.49F, 2049.0F}) {
+    sweep.NrIntervals = intervals;
+    EXPECT_EQ(CursorIndex(sweep, std::nextafter(11000.0F, 0.0F)), std::floor(intervals)) << intervals;
+    EXPECT_EQ(CursorIndex(sweep, 11000), std::floor(intervals)) << intervals;
+  }
+}
+
 TEST(CursorIndex, BeyondTheResponsesIsABoundFault) {
   SweepSettings sweep;
   sweep.NrIntervals = 3000;

@@ -1,3 +1,4 @@
+#include "core/Configuration.h"
 #include "core/Responses.h"
 #include "desk/StartUp.h"
 #include "pages/PageBench.h"
@@ -128,6 +129,36 @@ TEST_F(AnalysisPage, SpinControlsHaveTheirOwnLimits) {
   EXPECT_EQ(Record().NrYints, 1);
   for (int i = 0; i < 10; ++i) Step(session, Get<Spin>("UpDown3"), 1);
   EXPECT_EQ(Record().PlotLineWidth, 6);
+}
+
+TEST_F(AnalysisPage, TheIntervalsOfAFileAreHeldBeforeTheyAreShown) {
+  Record().NrYints = 9e9F;
+  session.pages.ShowPage(PageId::Analyze);
+  EXPECT_EQ(Caption("lblNrYints"), "30000");
+  EXPECT_EQ(Record().NrYints, 30000);
+}
+
+TEST_F(AnalysisPage, AQualityOfNoughtIsTheConfiguredOneBeforeAPlot) {
+  session.configuration.ConfigValue[lineQind] = 150;
+  Enter("txtQinductor", "0");
+  Enter("txtQcapacitor", "-1");
+  Press("cmdPlot");
+  EXPECT_EQ(Top().Id(), PageId::Plotted);
+  EXPECT_EQ(Record().Qind[1], 150);
+  EXPECT_EQ(Record().Qcap[1], 2000);
+  // And on every other way to a result.
+  Press("cmdDesign");
+  Record().Qind[1] = 0;
+  Press("cmdTabulate");
+  EXPECT_EQ(Record().Qind[1], 150);
+}
+
+TEST_F(AnalysisPage, ABoxThatALimitChangesTurnsWarmAndSaysSo) {
+  const i32 before = Get<TextBox>("txtNrIntervals").Repairs();
+  Enter("txtNrIntervals", "5000");
+  EXPECT_EQ(Text("txtNrIntervals"), "2049");
+  EXPECT_EQ(Get<TextBox>("txtNrIntervals").Repairs(), before + 1);
+  EXPECT_EQ(session.note, "Number of intervals of the sweep: \"5000\" is taken as 2049");
 }
 
 TEST_F(AnalysisPage, TheCheckBeforeAPlotForcesTheRanges) {

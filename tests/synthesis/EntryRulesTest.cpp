@@ -10,6 +10,8 @@
 namespace quilm {
 namespace {
 
+const Configuration settings;  // an empty one
+
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 using ::testing::SizeIs;
@@ -17,7 +19,7 @@ using ::testing::SizeIs;
 // A design that passes every rule as it stands.
 TEST(EntryRules, ASoundDesignPassesUntouched) {
   DesignRecord record = Sound();
-  const EntryReport report = ExamineEntries(record);
+  const EntryReport report = ExamineEntries(record, settings);
   EXPECT_TRUE(report.Passed());
   EXPECT_THAT(report.findings, IsEmpty());
   EXPECT_THAT(report.boxes, IsEmpty());
@@ -52,8 +54,11 @@ TEST(EntryRules, SettingsAreHeldInTheirRangesWithoutAWord) {
       {"Fstop", 2e10F, 1e10F, QUILM_FIELD(Fstop)},
       {"VSWRTop", 0, 1.05F, QUILM_FIELD(VSWRTop)},
       {"VSWRTop", 7.5F, 7, QUILM_FIELD(VSWRTop)},
-      {"Qind", 0, 2, QUILM_FIELD(Qind[1])},
+      {"Qind", 0, 200, QUILM_FIELD(Qind[1])},
+      {"Qind", -3, 200, QUILM_FIELD(Qind[1])},
+      {"Qind", 1, 2, QUILM_FIELD(Qind[1])},
       {"Qind", 2e7F, 1e7F, QUILM_FIELD(Qind[1])},
+      {"Qcap", 0, 2000, QUILM_FIELD(Qcap[1])},
       {"Qcap", 1, 2, QUILM_FIELD(Qcap[1])},
       {"Qcap", 1e8F, 1e7F, QUILM_FIELD(Qcap[1])},
       {"ImpedanceTop", 49, 50, QUILM_FIELD(ImpedanceTop)},
@@ -63,7 +68,7 @@ TEST(EntryRules, SettingsAreHeldInTheirRangesWithoutAWord) {
     SCOPED_TRACE(testing::Message() << row.name << " " << row.entered);
     DesignRecord record = Sound();
     row.set(record, row.entered);
-    const EntryReport report = ExamineEntries(record);
+    const EntryReport report = ExamineEntries(record, settings);
     EXPECT_EQ(row.get(record), row.held);
     EXPECT_THAT(report.findings, IsEmpty());
     EXPECT_THAT(report.boxes, SizeIs(row.held == row.entered ? 0 : 1));
@@ -91,7 +96,7 @@ TEST(EntryRules, BothLimitsBelongToTheRange) {
     const auto held = [&row](f32 entered) {
       DesignRecord record = Sound();
       row.set(record, entered);
-      ExamineEntries(record);
+      ExamineEntries(record, settings);
       return row.get(record);
     };
     EXPECT_EQ(held(below), row.lowest);
@@ -121,8 +126,8 @@ TEST(EntryRules, ALimitIsShownAsItReads) {
   for (const auto& row : table) {
     for (const bool high : {false, true}) {
       DesignRecord record = Sound();
-      row.set(record, high ? 2e10F : -1);
-      EXPECT_THAT(ExamineEntries(record).boxes,
+      row.set(record, high ? 2e10F : 0.001F);
+      EXPECT_THAT(ExamineEntries(record, settings).boxes,
                   ElementsAre(RepairedEntry{PageId::Analyze, row.box, high ? row.highest : row.lowest}));
     }
   }
@@ -136,7 +141,7 @@ TEST(EntryRules, EntriesCountAboveTheirLeast) {
     DesignRecord record = Sound();
     record.Rsource[1] = source;
     record.NetworkEdited = edited ? 1 : 0;
-    return ExamineEntries(record).Passed();
+    return ExamineEntries(record, settings).Passed();
   };
   EXPECT_TRUE(passes(above, false));
   EXPECT_FALSE(passes(0.01F, false));
@@ -144,7 +149,7 @@ TEST(EntryRules, EntriesCountAboveTheirLeast) {
   EXPECT_FALSE(passes(below, true));
   DesignRecord narrow = Sound();
   narrow.Width = std::numeric_limits<f32>::min();
-  EXPECT_TRUE(ExamineEntries(narrow).Passed());
+  EXPECT_TRUE(ExamineEntries(narrow, settings).Passed());
 }
 
 TEST(EntryRules, ACauerDepthIsFrom10To180) {
@@ -155,7 +160,7 @@ TEST(EntryRules, ACauerDepthIsFrom10To180) {
   for (const auto& [depth, passes] : rows) {
     DesignRecord record = Cauer(5);
     record.Astop = depth;
-    EXPECT_EQ(ExamineEntries(record).Passed(), passes) << depth;
+    EXPECT_EQ(ExamineEntries(record, settings).Passed(), passes) << depth;
   }
 }
 
@@ -163,7 +168,7 @@ TEST(EntryRules, HorizontalIntervalsAreHeldFrom1To30) {
   for (const auto& [entered, held] : {std::pair<i16, i16>{0, 1}, {1, 1}, {30, 30}, {31, 30}, {-4, 1}}) {
     DesignRecord record = Sound();
     record.NrXints = entered;
-    EXPECT_THAT(ExamineEntries(record).findings, IsEmpty());
+    EXPECT_THAT(ExamineEntries(record, settings).findings, IsEmpty());
     EXPECT_EQ(record.NrXints, held);
   }
 }
@@ -171,7 +176,7 @@ TEST(EntryRules, HorizontalIntervalsAreHeldFrom1To30) {
 TEST(EntryRules, UnsetSweepLimitsFollowTheBand) {
   DesignRecord lowpass = Sound();
   lowpass.Fstart = lowpass.Fstop = 0;
-  ExamineEntries(lowpass);
+  ExamineEntries(lowpass, settings);
   EXPECT_EQ(lowpass.Fstart, 5e5F);
   EXPECT_EQ(lowpass.Fstop, 2e6F);
   for (const std::string topology : {"C", "D", "E", "F", "G", "H", "K", "L"}) {
@@ -179,7 +184,7 @@ TEST(EntryRules, UnsetSweepLimitsFollowTheBand) {
     bandpass.Topology = topology;
     bandpass.Fcenter = 1e7F;
     bandpass.Fstart = bandpass.Fstop = 0;
-    ExamineEntries(bandpass);
+    ExamineEntries(bandpass, settings);
     EXPECT_EQ(bandpass.Fstart, 8e6F) << topology;
     EXPECT_EQ(bandpass.Fstop, 1.2e7F) << topology;
   }
@@ -187,7 +192,7 @@ TEST(EntryRules, UnsetSweepLimitsFollowTheBand) {
   wide.Topology = "E";
   wide.Fcenter = 1e6F;
   wide.Fstart = 0;
-  ExamineEntries(wide);
+  ExamineEntries(wide, settings);
   EXPECT_EQ(wide.Fstart, 0.01F);
 }
 
@@ -218,7 +223,7 @@ TEST(EntryRules, OrdersAreCutWithAMessageAndTheCheckGoesOn) {
     DesignRecord record = Sound();
     record.Family = row.family;
     record.Order = row.order;
-    const EntryReport report = ExamineEntries(record);
+    const EntryReport report = ExamineEntries(record, settings);
     EXPECT_EQ(record.Order, row.held);
     EXPECT_TRUE(report.Passed());
     std::vector<std::string> texts;
@@ -233,7 +238,7 @@ TEST(EntryRules, OrdersAreCutWithAMessageAndTheCheckGoesOn) {
 TEST(EntryRules, StagesAreCutToTheirLimit) {
   DesignRecord record = Sound();
   record.Stages = 44;
-  const EntryReport report = ExamineEntries(record);
+  const EntryReport report = ExamineEntries(record, settings);
   EXPECT_THAT(report.findings, ElementsAre(EntryFinding{
                                    "", "The number of stages has been reset to the\r\nupper allowed limit of 43", ""}));
   EXPECT_EQ(record.Stages, 43);
@@ -243,7 +248,7 @@ TEST(EntryRules, StagesAreCutToTheirLimit) {
 TEST(EntryRules, AnUnsetSweepModeBecomesLogarithmic) {
   DesignRecord record = Sound();
   record.SweepMode = 0;
-  const EntryReport report = ExamineEntries(record);
+  const EntryReport report = ExamineEntries(record, settings);
   EXPECT_THAT(report.findings,
               ElementsAre(EntryFinding{"Error checker 237", "Unspecified sweep mode set to logarithmic", ""}));
   EXPECT_TRUE(report.Passed());
@@ -254,7 +259,7 @@ TEST(EntryRules, AMissingEntryFails) {
   for (const FailureCase& row : Failures()) {
     SCOPED_TRACE(row.finding.title + " topology " + row.record.Topology);
     DesignRecord record = row.record;
-    const EntryReport report = ExamineEntries(record);
+    const EntryReport report = ExamineEntries(record, settings);
     EXPECT_FALSE(report.Passed());
     ASSERT_THAT(report.findings, SizeIs(1));
     EXPECT_EQ(report.findings[0].title, row.finding.title);
@@ -266,34 +271,34 @@ TEST(EntryRules, AMissingEntryFails) {
 TEST(EntryRules, WhatTheFamilyOrTopologyDoesNotNeedMayBeMissing) {
   DesignRecord odd = Cauer(5);
   odd.Apass = 0;
-  EXPECT_TRUE(ExamineEntries(odd).Passed());
+  EXPECT_TRUE(ExamineEntries(odd, settings).Passed());
   DesignRecord even = Cauer(4);
   even.Fstopband = 0;
-  EXPECT_TRUE(ExamineEntries(even).Passed());
+  EXPECT_TRUE(ExamineEntries(even, settings).Passed());
   for (const f32 depth : {10.0F, 180.0F}) {
     DesignRecord record = Cauer(3);
     record.Astop = depth;
-    EXPECT_TRUE(ExamineEntries(record).Passed());
+    EXPECT_TRUE(ExamineEntries(record, settings).Passed());
   }
   for (const std::string topology : {"A", "B", "I", "J", "M"}) {
     DesignRecord record = Sound();
     record.Topology = topology;
-    EXPECT_TRUE(ExamineEntries(record).Passed()) << topology;
+    EXPECT_TRUE(ExamineEntries(record, settings).Passed()) << topology;
   }
   DesignRecord noReference = Sound();
   noReference.Rstandard = 0;
-  EXPECT_TRUE(ExamineEntries(noReference).Passed());
+  EXPECT_TRUE(ExamineEntries(noReference, settings).Passed());
 }
 
 TEST(EntryRules, AnEditedNetworkNeedsNoBandwidth) {
   DesignRecord edited = Sound();
   edited.Width = 0;
   edited.NetworkEdited = 1;
-  EXPECT_TRUE(ExamineEntries(edited).Passed());
+  EXPECT_TRUE(ExamineEntries(edited, settings).Passed());
   DesignRecord manual = Sound();
   manual.Width = 0;
   manual.Family = familyManual;
-  EXPECT_TRUE(ExamineEntries(manual).Passed());
+  EXPECT_TRUE(ExamineEntries(manual, settings).Passed());
 }
 
 }  // namespace
