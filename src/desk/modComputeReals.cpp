@@ -23,7 +23,7 @@ bool Refuse(Session& session, const char* text, std::string_view focus) {
 
 bool ComputeReals(Session& session) {
   if (NetworkStands(session.identity)) return true;
-  if (session.entries.Width == 0) {
+  if (!(session.entries.Width > 0)) {
     return Refuse(session, "We need a bandwidth entry; please enter the bandwidth", "txtBandwidth");
   }
   try {

@@ -81,6 +81,11 @@ void SetLoad(DesignRecord& record, Scales& scales, Load rule) {
   record.Rload[1] = scales.scope.Store(load);
 }
 
+// A negative one would give parts as negative.
+void RequireWidth(const Entries& entries) {
+  if (!(entries.Width > 0)) throw NumericFault("There is no bandwidth");
+}
+
 // Tolerances and element types stay.
 void ClearStages(Network& network) {
   for (Stage& stage : network.stage) {
@@ -125,6 +130,7 @@ void Build(const TopologyRow& row, DesignRecord& record) {
   NumericFaultScope scope;
   ClearStages(record);
   record.Stages = 0;
+  RequireWidth(record);
   Scales scales(record, scope);
   RequirePrototype(record, scales.n);
   const int places = row.build(scales);

@@ -100,8 +100,9 @@ int BuildChain(DesignRecord& record, const Sections& sections) {
 }  // namespace
 
 bool IsInStopband(const DesignRecord& record, f32 zero) {
-  // The section of a highpass squares the frequency, so that one far below 0 would be as far above the band's end.
-  return IsHighpass(record.Topology) ? std::fabs(zero) < record.Width : zero > record.Width;
+  // The sections square the frequency, so that one below 0 would be built as the one above.
+  if (!(zero > 0)) return false;
+  return IsHighpass(record.Topology) ? zero < record.Width : zero > record.Width;
 }
 
 bool HasMderivedZeros(const Entries& entries) {

@@ -12,8 +12,8 @@ namespace quilm {
 
 inline constexpr int mostMderivedZeros = 5;
 
-// Whether a zero (Hz) lies in the stopband: above Width, and for a highpass below it, where the sign counts for
-// nothing.
+// Whether a zero (Hz) lies in the stopband: above Width, and for a highpass between 0 and Width. No frequency at or
+// below 0 does.
 bool IsInStopband(const DesignRecord& record, f32 zero);
 
 // Whether MderivedZero[1..5] holds any zero.

@@ -47,6 +47,17 @@ TEST(ComputeReals, WithoutABandwidthItAsksForOne) {
   EXPECT_EQ(bench.record, before);
 }
 
+TEST(ComputeReals, ABandwidthBelowNoughtIsNone) {
+  DesignBench bench;
+  bench.record = HandMade("A", {1, 2, 1});
+  bench.record.Width = -1e6F;
+  EXPECT_FALSE(ComputeReals(bench.session));
+  ASSERT_EQ(bench.platform.messages.size(), 1U);
+  EXPECT_EQ(bench.platform.messages[0].text, "We need a bandwidth entry; please enter the bandwidth");
+  EXPECT_THROW(MakeNetwork(bench.record), Fault);
+  EXPECT_EQ(bench.record.Stages, 0);
+}
+
 TEST(ComputeReals, ADesignPageOnTopIsNotLoadedAgain) {
   DesignBench bench;
   bench.session.pages.ShowPage(PageId::Design);

@@ -139,7 +139,7 @@ TEST(Mderived, EveryZeroIsAPoleOfTheLoss) {
   }
 }
 
-TEST(Mderived, TheStopbandOfAHighpassLiesBelowInMagnitude) {
+TEST(Mderived, TheStopbandOfAHighpassLiesBelowItsEdge) {
   DesignRecord record;
   record.Width = width;
   for (const char* topology : {"I", "J"}) {
@@ -147,11 +147,13 @@ TEST(Mderived, TheStopbandOfAHighpassLiesBelowInMagnitude) {
     EXPECT_TRUE(IsInStopband(record, 0.8F * width)) << topology;
     EXPECT_FALSE(IsInStopband(record, width)) << topology;
     EXPECT_FALSE(IsInStopband(record, 1.2F * width)) << topology;
-    EXPECT_FALSE(IsInStopband(record, -2 * width)) << topology;
+    for (const f32 below : {0.0F, -0.8F * width, -2 * width}) EXPECT_FALSE(IsInStopband(record, below)) << topology;
   }
   record.Topology = "A";
   EXPECT_TRUE(IsInStopband(record, 1.2F * width));
   EXPECT_FALSE(IsInStopband(record, width));
+  EXPECT_FALSE(IsInStopband(record, -2 * width));
+  record.Width = -5 * width;  // no width, but not yet refused where the zeros are entered
   EXPECT_FALSE(IsInStopband(record, -2 * width));
 }
 
