@@ -33,7 +33,7 @@ class Walk {
  public:
   Walk(const QString& folder, QSize size) : folder_(folder), desktop_(AllPages(), data_.path()) {
     QDir().mkpath(folder);
-    desktop_.window.summary = [this] { return DesignSummary(desktop_.session.record); };
+    desktop_.window.summary = [this] { return DesignSummary(desktop_.session.record, true); };
     desktop_.Start(StartProgram);
     desktop_.window.resize(size);
     Settle();

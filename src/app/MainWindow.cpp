@@ -123,11 +123,18 @@ QWidget* MainWindow::HolderOf(const PageView& view) const {
 void MainWindow::ShowPage(PageView& view, const QString& title) {
   QWidget* holder = HolderOf(view);
   if (holder == nullptr) return;
-  const bool named = !title.isEmpty() && title != QLatin1String("Quilm");
-  setWindowTitle(named ? title + QStringLiteral(" - Quilm") : QStringLiteral("Quilm"));
+  pageTitle_ = title;
+  ShowTitle();
   if (pages_->currentWidget() == holder) return;
   pages_->setCurrentWidget(holder);
   view.FocusFirst();
+}
+
+void MainWindow::ShowTitle() {
+  const QString design = designName ? ToQt(designName()) : QString();
+  const QString& name = design.isEmpty() ? pageTitle_ : design;
+  const bool named = !name.isEmpty() && name != QLatin1String("Quilm");
+  setWindowTitle(named ? name + QStringLiteral(" - Quilm") : QStringLiteral("Quilm"));
 }
 
 void MainWindow::RemovePage(PageView& view) {
@@ -139,6 +146,7 @@ void MainWindow::RemovePage(PageView& view) {
 }
 
 void MainWindow::SyncStatus() {
+  ShowTitle();
   undo_->Show(CanUndo(session_), session_.history.UndoText());
   redo_->Show(CanRedo(session_), session_.history.RedoText());
   left_->Show(summary ? ToQt(summary()) : QString());

@@ -41,6 +41,8 @@ class MainWindow : public QMainWindow {
 
   // The present design in one line, at the left of the status line.
   std::function<std::string()> summary;
+  // The name of the present design for the title; empty for none, and the title is that of the page.
+  std::function<std::string()> designName;
   // The window's close box.
   std::function<void()> onCloseBox;
   // The buttons at the left of the status line.
@@ -62,10 +64,12 @@ class MainWindow : public QMainWindow {
 
  private:
   void RestorePlace();
+  void ShowTitle();
   QWidget* HolderOf(const PageView& view) const;
 
   Session& session_;
   QString settingsPath_;
+  QString pageTitle_;
   QStackedWidget* pages_;
   HistoryButton* undo_;
   HistoryButton* redo_;

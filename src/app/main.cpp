@@ -9,6 +9,7 @@
 #include "app/Palettes.h"
 #include "desk/StartUp.h"
 #include "pages/PageDirectory.h"
+#include "shell/History.h"
 #include "synthesis/DesignSummary.h"
 
 namespace {
@@ -33,7 +34,9 @@ int main(int argc, char** argv) {
   SetAppearance(qEnvironmentVariable("QUILM_PALETTE"));
 
   Desktop desktop(AllPages());
-  desktop.window.summary = [&desktop] { return DesignSummary(desktop.session.record); };
+  const auto saved = [&desktop] { return desktop.session.history.IsSaved(desktop.session); };
+  desktop.window.summary = [&] { return DesignSummary(desktop.session.record, saved()); };
+  desktop.window.designName = [&] { return DesignName(desktop.session.record, saved()); };
   desktop.onEnded = [] { QCoreApplication::exit(0); };
 
   // The system's own end of the session is the close box: what was designed is kept.

@@ -4,6 +4,7 @@
 #include "core/DesignRecord.h"
 #include "core/TextFile.h"
 #include "files/ReadDesign.h"
+#include "shell/History.h"
 #include "shell/Session.h"
 
 namespace quilm {
@@ -49,6 +50,8 @@ Got TakeDesign(Session& session, std::istream& in, std::string& path) {
     return Got::Failure;
   }
   session.configuration.sourceOfBrokenFile = 0;
+  session.record.DesignFileName = path;
+  session.history.MarkSaved(session);
   if (outcome.layout == FileLayout::Current) return Got::Design;
   TakeOldLayout(session, outcome.layout);
   return Got::OlderDesign;
@@ -73,7 +76,6 @@ Got GetDesign(Session& session, const std::string& title) {
   std::string path = *chosen;
   const Got got = ReadFrom(session, path, title);
   if (got == Got::Nothing || got == Got::Failure) return got;
-  session.record.DesignFileName = path;
   session.note = "Read " + path;
   return got;
 }

@@ -19,8 +19,9 @@ enum class Got {
   Failure,      // the file could not be read to its end: there is no network
 };
 
-// Replaces the design by the one in the file; an empty path changes nothing. The pages that show the design are
-// unloaded, so that they are rebuilt when they are next shown. A file of an older layout marks the design as changed.
+// Replaces the design by the one in the file, whose path DesignFileName takes; an empty path changes nothing. The pages
+// that show the design are unloaded, so that they are rebuilt when they are next shown. A file of an older layout marks
+// the design as changed.
 //
 // A failure, of the file or of the disk, is told in a message and leaves the path and DesignFileName empty and the
 // session without a network. What was read so far stays, but for sweep, scales, Q and reference, which come back from

@@ -8,6 +8,7 @@
 #include "core/TextFile.h"
 #include "files/WriteDesign.h"
 #include "files/modReadQuilmFiles.h"
+#include "shell/History.h"
 #include "shell/Session.h"
 #include "shell/modWriteConfig.h"
 
@@ -53,6 +54,7 @@ bool SaveDesign(Session& session, const std::string& title) {
   if (!chosen) return false;
   session.identity.DesignFileName = *chosen;
   if (!modWriteQuilmFile(session)) return false;
+  session.history.MarkSaved(session);
   session.note = "Saved " + *chosen;
   return true;
 }

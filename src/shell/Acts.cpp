@@ -59,8 +59,19 @@ const HitArea* AreaThatTakes(const PictureBox& box, MouseAct act, f32 x, f32 y, 
   return area != nullptr && area->onPress ? area : nullptr;
 }
 
+// A note ends with the next act. The mouse that merely moves and a timer are none; nor is leaving a box, which goes
+// along with the act that it is left for, and what is told of it then stays to be read.
+void EndNote(Session& session, const Deed& deed) {
+  const bool types = !deed.box.empty() && !deed.endsTyping;
+  const bool presses = deed.box.empty() && deed.endsTyping;
+  if (!types && !presses) return;
+  if (!session.noteHolds) session.note.clear();
+  session.noteHolds = false;
+}
+
 void RunAct(Session& session, const Deed& deed, const std::function<void()>& handler) {
   if (session.ended) return;
+  EndNote(session, deed);
   const Depth depth(session);
   const History::Act act(session, deed);
   try {
@@ -152,7 +163,11 @@ void Type(Session& session, TextBox& box, const std::string& text) {
   RunAct(session, {NameOf(box), box.name, false}, box.onChange);
 }
 
-void Leave(Session& session, TextBox& box) { RunAct(session, {NameOf(box), box.name}, box.onLeave); }
+void Leave(Session& session, TextBox& box) {
+  const std::string before = session.note;
+  RunAct(session, {NameOf(box), box.name}, box.onLeave);
+  if (session.note != before) session.noteHolds = true;
+}
 
 void Step(Session& session, Spin& spin, int direction) {
   Require(spin);

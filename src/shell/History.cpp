@@ -102,10 +102,12 @@ void History::Look(const Session& session) {
 
 void History::Begin(const Session& session, const Deed& deed) {
   const Page* page = session.pages.Top();
-  act_.page = page == nullptr ? std::nullopt : std::optional(tool_ ? tool_->page : page->Id());
+  act_.page = page == nullptr ? std::nullopt : std::optional(tool_ ? tool_->page : page->Home());
   act_.acting = true;
   act_.following = false;
-  act_.what = deed.what;
+  act_.saves = false;
+  // On a page that is a tool of another one "Ok" would say nothing there.
+  act_.what = page != nullptr && page->Home() != page->Id() && deed.box.empty() ? page->title : deed.what;
   act_.box = deed.box.empty() || page == nullptr ? std::string() : std::string(page->Name()) + "." + deed.box;
   act_.endsTyping = deed.endsTyping;
   if (act_.box != typing_ && (act_.endsTyping || !act_.box.empty())) typing_.clear();
@@ -122,6 +124,7 @@ void History::StartAfresh(const Session& session) {
 void History::End(const Session& session) {
   Look(session);
   Settle(session);
+  if (act_.saves) TakeSaved(session);
   if (act_.endsTyping) typing_.clear();
   if (group_ && group_->ending) group_.reset();
   act_.acting = false;
@@ -150,7 +153,7 @@ void History::TakeStep(const Session& session) {
 
 void History::AddStep(std::string what) {
   DropRedo();
-  places_.push_back({{}, act_.found, familyNone, std::move(what), act_.page.value_or(PageId::Opening)});
+  places_.push_back({{}, act_.found, familyNone, std::move(what), act_.page.value_or(PageId::Opening), {}});
   ++at_;
   if (at_ <= mostSteps) return;
   places_.pop_front();
@@ -169,7 +172,10 @@ void History::DropStep() {
 // What follows from a step is a part of it, and what is done after it can still be made again.
 void History::Join(const Session& session) {
   DesignRecord& present = places_[at_].record;
-  if (!IsSameDesign(present, session.record)) present = WithNotesOf(session.record, present);
+  if (!IsSameDesign(present, session.record)) {
+    present = WithNotesOf(session.record, present);
+    if (HasSavedPlace(session)) saved_ = session.record;
+  }
   places_[at_].familyOption = session.familyOption;
 }
 
@@ -192,6 +198,35 @@ void History::EndGroup(int number) {
   if (!group_ || group_->number != number) return;
   group_->ending = true;
   if (!act_.acting) group_.reset();
+}
+
+void History::MarkSaved(const Session& session) {
+  if (act_.acting) {
+    act_.saves = true;
+  } else {
+    TakeSaved(session);
+  }
+}
+
+// A file that is written anew is no longer that of the place where it was written before.
+void History::TakeSaved(const Session& session) {
+  const std::string& name = session.record.DesignFileName;
+  for (Place& place : places_) {
+    if (place.savedAs == name) place.savedAs.clear();
+  }
+  places_[at_].savedAs = name;
+  saved_ = session.record;
+}
+
+bool History::HasSavedPlace(const Session& session) const {
+  const std::string& name = session.record.DesignFileName;
+  return !name.empty() && places_[at_].savedAs == name;
+}
+
+bool History::IsSaved(const Session& session) const {
+  const DesignRecord& record = session.record;
+  if (HasSavedPlace(session) && !(act_.acting && act_.changed)) return true;
+  return saved_ && saved_->DesignFileName == record.DesignFileName && IsSameDesign(*saved_, record);
 }
 
 History::Act::Act(Session& session, const Deed& deed)

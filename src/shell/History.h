@@ -44,6 +44,7 @@ class History {
     i16 familyOption = familyNone;
     std::string what;
     PageId page = PageId::Opening;
+    std::string savedAs;  // the file that holds the design of the place
   };
 
   struct OpenGroup {
@@ -67,9 +68,10 @@ class History {
     bool following = false;
     bool changed = false;  // by the user
     bool endsTyping = true;
-    std::string what;  // what a change is that happens now
-    std::string did;   // what the change was
-    std::string box;   // the box that the act types in
+    bool saves = false;  // its design is that of a file when it is done
+    std::string what;    // what a change is that happens now
+    std::string did;     // what the change was
+    std::string box;     // the box that the act types in
     std::optional<PageId> page;
     DesignRecord found;  // when it began
     DesignRecord seen;   // when it was last looked at
@@ -92,6 +94,11 @@ class History {
   // made is returned. There must be such a step.
   PageId StepBack(Session& session);
   PageId StepForth(Session& session);
+
+  // The design is now what the file DesignFileName holds: it was written there, or read. IsSaved tells whether it still
+  // is, also after undo and redo. What merely follows a step is no change, nor is what only the program notes.
+  void MarkSaved(const Session& session);
+  bool IsSaved(const Session& session) const;
 
   // An act begins and ends. Acts within acts (modal pages, events during a run) are parts of the outermost.
   class Act {
@@ -170,12 +177,15 @@ class History {
   void AddStep(std::string what);
   void DropStep();
   void DropRedo();
+  void TakeSaved(const Session& session);
+  bool HasSavedPlace(const Session& session) const;
   void GoTo(Session& session, std::size_t place, const DesignRecord& from, const DesignRecord& to);
   int OpenGroupOf(const Session& session, std::string what, bool undoable);
   void EndGroup(int number);
 
   std::deque<Place> places_{Place{}};
-  std::size_t at_ = 0;  // the place of the present design
+  std::size_t at_ = 0;                 // the place of the present design
+  std::optional<DesignRecord> saved_;  // the design that was saved last
   Running act_;
   std::string typing_;  // the box whose keystrokes are the step at at_
   std::optional<OpenGroup> group_;

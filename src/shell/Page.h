@@ -34,6 +34,10 @@ class Page {
   // controls and members. A page whose load step repairs the design says how it shows it without.
   virtual void Reload() { Load(); }
 
+  // The page where undo leads that takes back what was done here. A tool that takes the place of another page, and has
+  // nothing to show once it is done, names that one.
+  virtual PageId Home() const { return id_; }
+
   // The window's own close box. Unless a page says otherwise it just closes the page.
   virtual void CloseBox();
 

@@ -44,6 +44,9 @@ class Session {
   // known when the page is not loaded.
   i16 familyOption;
 
+  // Whether the failure page of the Cauer family was left by a button that tries again.
+  bool retriesCauer = false;
+
   // How charts and schematic are looked at. Their pages begin with the defaults; the charts' zoom alone stays.
   SmithView smithView;
   SchematicView schematicView;
@@ -52,7 +55,8 @@ class Session {
 
   UniformNumbers random;   // all random numbers of the program come from here
   LongRun* run = nullptr;  // the long run in progress
-  std::string note;        // what the last action did, for the status line
+  std::string note;        // what the last act did, for the status line; it ends with the next one
+  bool noteHolds = false;  // the note is about a box that was left: it outlives the act that the box was left for
   int handlerDepth = 0;    // handlers that run just now, one inside the other (see Acts.h)
   bool ended = false;      // set when the program has ended
 

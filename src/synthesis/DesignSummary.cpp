@@ -40,8 +40,6 @@ std::string Terminations(const DesignRecord& record) {
   return Ohms(record.Rsource[1]) + " to " + Ohms(record.Rload[1]) + " ohms";
 }
 
-std::string FileName(const std::string& path) { return path.substr(path.find_last_of("/\\") + 1); }
-
 }  // namespace
 
 std::string TopologyCaption(const std::string& letter) {
@@ -49,7 +47,13 @@ std::string TopologyCaption(const std::string& letter) {
   return captions[static_cast<std::size_t>(letter[0] - 'A')];
 }
 
-std::string DesignSummary(const DesignRecord& record) {
+std::string DesignName(const DesignRecord& record, bool saved) {
+  const std::string& path = record.DesignFileName;
+  if (path.empty()) return {};
+  return path.substr(path.find_last_of("/\\") + 1) + (saved ? "" : "*");
+}
+
+std::string DesignSummary(const DesignRecord& record, bool saved) {
   if (record.Family == familyNone) return {};
   const std::vector<std::string> parts = {
       FamilyName(record.Family),
@@ -58,7 +62,7 @@ std::string DesignSummary(const DesignRecord& record) {
       Band(record),
       Terminations(record),
       record.NetworkEdited == 1 ? "edited by hand" : "",
-      FileName(record.DesignFileName),
+      DesignName(record, saved),
   };
   std::string summary;
   for (const std::string& part : parts) {

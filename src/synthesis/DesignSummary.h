@@ -10,10 +10,14 @@ namespace quilm {
 // "Capacitor-input lowpass", ... for the letters "A" to "L"; empty for any other.
 std::string TopologyCaption(const std::string& letter);
 
-// Family, order, topology, band, terminations, whether the network is edited by hand, and the name of the design file
-// without its folders, such as
+// The name of the design file without its folders, with an asterisk unless the design is `saved`: "MINE.QLM*". Empty
+// for a design that has no file yet.
+std::string DesignName(const DesignRecord& record, bool saved);
+
+// Family, order, topology, band, terminations, whether the network is edited by hand, and the name of the design, such
+// as
 //   Chebyshev  |  order 7  |  Capacitor-input lowpass  |  1MHz  |  50 to 50 ohms  |  MINE.QLM
 // Frequencies and resistances are in display format. What the design does not have yet is left out.
-std::string DesignSummary(const DesignRecord& record);
+std::string DesignSummary(const DesignRecord& record, bool saved);
 
 }  // namespace quilm

@@ -47,6 +47,19 @@ TEST_F(MainWindowTest, TheStatusLineTellsTheDesignAndWhatWasDone) {
   EXPECT_EQ(desktop.window.StatusRight(), "Saved");
 }
 
+TEST_F(MainWindowTest, TheTitleIsTheNameOfTheDesignElseOfThePage) {
+  std::string name = "MINE.QLM*";
+  desktop.window.designName = [&name] { return name; };
+  desktop.platform.Stage().Sync();
+  EXPECT_EQ(desktop.window.windowTitle(), "MINE.QLM* - Quilm");
+  ClickOn("cmdPlot");
+  EXPECT_EQ(desktop.window.windowTitle(), "MINE.QLM* - Quilm");
+  name.clear();
+  desktop.platform.Stage().Sync();
+  EXPECT_EQ(desktop.window.windowTitle(), "Other - Quilm");
+  desktop.window.designName = nullptr;
+}
+
 TEST_F(MainWindowTest, StandardKeysPressWhatThePageHas) {
   QTest::keyClick(&desktop.window, Qt::Key_O, Qt::ControlModifier);
   QTest::keyClick(&desktop.window, Qt::Key_S, Qt::ControlModifier);  // no such control

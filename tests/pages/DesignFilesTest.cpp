@@ -6,6 +6,7 @@
 #include "desk/StartUp.h"
 #include "pages/PageBench.h"
 #include "pages/PageDirectory.h"
+#include "shell/History.h"
 #include "shell/modWriteConfig.h"
 
 namespace quilm {
@@ -48,6 +49,43 @@ TEST_F(DesignFiles, ADesignIsSavedAndOpenedAgain) {
   EXPECT_EQ(session.record.Family, familyButterworth);
   EXPECT_EQ(session.record.DesignFileName, Path("lowpass.QLM"));
   EXPECT_EQ(platform.pageEvents, (std::vector<std::string>{"unload frmPlotted", "show frmPlotted"}));
+}
+
+TEST_F(DesignFiles, ADesignIsSavedUntilItIsChanged) {
+  MakeLowpass();
+  const auto saved = [this] { return session.history.IsSaved(session); };
+  EXPECT_FALSE(saved());
+  platform.files = {Path("lowpass.QLM"), Path("no/such/folder.QLM"), Path("lowpass.QLM")};
+  Press("cmdSave");
+  EXPECT_TRUE(saved());
+  // Going about changes nothing, though pages fill in and compute.
+  for (const char* page : {"cmdDesign", "cmdAnalysis", "cmdSchematic", "cmdTabulate", "cmdDesign", "cmdPlot"}) {
+    Press(page);
+    EXPECT_TRUE(saved()) << page;
+  }
+  Press("cmdDesign");
+  Enter("txtBandwidth", "2M");
+  EXPECT_FALSE(saved());
+  Press("cmdPlot");
+  EXPECT_FALSE(saved());
+  Press("cmdSave");  // fails
+  EXPECT_FALSE(saved());
+  session.record.DesignFileName = Path("lowpass.QLM");
+  Undo(session);
+  EXPECT_TRUE(saved());
+  Redo(session);
+  EXPECT_FALSE(saved());
+  Press("cmdGet");
+  EXPECT_TRUE(saved());
+}
+
+TEST_F(DesignFiles, TheNoteOfASaveEndsWithTheNextAct) {
+  MakeLowpass();
+  platform.files = {Path("lowpass.QLM")};
+  Press("cmdSave");
+  EXPECT_EQ(session.note, "Saved " + Path("lowpass.QLM"));
+  Press("cmdDesign");
+  EXPECT_EQ(session.note, "");
 }
 
 TEST_F(DesignFiles, TheDesignPageSavesTheNetworkOfItsEntries) {
@@ -268,6 +306,8 @@ TEST_F(DesignFiles, TheLastSessionComesBack) {
   EXPECT_EQ(next.record.Stages, 3);
   EXPECT_EQ(next.record.Width, 1e6F);
   EXPECT_EQ(next.familyOption, familyButterworth);
+  EXPECT_EQ(next.record.DesignFileName, Path(lastSessionFile));
+  EXPECT_TRUE(next.history.IsSaved(next));
 }
 
 // A file of an older layout ends before the answer on zeros.

@@ -219,5 +219,51 @@ TEST_F(ActsTest, ARefusalInsideAHandlerIsTheCallersFault) {
   EXPECT_EQ(session.handlerDepth, 0);
 }
 
+TEST_F(ActsTest, ANoteEndsWithTheNextAct) {
+  page.UpDown1.onUp = [] {};
+  const std::function<void()> acts[] = {[&] { Click(session, page.cmdGo); },
+                                        [&] { Click(session, page.optOne); },
+                                        [&] { Type(session, page.txtValue, "1"); },
+                                        [&] { Step(session, page.UpDown1, +1); },
+                                        [&] { Mouse(session, page.picPlot, MouseAct::Down, 1, 1, MouseButton::Left); },
+                                        [&] { PressCloseBox(session, page); }};
+  page.picPlot.onMouseDown = [](f32, f32, MouseButton) {};
+  int number = 0;
+  for (const auto& act : acts) {
+    session.note = "Saved";
+    act();
+    EXPECT_EQ(session.note, "") << number;
+    ++number;
+  }
+}
+
+TEST_F(ActsTest, TheMouseThatMovesAndATimerEndNoNote) {
+  page.picPlot.onMouseMove = [](f32, f32, MouseButton) {};
+  page.Timer1.enabled = true;
+  session.note = "Saved";
+  Mouse(session, page.picPlot, MouseAct::Move, 1, 1, MouseButton::Left);
+  Tick(session, page.Timer1);
+  EXPECT_EQ(session.note, "Saved");
+}
+
+// The user leaves a box by pressing a button: what was taken of the box is told behind that press, and until the next.
+TEST_F(ActsTest, WhatIsToldOfABoxOutlivesTheActThatItWasLeftFor) {
+  page.txtValue.onLeave = [this] { session.note = "taken as 0"; };
+  Leave(session, page.txtValue);
+  Click(session, page.cmdGo);
+  EXPECT_EQ(session.note, "taken as 0");
+  Click(session, page.cmdGo);
+  EXPECT_EQ(session.note, "");
+  // A box that has nothing to tell leaves the note of the act before, as when the focus moves by itself.
+  page.txtValue.onLeave = nullptr;
+  page.cmdGo.onClick = [this] { session.note = "Saved"; };
+  Click(session, page.cmdGo);
+  Leave(session, page.txtValue);
+  EXPECT_EQ(session.note, "Saved");
+  page.cmdGo.onClick = nullptr;
+  Click(session, page.cmdGo);
+  EXPECT_EQ(session.note, "");
+}
+
 }  // namespace
 }  // namespace quilm

@@ -703,5 +703,152 @@ TEST_F(HistoryGroupTest, AnActAfterItIsAStepOfItsOwn) {
   EXPECT_EQ(record().Stages, 1);
 }
 
+class SavedDesign : public HistoryTest {
+ protected:
+  void Save(const std::string& name) {
+    Do([this, name] {
+      record().DesignFileName = name;
+      session.history.MarkSaved(session);
+    });
+  }
+  bool Saved() { return session.history.IsSaved(session); }
+};
+
+TEST_F(SavedDesign, AtTheStartThereIsNone) {
+  EXPECT_FALSE(Saved());
+  SetOrder(3);
+  EXPECT_FALSE(Saved());
+}
+
+TEST_F(SavedDesign, IsOneUntilItIsChanged) {
+  SetOrder(3);
+  Save("a");
+  EXPECT_TRUE(Saved());
+  SetOrder(4);
+  EXPECT_FALSE(Saved());
+}
+
+TEST_F(SavedDesign, ComesBackByUndoAndRedo) {
+  SetOrder(3);
+  Save("a");
+  SetOrder(4);
+  SetOrder(5);
+  Undo(session);
+  EXPECT_FALSE(Saved());
+  Undo(session);
+  EXPECT_TRUE(Saved());
+  Undo(session);
+  EXPECT_FALSE(Saved());
+  Redo(session);
+  EXPECT_TRUE(Saved());
+  Redo(session);
+  EXPECT_FALSE(Saved());
+}
+
+TEST_F(SavedDesign, ComesBackByHandToo) {
+  SetOrder(3);
+  Save("a");
+  SetOrder(4);
+  SetOrder(3);
+  EXPECT_TRUE(Saved());
+}
+
+TEST_F(SavedDesign, IsNotChangedByWhatFollows) {
+  SetOrder(3);
+  Save("a");
+  Do([this] {
+    const History::Following following(session);
+    record().Stages = 3;
+    record().ResponsesValid = 1;
+  });
+  EXPECT_TRUE(Saved());
+  SetOrder(4);
+  SetOrder(3);
+  EXPECT_TRUE(Saved());
+}
+
+// Within the act the change counts already: the status line follows while a modal page is open.
+TEST_F(SavedDesign, IsChangedAsSoonAsItsActHasChangedIt) {
+  Save("a");
+  Do([this] {
+    record().Order = 7;
+    RunHandler(session, [] {});
+    EXPECT_FALSE(Saved());
+  });
+}
+
+TEST_F(SavedDesign, UnderAnotherNameIsAnotherOne) {
+  SetOrder(3);
+  Save("a");
+  SetOrder(4);
+  Save("b");
+  EXPECT_TRUE(Saved());
+  // A save that fails has left its name alone.
+  Do([this] { record().DesignFileName = "c"; });
+  EXPECT_FALSE(Saved());
+}
+
+// What is written over is no longer on the disk.
+TEST_F(SavedDesign, IsTheLastOneUnderItsName) {
+  SetOrder(3);
+  Save("a");
+  SetOrder(4);
+  Save("a");
+  Undo(session);
+  EXPECT_FALSE(Saved());
+  Redo(session);
+  EXPECT_TRUE(Saved());
+}
+
+// Reading a design is a step, and the design before it was that of its own file.
+TEST_F(SavedDesign, TheOneBeforeAReadIsSavedStill) {
+  SetOrder(3);
+  Save("a");
+  Do([this] {
+    record().Order = 9;
+    record().DesignFileName = "b";
+    session.history.MarkSaved(session);
+  });
+  EXPECT_TRUE(Saved());
+  Undo(session);
+  EXPECT_EQ(record().DesignFileName, "a");
+  EXPECT_TRUE(Saved());
+  Redo(session);
+  EXPECT_EQ(record().DesignFileName, "b");
+  EXPECT_TRUE(Saved());
+}
+
+// A tool that takes the place of the Design page.
+class ToolPage : public HistoryTest {
+ protected:
+  class Tool : public BenchPage {
+   public:
+    Tool(Session& session, Log& heard) : BenchPage(session, PageId::EnterWidth, heard) { title = "End sections"; }
+    PageId Home() const override { return PageId::Design; }
+  };
+};
+
+TEST_F(ToolPage, ItsStepIsOneOfThePageThatItStandsFor) {
+  Log log;
+  PageDirectory pages;
+  pages[PageId::Design] = [&log](Session& owner) { return std::make_unique<BenchPage>(owner, PageId::Design, log); };
+  pages[PageId::EnterWidth] = [&log](Session& owner) { return std::make_unique<Tool>(owner, log); };
+  Session program(bench.platform, std::move(pages));
+  program.pages.ShowPage(PageId::Design);
+  program.pages.ShowPage(PageId::EnterWidth);
+  program.pages.UnloadPage(PageId::Design);
+  auto& tool = static_cast<BenchPage&>(*program.pages.Top());
+  tool.cmdGo.onClick = [&program] {
+    program.record.Stages = 5;
+    program.pages.ShowPage(PageId::Design);
+    program.pages.UnloadPage(PageId::EnterWidth);
+  };
+  Click(program, tool.cmdGo);
+  EXPECT_EQ(program.history.UndoText(), "End sections");
+  Undo(program);
+  EXPECT_EQ(program.pages.Top()->Id(), PageId::Design);
+  EXPECT_EQ(program.record.Stages, 0);
+}
+
 }  // namespace
 }  // namespace quilm

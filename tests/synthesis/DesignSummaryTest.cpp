@@ -31,7 +31,7 @@ TEST(DesignSummary, NamesFamiliesAndTopologies) {
 }
 
 TEST(DesignSummary, SaysTheEntriesBeforeThereIsANetwork) {
-  EXPECT_EQ(DesignSummary(Design()), "Chebyshev  |  order 7  |  Capacitor-input lowpass  |  1MHz  |  50 ohms");
+  EXPECT_EQ(DesignSummary(Design(), true), "Chebyshev  |  order 7  |  Capacitor-input lowpass  |  1MHz  |  50 ohms");
 }
 
 TEST(DesignSummary, SaysTheLoadOfANetworkAndTheFile) {
@@ -39,28 +39,39 @@ TEST(DesignSummary, SaysTheLoadOfANetworkAndTheFile) {
   record.Stages = 7;
   record.Rload[1] = 1000;
   record.DesignFileName = "/home/someone/filters/MINE.QLM";
-  EXPECT_EQ(DesignSummary(record),
+  EXPECT_EQ(DesignSummary(record, true),
             "Chebyshev  |  order 7  |  Capacitor-input lowpass  |  1MHz  |  50 to 1k ohms  |  MINE.QLM");
   record.DesignFileName = "C:\\filters\\OTHER.QLM";
-  EXPECT_TRUE(DesignSummary(record).ends_with("|  OTHER.QLM"));
+  EXPECT_TRUE(DesignSummary(record, true).ends_with("|  OTHER.QLM"));
+}
+
+TEST(DesignSummary, ADesignThatIsNotSavedBearsAnAsterisk) {
+  DesignRecord record = Design();
+  EXPECT_EQ(DesignName(record, false), "");  // it has no name yet
+  EXPECT_EQ(DesignSummary(record, false), DesignSummary(record, true));
+  record.DesignFileName = "/home/someone/MINE.QLM";
+  EXPECT_EQ(DesignName(record, true), "MINE.QLM");
+  EXPECT_EQ(DesignName(record, false), "MINE.QLM*");
+  EXPECT_TRUE(DesignSummary(record, false).ends_with("|  MINE.QLM*"));
 }
 
 TEST(DesignSummary, SaysTheBandOfABandpass) {
   DesignRecord record = Design("F");
   record.Width = 1e5F;
   record.Fcenter = 1e7F;
-  EXPECT_NE(DesignSummary(record).find("  |  Series-input bandpass  |  100kHz wide at 10MHz  |  "), std::string::npos);
+  EXPECT_NE(DesignSummary(record, true).find("  |  Series-input bandpass  |  100kHz wide at 10MHz  |  "),
+            std::string::npos);
 }
 
 TEST(DesignSummary, SaysThatANetworkIsEditedByHand) {
   DesignRecord record = Design("M");
   record.NetworkEdited = 1;
-  EXPECT_TRUE(DesignSummary(record).ends_with("  |  edited by hand"));
+  EXPECT_TRUE(DesignSummary(record, true).ends_with("  |  edited by hand"));
   record.Family = familyManual;
-  EXPECT_EQ(DesignSummary(record), "Manual entry  |  1MHz  |  50 ohms  |  edited by hand");
+  EXPECT_EQ(DesignSummary(record, true), "Manual entry  |  1MHz  |  50 ohms  |  edited by hand");
 }
 
-TEST(DesignSummary, AnEmptyDesignSaysNothing) { EXPECT_EQ(DesignSummary(DesignRecord{}), ""); }
+TEST(DesignSummary, AnEmptyDesignSaysNothing) { EXPECT_EQ(DesignSummary(DesignRecord{}, true), ""); }
 
 }  // namespace
 }  // namespace quilm

@@ -43,10 +43,7 @@ void frmOpening::Leave() {
 
 void frmOpening::ContinueLastSession() {
   std::string path = InProgramFolder(session_, lastSessionFile);
-  const Got got = modReadQuilmFiles(session_, path);
-  if (got == Got::Failure || got == Got::Nothing) return;
-  session_.identity.DesignFileName = path;
-  GoOn(got);
+  GoOn(modReadQuilmFiles(session_, path));
 }
 
 // An older design has brought up a page of its own.
