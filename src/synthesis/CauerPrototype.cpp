@@ -365,9 +365,10 @@ f32 OddCauerRipple(int order, f64 FstopNorm, f64 Astop) {
   // From here on the ripple vanishes against 1 in 64 bits.
   constexpr f64 largest = 1e18;
   if (!(u * Pi < std::log(largest))) return 0;
+  NumericFaultScope scope;
   const f64 Q = std::exp(u * Pi);
   const f64 ripple = std::log((Square(OddDepth(Astop)) - 1) / Square(Q / 4 + 0.25) + 1) / (std::log(10.0) * 0.1);
-  return static_cast<f32>(std::fabs(ripple));
+  return scope.Store(std::fabs(ripple));
 }
 
 CauerPrototype OddCauerPrototype(int order, f64 FstopNorm, f64 Astop) {

@@ -37,21 +37,12 @@ f64 EdgeRatio(const DesignRecord& record) {
   return std::max(stop, pass) / std::min(stop, pass);
 }
 
-struct OddEntries {
-  explicit OddEntries(const DesignRecord& r) : Order(r.Order), Width(r.Width), Fstopband(r.Fstopband), Astop(r.Astop) {}
-  bool operator==(const OddEntries&) const = default;
-
-  f32 Order;
-  f32 Width;
-  f32 Fstopband;
-  f32 Astop;
-};
-
-// False when the user has left the failure page as it was.
+// False when the user has left the failure page by its close box. A retry need not have changed anything: the order
+// cannot go below 3, and then the page opens again.
 bool AskForOtherEntries(Session& session) {
-  const OddEntries before(session.record);
-  session.pages.ShowModal(PageId::Bailout);
-  return !(OddEntries(session.record) == before);
+  session.retriesCauer = false;
+  if (session.pages.Has(PageId::Bailout)) session.pages.ShowModal(PageId::Bailout);
+  return session.retriesCauer;
 }
 
 void ComputeOdd(Session& session) {
@@ -63,8 +54,7 @@ void ComputeOdd(Session& session) {
       Take(record, OddCauerPrototype(OrderOf(record), ratio, record.Astop));
       return;
     }
-    if (!session.pages.Has(PageId::Bailout) || !AskForOtherEntries(session))
-      throw NumericFault("The ripple is too low");
+    if (!AskForOtherEntries(session)) throw NumericFault("The ripple is too low");
   }
 }
 

@@ -10,7 +10,7 @@ class Session;
 // An order below 3 becomes 3, with a message.
 //
 // Where an odd order would have less ripple than can be computed, the failure page asks for other entries and the
-// design is tried again with what it changed; leaving that page without a change gives up. Without a design the
+// design is tried again with what it holds then; leaving that page by its close box gives up. Without a design the
 // prototype is empty, of which ComputeReals then tells the user.
 void ComputeCauer(Session& session);
 

@@ -43,6 +43,50 @@ TEST_F(CauerPages, AnOddOrderHasItsRippleAsAResult) {
   EXPECT_NEAR(session.record.stage[2].Lval.value, 8.88212e-6, 1e-10);
 }
 
+// 0.43773 dB: rho^2 = 1 - 10^-0.043773 = 0.095878, rho = 0.309642, VSWR = 1.309642 / 0.690358 = 1.8970, return 20 log
+// rho.
+TEST_F(CauerPages, TheReadoutSaysWhatTheRippleOfAnOddOrderMeans) {
+  SetOrder(5);
+  Enter("txtStopbandFreq", "1.5M");
+  Press("cmdSeeNorms");
+  EXPECT_TRUE(Get<Label>("lblVSWR").Shown());
+  EXPECT_EQ(Get<Label>("lblVSWR").caption, "VSWR: 1.897   Return: -10.183 dB");
+  Press("cmdPlot");
+  Press("cmdDesign");
+  EXPECT_EQ(Get<Label>("lblVSWR").caption, "VSWR: 1.897   Return: -10.183 dB");
+}
+
+TEST_F(CauerPages, BoxesOptionsAndRecordAgreeWhenTheOrderBecomesEven) {
+  SetOrder(4);
+  Enter("txtPassbandRipple", ".1");
+  Press("optCauerTermsEqual");
+  SetOrder(5);
+  Enter("txtStopbandFreq", "1.5M");
+  Press("cmdSeeNorms");
+  EXPECT_EQ(session.record.CauerType, "A");
+  EXPECT_NEAR(session.record.Apass, 0.43773, 1e-5);
+  SetOrder(6);
+  EXPECT_EQ(Get<TextBox>("txtPassbandRipple").text, "0.1");
+  EXPECT_EQ(session.record.Apass, 0.1F);
+  EXPECT_EQ(Get<Label>("lblVSWR").caption, "VSWR: 1.3554   Return: -16.428 dB");
+  EXPECT_EQ(session.record.CauerType, "C");
+  EXPECT_TRUE(Get<OptionButton>("optCauerTermsEqual").Value());
+}
+
+// A file may have any depth. 7,000 dB is a voltage ratio of 10^350, beyond the range of 64 bits.
+TEST_F(CauerPages, ADepthBeyondAllNumbersLeavesTheRecordFinite) {
+  SetOrder(5);
+  Enter("txtStopbandFreq", "1.5M");
+  session.record.Astop = 7000;
+  session.record.Apass = 0.25F;
+  Press("optCauer");
+  EXPECT_EQ(session.record.Apass, 0.25F);
+  for (int j = 1; j <= 21; ++j) EXPECT_EQ(session.record.Gj[j], 0) << j;
+  Press("cmdPlot");
+  EXPECT_EQ(Top().Id(), PageId::Design);
+  EXPECT_NE(MessageTexts().back().find("Please enter a stopband depth"), std::string::npos);
+}
+
 TEST_F(CauerPages, AnEvenOrderTakesItsRipple) {
   SetOrder(4);
   EXPECT_TRUE(Get<TextBox>("txtPassbandRipple").Shown());
@@ -134,6 +178,23 @@ TEST_F(Failure, LeavingItUnchangedGivesUp) {
   EXPECT_EQ(Top().Id(), PageId::Design);
   EXPECT_EQ(session.record.Stages, 0);
   EXPECT_NE(MessageTexts().back().find("We could not calculate the parts values."), std::string::npos);
+}
+
+// An order of 3 cannot be reduced; the page stays the user's until another button, or its close box, is pressed.
+TEST_F(Failure, OpensAgainWhereARetryChangesNothing) {
+  SetOrder(3);
+  Enter("txtStopbandFreq", "900M");
+  Plot({[this] { Press("cmdOrder"); },
+        [this] {
+          EXPECT_EQ(session.record.Order, 3);
+          Press("cmdExitCauer");
+        },
+        [this] {
+          Enter("txtStopbandFreq", "3M");
+          Press("cmdExitCauer");
+        }});
+  EXPECT_EQ(opened, 3);
+  EXPECT_EQ(Top().Id(), PageId::Plotted);
 }
 
 TEST_F(Failure, EachButtonChangesOneEntryAndTriesAgain) {

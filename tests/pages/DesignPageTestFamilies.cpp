@@ -50,7 +50,9 @@ TEST_F(DesignFamilies, EachFamilyShowsAndOffersItsOwn) {
     EXPECT_EQ(record.Family, row.code);
     EXPECT_EQ(session.familyOption, row.code);
     EXPECT_EQ(record.CauerFlag, row.cauerFlag);
-    for (const char* name : {"txtPassbandRipple", "lblPassbandRipple", "lblVSWR"}) EXPECT_EQ(Shown(name), row.ripple);
+    for (const char* name : {"txtPassbandRipple", "lblPassbandRipple", "lblVSWR"}) {
+      EXPECT_EQ(Shown(name), row.ripple) << name;
+    }
     for (const char* name : {"txtStopbandFreq", "lblStopbandFreq", "txtStopbandDepth", "lblStopbandDepth"}) {
       EXPECT_EQ(Shown(name), row.stopband);
     }

@@ -92,14 +92,12 @@ TEST_F(LimitsOnPages, WhatCountsAsEnteredForANetwork) {
 }
 
 TEST_F(LimitsOnPages, TheLowerLimitsOfTheSinglyTerminatedDesignAreAccepted) {
-  platform.modalActs.push_back([this](Page&) {
-    Enter("txtOrder", "2");
-    Enter("txtOutputTermination", ".01");
-    Enter("txtRipple", ".0001");
-    Enter("txtBandwidth", ".1");
-    Press("cmdExit");
-  });
   Press("Command4");
+  Enter("txtOrder", "2");
+  Enter("txtOutputTermination", ".01");
+  Enter("txtRipple", ".0001");
+  Enter("txtBandwidth", ".1");
+  Press("cmdExit");
   EXPECT_TRUE(platform.messages.empty());
   EXPECT_EQ(record.Stages, 2);
 }

@@ -27,6 +27,14 @@ class SpecialDesign : public PageBench {
     Press(button);
   }
 
+  // The same of a tool that takes the place of the Design page.
+  void GoAndThen(const std::string& button, PageId page, const std::function<void()>& act) {
+    Press(button);
+    ASSERT_EQ(Top().Id(), page);
+    EXPECT_EQ(session.pages.Find(PageId::Design), nullptr);
+    act();
+  }
+
   DesignRecord& Record() { return session.record; }
 
   // Saves the network and gets it back after another one was made. The families of a network made by hand are open
@@ -134,6 +142,19 @@ TEST_F(MderivedPage, AHighpassTakesNoZeroFarBelowNought) {
   });
 }
 
+// A bandwidth below 0 would have a zero below 0 above it.
+TEST_F(MderivedPage, AZeroBelowNoughtIsInNoStopband) {
+  Enter("txtBandwidth", "-5M");
+  PressAndThen("optMderived", PageId::Mderived, [this] {
+    Enter("txtZeroFreq1", "-2M");
+    Press("cmdOk");
+    EXPECT_EQ(Top().Id(), PageId::Mderived);
+    EXPECT_EQ(Get<TextBox>("txtZeroFreq1").text, "0");
+    EXPECT_EQ(Record().MderivedZero[1], 0);
+    Press("cmdIgnore");
+  });
+}
+
 TEST_F(MderivedPage, IgnoringItLeavesTheRecordAndMakesNoNetworkOfAnotherFamily) {
   PressAndThen("optMderived", PageId::Mderived, [this] {
     Enter("txtZeroFreq1", "1.5M");
@@ -178,7 +199,7 @@ TEST_F(MderivedPage, TheZerosSurviveTheDesignFile) {
 
 class SinglyTerminatedPage : public SpecialDesign {
  protected:
-  void Open(std::function<void()> act) { PressAndThen("Command4", PageId::SinglyTermCheby, std::move(act)); }
+  void Open(const std::function<void()>& act) { GoAndThen("Command4", PageId::SinglyTermCheby, act); }
 };
 
 TEST_F(SinglyTerminatedPage, HasItsDefaults) {
@@ -251,6 +272,7 @@ TEST_F(SinglyTerminatedPage, EveryEntryIsChecked) {
       {"txtRipple", "11", "10", "Please enter a passband ripple, .0001 min to 10 max"},
       {"txtBandwidth", ".09", ".1", "Please enter a bandwidth .1 minimum"},
   };
+  Open([this] { Press("cmdIgnore"); });  // the network of the present entries comes first
   const DesignRecord before = Record();
   for (const auto& [box, text, good, message] : wrong) {
     Open([&, box = box, text = text, good = good, message = message] {
@@ -268,6 +290,41 @@ TEST_F(SinglyTerminatedPage, EveryEntryIsChecked) {
   }
 }
 
+TEST_F(SinglyTerminatedPage, ThePresentDesignIsComputedFirst) {
+  ASSERT_EQ(Record().Stages, 0);
+  Open([this] {
+    EXPECT_EQ(Record().Stages, 3);
+    Press("cmdIgnore");
+  });
+  EXPECT_EQ(Top().Id(), PageId::Design);
+  EXPECT_EQ(session.pages.Find(PageId::SinglyTermCheby), nullptr);
+  EXPECT_EQ(Record().Stages, 3);
+  // A design that cannot be computed keeps the page, after the user was told.
+  Press("optChebycheff");
+  Enter("txtInputTerm", "0");
+  platform.modalActs.push_back([](Page& page) { EXPECT_EQ(page.Id(), PageId::EnterInput); });
+  Press("Command4");
+  EXPECT_EQ(Top().Id(), PageId::Design);
+}
+
+TEST_F(SinglyTerminatedPage, OpensWithoutABandwidth) {
+  Enter("txtBandwidth", "");
+  Open([this] {
+    EXPECT_TRUE(platform.messages.empty());
+    EXPECT_EQ(Get<TextBox>("txtBandwidth").text, "");
+    Enter("txtBandwidth", "1M");
+    Press("cmdExit");
+  });
+  EXPECT_EQ(Record().Stages, 4);
+}
+
+// The tools are pages as the Design page is: their close box is that of the program.
+TEST_F(SinglyTerminatedPage, ItsCloseBoxLeavesTheProgram) {
+  Open([this] { PressCloseBox(session, Top()); });
+  EXPECT_TRUE(session.ended);
+  EXPECT_NE(File("LASTSESSION.QLM"), "");
+}
+
 TEST_F(SinglyTerminatedPage, TheLimitsThemselvesAreAccepted) {
   Open([this] {
     Enter("txtOrder", "21");
@@ -283,7 +340,7 @@ TEST_F(SinglyTerminatedPage, TheLimitsThemselvesAreAccepted) {
 class EndSectionsPage : public SpecialDesign {
  protected:
   EndSectionsPage() { Press("optConstantK"); }
-  void Open(std::function<void()> act) { PressAndThen("Command11", PageId::EndSections, std::move(act)); }
+  void Open(const std::function<void()>& act) { GoAndThen("Command11", PageId::EndSections, act); }
 };
 
 TEST_F(EndSectionsPage, TheZeroFollowsM) {
@@ -319,6 +376,12 @@ TEST_F(EndSectionsPage, TheNetworkSurvivesTheDesignFile) {
   Press("cmdPlot");
   EXPECT_EQ(Top().Id(), PageId::Plotted);
   ExpectStages(made);
+}
+
+TEST_F(EndSectionsPage, ItsCloseBoxLeavesTheProgram) {
+  Open([this] { PressCloseBox(session, Top()); });
+  EXPECT_TRUE(session.ended);
+  EXPECT_NE(File("LASTSESSION.QLM"), "");
 }
 
 TEST_F(EndSectionsPage, TheyAreNotAddedTwice) {
@@ -370,7 +433,7 @@ TEST_F(SpecialDesign, TheNormalizedValuesAreShownAndPrinted) {
 }
 
 TEST_F(SpecialDesign, ANetworkMadeByHandHasNoNormalizedValues) {
-  PressAndThen("Command4", PageId::SinglyTermCheby, [this] { Press("cmdExit"); });
+  GoAndThen("Command4", PageId::SinglyTermCheby, [this] { Press("cmdExit"); });
   Press("cmdSeeNorms");
   EXPECT_EQ(MessageTexts().back(),
             "The parts were entered or changed by hand.\r\nThere are no normalized values that belong to them.");

@@ -209,19 +209,21 @@ TEST_F(UndoOfDesigns, AFileThatCouldNotBeRead) {
 
 TEST_F(UndoOfDesigns, EndSections) {
   Press("optConstantK");
-  ExpectOneStep([this] { PressAndThen("Command11", [this] { Press("cmdOk"); }); }, "End sections");
+  Press("Command11");
+  ExpectOneStep([this] { Press("cmdOk"); }, "End sections");
   EXPECT_EQ(Record().Stages, 5);
 }
 
 TEST_F(UndoOfDesigns, EndSectionsThatWereIgnoredAreNoStep) {
   Press("optConstantK");
-  PressAndThen("Command11", [this] { Press("cmdIgnore"); });
+  Press("Command11");
+  Press("cmdIgnore");
   EXPECT_EQ(session.history.UndoText(), "Constant-K");
 }
 
 TEST_F(UndoOfDesigns, ASinglyTerminatedDesign) {
-  ExpectOneStep([this] { PressAndThen("Command4", [this] { Press("cmdExit"); }); },
-                "Singly-terminated Chebyshev Design");
+  Press("Command4");
+  ExpectOneStep([this] { Press("cmdExit"); }, "Singly-terminated Chebyshev Design");
   EXPECT_EQ(Record().Rsource[1], 0.01F);
 }
 
@@ -252,7 +254,8 @@ TEST_F(UndoOfDesigns, NewZerosOfAnMderivedDesignOnTheWayToThePlot) {
 
 TEST_F(UndoOfDesigns, ADesignComputedOverAHandMadeNetwork) {
   Press("optConstantK");
-  PressAndThen("Command11", [this] { Press("cmdOk"); });
+  Press("Command11");
+  Press("cmdOk");
   Press("cmdPlot");
   Press("cmdDesign");
   const DesignRecord handMade = Snapshot();

@@ -130,11 +130,14 @@ void DesignControls::Refresh() {
 
 void DesignControls::RefreshEntries(const DesignView& view) {
   // While the ripple was a result its box kept what was entered last, and that is the entry again.
-  if (view.ripple && !txtPassbandRipple.visible) ripple.Take();
+  const bool entryAgain = view.ripple && !txtPassbandRipple.visible;
+  if (entryAgain) ripple.Take();
+  if (entryAgain || !view.ripple) lblVSWR.caption = RippleReadout(record_.Apass);
   lblBandwidth.caption = view.bandwidthCaption;
   lblRipple.caption = view.edge;
   lblCenterFrequency.visible = txtCenterFrequency.visible = view.center;
-  lblPassbandRipple.visible = txtPassbandRipple.visible = lblVSWR.visible = view.ripple;
+  lblPassbandRipple.visible = txtPassbandRipple.visible = view.ripple;
+  lblVSWR.visible = view.readout;
   lblStopbandFreq.visible = txtStopbandFreq.visible = view.stopband;
   lblStopbandDepth.visible = txtStopbandDepth.visible = view.stopband;
   entries_.Refresh();

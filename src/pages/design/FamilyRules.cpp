@@ -40,6 +40,7 @@ bool HasRippleEntry(const FamilyRule& rule, const Identity& identity) {
 
 void AddFamily(DesignView& view, const FamilyRule& rule, const Identity& identity) {
   view.ripple = HasRippleEntry(rule, identity);
+  view.readout = rule.ripple != RippleEntry::None;
   view.stopband = rule.stopband;
   view.cauerType = rule.code == familyCauer && IsEvenOrder(identity);
   view.cauerTop = rule.code == familyCauer && identity.Topology == "H";

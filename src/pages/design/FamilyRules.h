@@ -40,6 +40,7 @@ std::string TopologyUnder(i16 family, const std::string& letter);
 // What stands on the page for a design.
 struct DesignView {
   bool ripple = false;
+  bool readout = false;  // of the ripple, be it an entry or a result
   bool stopband = false;
   bool cauerType = false;
   bool cauerTop = false;

@@ -89,6 +89,7 @@ void frmBailout::ShowEntries() {
 // The page closes, and the design is tried again with what the record now holds.
 void frmBailout::Retry() {
   ForgetNetwork(session_.record);
+  session_.retriesCauer = true;
   session_.pages.UnloadPage(Id());
 }
 

@@ -58,10 +58,7 @@ void frmDesign::ConnectButtons() {
     controls_.thumbnails.Thumbnail(number).onClick = [this, number] { ShowTopologyHelp(number); };
   }
   cmdSeeNorms_.onClick = [this] { SeeNormalized(); };
-  controls_.tools.Offer(singlyTerminatedTool, [this] {
-    session_.pages.ShowModal(PageId::SinglyTermCheby);
-    Load();
-  });
+  controls_.tools.Offer(singlyTerminatedTool, [this] { DesignSinglyTerminated(); });
   controls_.tools.Offer(endSectionsTool, [this] { AddEnds(); });
   cmdManual_.onClick = [this] { GoTo(PageId::ManualEntry); };
   cmdTitle_.onClick = [this] { session_.pages.ShowModal(PageId::ChangeTitle); };
@@ -119,7 +116,6 @@ void frmDesign::ChooseFamily(i16 family) {
   if (rule->ripple == RippleEntry::None) {
     record.Apass = 0;
     controls_.ripple.Fill();
-    controls_.lblVSWR.caption.clear();
   }
   if (family == familyManual) SettleByHand(record);
   if (family == familyCauer) record.Order = std::max(record.Order, limitsOf::CauerOrder.lowest);
@@ -179,6 +175,12 @@ void frmDesign::SeeNormalized() {
   session_.pages.ShowModal(PageId::SeeNormalized);
 }
 
+// It makes a network of its own entries, so a design without a bandwidth is no hindrance.
+void frmDesign::DesignSinglyTerminated() {
+  if (session_.record.Width > limitsOf::leastEntered && !MakeNetwork()) return;
+  GoTo(PageId::SinglyTermCheby);
+}
+
 void frmDesign::AddEnds() {
   if (!MakeNetwork()) return;
   const std::string obstacle = EndSectionObstacle(session_.record);
@@ -186,8 +188,7 @@ void frmDesign::AddEnds() {
     session_.platform.MessageBox(obstacle, Buttons::Ok, Icon::Exclamation, "Error checker");
     return;
   }
-  session_.pages.ShowModal(PageId::EndSections);
-  Load();
+  GoTo(PageId::EndSections);
 }
 
 bool frmDesign::MakeNetwork() {

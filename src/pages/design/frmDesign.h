@@ -33,6 +33,7 @@ class frmDesign : public Page {
   void ShowTopologyHelp(int number);
   void ShowSettings();
   void SeeNormalized();
+  void DesignSinglyTerminated();
   void AddEnds();
 
   // What every way to a result does first; false keeps the page, after the user was told why.

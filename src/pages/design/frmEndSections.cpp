@@ -3,6 +3,8 @@
 #include "core/DesignRecord.h"
 #include "core/Fault.h"
 #include "core/modGeneral.h"
+#include "desk/Leaving.h"
+#include "desk/ReturnToDesign.h"
 #include "shell/Session.h"
 #include "synthesis/EndSections.h"
 
@@ -12,7 +14,7 @@ frmEndSections::frmEndSections(Session& session) : Page(session, PageId::EndSect
   entries.Bind(
       {.box = txtM_, .field = m_, .format = FormatValue, .ofZero = OfZero::Blank, .onTaken = [this] { ShowZero(); }});
   cmdOk_.onClick = [this] { Accept(); };
-  cmdIgnore_.onClick = [this] { session_.pages.UnloadPage(Id()); };
+  cmdIgnore_.onClick = [this] { Return(); };
   acceptButton = &cmdOk_;
   cancelButton = &cmdIgnore_;
 }
@@ -48,14 +50,23 @@ void frmEndSections::Accept() {
     return;
   }
   session_.familyOption = familyManual;
+  Return();
+}
+
+void frmEndSections::Return() {
+  ReturnToDesign(session_);
   session_.pages.UnloadPage(Id());
 }
 
+// The page stands in the place of the Design page, and leaves the program as that does.
+void frmEndSections::CloseBox() { LeaveByCloseBox(session_); }
+
 Layout frmEndSections::MakeLayout() {
-  return Column({Form({{Put(lblBandwidth_), Put(lblBandwidthValue_)},
-                       {Put(lblM_), Put(txtM_)},
-                       {Put(lblZero_), Put(lblZeroValue_)}}),
-                 Row({Space(), Put(cmdOk_), Put(cmdIgnore_)})});
+  const Layout form = Form(
+      {{Put(lblBandwidth_), Put(lblBandwidthValue_)}, {Put(lblM_), Put(txtM_)}, {Put(lblZero_), Put(lblZeroValue_)}});
+  return Row({Space(),
+              Column({Space(), Group("End sections", form), Row({Space(), Put(cmdOk_), Put(cmdIgnore_)}), Space()}),
+              Space()});
 }
 
 }  // namespace quilm

@@ -9,6 +9,8 @@ class frmEndSections : public Page {
  public:
   explicit frmEndSections(Session& session);
   void Load() override;
+  void CloseBox() override;
+  PageId Home() const override { return PageId::Design; }
   Layout MakeLayout() override;
 
  private:
@@ -16,6 +18,7 @@ class frmEndSections : public Page {
   bool HasSection() const;
   void ShowZero();
   void Accept();
+  void Return();
 
   f32 m_ = 0;
   Label lblBandwidth_{*this, "lblBandwidth", "Lowpass bandwidth:"};

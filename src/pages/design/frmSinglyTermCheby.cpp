@@ -6,6 +6,8 @@
 #include "core/EntryLimits.h"
 #include "core/Fault.h"
 #include "core/modGeneral.h"
+#include "desk/Leaving.h"
+#include "desk/ReturnToDesign.h"
 #include "shell/Session.h"
 
 namespace quilm {
@@ -37,7 +39,7 @@ frmSinglyTermCheby::frmSinglyTermCheby(Session& session)
   Option3_.onClick = [this] { ChooseTopology("I"); };
   BindEntries();
   cmdExit_.onClick = [this] { Accept(); };
-  cmdIgnore_.onClick = [this] { session_.pages.UnloadPage(Id()); };
+  cmdIgnore_.onClick = [this] { Return(); };
   acceptButton = &cmdExit_;
   cancelButton = &cmdIgnore_;
 }
@@ -114,17 +116,27 @@ void frmSinglyTermCheby::Accept() {
     return;
   }
   session_.familyOption = familyManual;
+  Return();
+}
+
+void frmSinglyTermCheby::Return() {
+  ReturnToDesign(session_);
   session_.pages.UnloadPage(Id());
 }
 
+// The page stands in the place of the Design page, and leaves the program as that does.
+void frmSinglyTermCheby::CloseBox() { LeaveByCloseBox(session_); }
+
 Layout frmSinglyTermCheby::MakeLayout() {
-  return Column({Column({Put(Option1_), Put(Option2_), Put(Option3_)}),
-                 Form({{Put(lblOrder_), Put(txtOrder_)},
-                       {Put(lblRipple_), Put(txtRipple_)},
-                       {Put(lblBandwidth_), Put(txtBandwidth_)},
-                       {KeepPlace(Put(lblCenterFrequency_)), KeepPlace(Put(txtCenterFrequency_))},
-                       {Put(lblOutputTermination_), Put(txtOutputTermination_)}}),
-                 Put(lblNote_), Row({Space(), Put(cmdExit_), Put(cmdIgnore_)})});
+  const Layout form = Form({{Put(lblOrder_), Put(txtOrder_)},
+                            {Put(lblRipple_), Put(txtRipple_)},
+                            {Put(lblBandwidth_), Put(txtBandwidth_)},
+                            {KeepPlace(Put(lblCenterFrequency_)), KeepPlace(Put(txtCenterFrequency_))},
+                            {Put(lblOutputTermination_), Put(txtOutputTermination_)}});
+  return Row({Space(),
+              Column({Space(), Group("Topology", Column({Put(Option1_), Put(Option2_), Put(Option3_)})),
+                      Group("Entries", form), Put(lblNote_), Row({Space(), Put(cmdExit_), Put(cmdIgnore_)}), Space()}),
+              Space()});
 }
 
 }  // namespace quilm

@@ -10,6 +10,8 @@ class frmSinglyTermCheby : public Page {
  public:
   explicit frmSinglyTermCheby(Session& session);
   void Load() override;
+  void CloseBox() override;
+  PageId Home() const override { return PageId::Design; }
   Layout MakeLayout() override;
 
  private:
@@ -20,6 +22,7 @@ class frmSinglyTermCheby : public Page {
   void ChooseTopology(const char* letter);
   bool EntriesAreUsable();
   void Accept();
+  void Return();
 
   SinglyTerminatedEntries design_;
   OptionGroup topologies_;
