@@ -21,8 +21,8 @@ struct FrequencySpan {
 // the centre of a topology that has one, is missing.
 std::optional<FrequencySpan> BandOf(const DesignRecord& record);
 
-// A sweep round the band in round figures: of a lowpass or highpass from a tenth to ten times its edge, of a bandpass or
-// bandstop five widths about the centre, but where that would come down to zero a tenth of the lower edge instead.
+// A sweep round the band in round figures: of a lowpass or highpass from a tenth to ten times its edge, of a bandpass
+// or bandstop five widths about the centre, but where that would come down to zero a tenth of the lower edge instead.
 // Rounded outward, and held within the limits of the sweep. Nothing when there is no band.
 std::optional<FrequencySpan> FittingSweep(const DesignRecord& record);
 

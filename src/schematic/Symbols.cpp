@@ -182,8 +182,8 @@ class StageDrawing {
     Rail(rail).Lead(right + lineBulge, box_.width);
   }
 
-  // The rail is broken; the stub lies `away` below it, or above it where that is negative, and has one conductor at each
-  // side of the break.
+  // The rail is broken; the stub lies `away` below it, or above it where that is negative, and has one conductor at
+  // each side of the break.
   void StubOn(f32 rail, f32 away, bool shorted) const {
     const f32 y = box_.y + rail;
     const Stub stub{Middle() - 110, Middle() + 220, y + away};

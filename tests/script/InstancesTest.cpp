@@ -67,9 +67,8 @@ class Instances : public testing::Test {
         "press cmdDesignNew\npress optChebycheff\npress optCapInLowpass\ntype txtBandwidth 1M\n"
         "type txtPassbandRipple .1\nspin UpDown1 " +
             (own.order > 3 ? "up " + std::to_string(own.order - 3) : std::string("up 1\nspin UpDown1 down 1")) +
-            "\npress cmdTitle\ntype txtTitle " + own.title +
-            "\npress cmdOk\npress cmdAnalysis\ntype txtQcapacitor " + own.capacitorQ + "\nfile save " +
-            Design(instance) + "\npress cmdSave\nclose\n");
+            "\npress cmdTitle\ntype txtTitle " + own.title + "\npress cmdOk\npress cmdAnalysis\ntype txtQcapacitor " +
+            own.capacitorQ + "\nfile save " + Design(instance) + "\npress cmdSave\nclose\n");
   }
 
   std::string Design(int instance) const { return (folder / (ofInstance[instance].title + ".QLM")).string(); }

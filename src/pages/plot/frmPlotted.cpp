@@ -91,11 +91,11 @@ Layout frmPlotted::MakeLayout() {
   std::vector<Layout> strip;
   for (const auto& button : plotButtons) strip.push_back(Put(*button));
   strip.push_back(Space());
-  const Layout tools =
-      Column({Grid(1, {Put(cmdAutoScale), Put(cmdFitSweep), KeepPlace(Put(cmdLimits)), Put(cmdMarkers), Put(cmdStepSize),
-                       Put(cmdTunePart), Put(cmdTuneWidth), KeepPlace(Put(cmdTuneApass)), Put(cmdOptimize),
-                       Put(cmdMonteCarlo), Put(cmdGetOverlay), Put(cmdSaveOverlay), Put(cmdEnd), Put(cmdExtremes)}),
-              smithControls.MakeLayout(), Space()});
+  const Layout tools = Column(
+      {Grid(1, {Put(cmdAutoScale), Put(cmdFitSweep), KeepPlace(Put(cmdLimits)), Put(cmdMarkers), Put(cmdStepSize),
+                Put(cmdTunePart), Put(cmdTuneWidth), KeepPlace(Put(cmdTuneApass)), Put(cmdOptimize), Put(cmdMonteCarlo),
+                Put(cmdGetOverlay), Put(cmdSaveOverlay), Put(cmdEnd), Put(cmdExtremes)}),
+       smithControls.MakeLayout(), Space()});
   return Column({navigation.MakeLayout(), Row(std::move(strip)), Fill(Row({Fill(Put(picPlot)), tools}))});
 }
 
