@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 
+#include "core/Configuration.h"
 #include "support/DesignBench.h"
 #include "support/EntryCases.h"
 
@@ -78,6 +79,7 @@ TEST(CheckEntries, RepairsShowInTheBoxesOfAnOpenPage) {
   bench.record.NrXints = 40;
   bench.record.NrYints = 2;
   bench.record.VSWRTop = 0;
+  bench.session.configuration.ConfigValue[lineQind] = 150;
   bench.record.Qind[1] = 0;
   bench.record.Qcap[1] = 1e9F;
   bench.record.ImpedanceTop = 0;
@@ -89,7 +91,7 @@ TEST(CheckEntries, RepairsShowInTheBoxesOfAnOpenPage) {
   EXPECT_EQ(text("lblNrXints"), "30");
   EXPECT_EQ(text("lblNrYints"), "4");
   EXPECT_EQ(text("txtVSWRTop"), "1.05");
-  EXPECT_EQ(text("txtQinductor"), "2");
+  EXPECT_EQ(text("txtQinductor"), "150");
   EXPECT_EQ(text("txtQcapacitor"), "10000000");
   EXPECT_EQ(text("txtImpedanceTop"), "50");
 }

@@ -5,6 +5,7 @@
 #include <cmath>
 #include <limits>
 
+#include "core/Configuration.h"
 #include "support/EntryCases.h"
 
 namespace quilm {
