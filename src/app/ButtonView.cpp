@@ -6,6 +6,7 @@
 #include <QStyleOptionFocusRect>
 #include <algorithm>
 
+#include "app/OptionCard.h"
 #include "app/QtText.h"
 #include "app/SignIcon.h"
 
@@ -35,6 +36,8 @@ QAbstractButton* MakeWidget(ButtonRole role, QWidget* parent) {
       return MakeToolButton(Qt::ToolButtonTextBesideIcon, false, parent);
     case ButtonRole::Thumbnail:
       return new ThumbnailButton(parent);
+    case ButtonRole::Corner:
+      return MakeToolButton(Qt::ToolButtonTextOnly, true, parent);
     case ButtonRole::Plain:
       break;
   }
@@ -50,6 +53,11 @@ QSize IconSize(ButtonRole role, const Picture& picture) {
   }
   const int natural = static_cast<int>(picture.ScaleHeight) / twipsPerPixel;
   return SignSize(picture, std::clamp(natural, leastThumbnail, mostThumbnail));
+}
+
+QRadioButton* MakeOption(const OptionButton& option, QWidget* parent) {
+  if (option.picture.Empty()) return new QRadioButton(parent);
+  return new OptionCard(option.picture, parent);
 }
 
 }  // namespace
@@ -118,14 +126,40 @@ ButtonView::ButtonView(Button& button, ActSink& sink, QWidget* parent)
                    [this, &sink] { sink.Press([this](Session& session) { Click(session, button_); }); });
 }
 
+// Pictures have none to show, tools and cards are walked with the arrow keys.
+bool ButtonView::TakesMnemonic() const {
+  switch (button_.role) {
+    case ButtonRole::Plain:
+    case ButtonRole::Segment:
+    case ButtonRole::Action:
+      return !button_.caption.empty();
+    case ButtonRole::Tool:
+    case ButtonRole::Thumbnail:
+    case ButtonRole::Corner:
+      break;
+  }
+  return false;
+}
+
+// What stands on the button itself.
+QString ButtonView::Text() const {
+  switch (button_.role) {
+    case ButtonRole::Thumbnail:
+      return {};
+    case ButtonRole::Corner:
+      return QStringLiteral("?");
+    default:
+      return MarkedCaption(button_.caption, mnemonic_);
+  }
+}
+
 void ButtonView::SetDefault(bool isDefault) {
   if (auto* push = qobject_cast<QPushButton*>(widget_)) push->setDefault(isDefault);
 }
 
 void ButtonView::ShowValues() {
   const QSignalBlocker quiet(widget_);
-  const QString text = MarkedCaption(button_.caption, mnemonic_);
-  if (button_.role != ButtonRole::Thumbnail && widget_->text() != text) widget_->setText(text);
+  if (const QString text = Text(); widget_->text() != text) widget_->setText(text);
   ShowPressed();
   ShowPicture();
 }
@@ -149,14 +183,14 @@ void ButtonView::ShowPicture() {
 }
 
 OptionView::OptionView(OptionButton& option, ActSink& sink, QWidget* parent)
-    : ControlView(option), option_(option), widget_(new QRadioButton(parent)) {
+    : ControlView(option), option_(option), widget_(MakeOption(option, parent)) {
   // The page's own groups decide which options exclude one another.
   widget_->setAutoExclusive(false);
   // Options that bear a letter are all of one width, so that what stands beside them lines up.
   constexpr std::size_t letters = 2;
   constexpr int letterWidth = 44;
   if (option.caption.size() <= letters) widget_->setMinimumWidth(letterWidth);
-  widget_->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+  if (option.picture.Empty()) widget_->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
   SetWidget(widget_);
   QObject::connect(widget_, &QAbstractButton::clicked, widget_,
                    [this, &sink] { sink.Press([this](Session& session) { Click(session, option_); }); });
@@ -164,7 +198,7 @@ OptionView::OptionView(OptionButton& option, ActSink& sink, QWidget* parent)
 
 void OptionView::ShowValues() {
   const QSignalBlocker quiet(widget_);
-  const QString text = MarkedCaption(option_.caption, mnemonic_);
+  const QString text = LiteralCaption(option_.caption);
   if (widget_->text() != text) widget_->setText(text);
   if (widget_->isChecked() != option_.Value()) widget_->setChecked(option_.Value());
 }

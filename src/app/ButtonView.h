@@ -37,19 +37,19 @@ class ThumbnailButton : public QToolButton {
 class ButtonView : public ControlView {
  public:
   ButtonView(Button& button, ActSink& sink, QWidget* parent);
-  void SetMnemonic(QChar letter) override { mnemonic_ = letter; }
+  bool TakesMnemonic() const override;
   void SetDefault(bool isDefault) override;
 
  protected:
   void ShowValues() override;
 
  private:
+  QString Text() const;
   void ShowPressed();
   void ShowPicture();
 
   Button& button_;
   QAbstractButton* widget_;
-  QChar mnemonic_;
   std::shared_ptr<const PictureOps> pictureShown_;
   std::size_t operationsShown_ = 0;
 };
@@ -57,7 +57,6 @@ class ButtonView : public ControlView {
 class OptionView : public ControlView {
  public:
   OptionView(OptionButton& option, ActSink& sink, QWidget* parent);
-  void SetMnemonic(QChar letter) override { mnemonic_ = letter; }
 
  protected:
   void ShowValues() override;
@@ -65,7 +64,6 @@ class OptionView : public ControlView {
  private:
   OptionButton& option_;
   QRadioButton* widget_;
-  QChar mnemonic_;
 };
 
 }  // namespace quilm

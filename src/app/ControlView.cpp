@@ -23,6 +23,10 @@ void ControlView::Sync() {
     const QString spoken = ToQt(control_.SpokenName());
     if (FocusWidget()->accessibleName() != spoken) FocusWidget()->setAccessibleName(spoken);
   }
+  for (QWidget* beside : companions_) {
+    if (beside->isHidden() == control_.Shown()) beside->setVisible(control_.Shown());
+    if (beside->isEnabled() != control_.Active()) beside->setEnabled(control_.Active());
+  }
   ShowValues();
 }
 

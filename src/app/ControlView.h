@@ -5,6 +5,7 @@
 #include <QWidget>
 #include <functional>
 #include <memory>
+#include <vector>
 
 #include "shell/Acts.h"
 
@@ -37,11 +38,19 @@ class ControlView {
   virtual QWidget* FocusWidget() const { return widget_; }
   Control& Shows() const { return control_; }
 
+  // Shows a widget whenever the control is shown: a unit beside its box.
+  void Accompany(QWidget& beside) { companions_.push_back(&beside); }
+
   // Shows the control's present values. Cheap when nothing has changed.
   void Sync();
 
-  // The letter that presses it together with Alt; 0 for none.
-  virtual void SetMnemonic(QChar /*letter*/) {}
+  // The letter that presses it, or leads to the box that it names, together with Alt; 0 for none. Shown by the next
+  // Sync.
+  void SetMnemonic(QChar letter) { mnemonic_ = letter; }
+  // Whether it shows a letter at all.
+  virtual bool TakesMnemonic() const { return false; }
+  // Takes another control's widget into its own.
+  virtual void Hold(QWidget& /*inner*/) {}
   // Whether Enter presses it.
   virtual void SetDefault(bool /*isDefault*/) {}
 
@@ -50,9 +59,11 @@ class ControlView {
   virtual void ShowValues() = 0;
 
   Control& control_;
+  QChar mnemonic_;
 
  private:
   QWidget* widget_ = nullptr;
+  std::vector<QWidget*> companions_;
 };
 
 // The adapter of a control, its widget a child of `parent`.

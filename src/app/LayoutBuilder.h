@@ -4,6 +4,9 @@
 
 #include <QWidget>
 #include <functional>
+#include <map>
+#include <utility>
+#include <vector>
 
 #include "app/ControlView.h"
 #include "shell/Layout.h"
@@ -40,12 +43,18 @@ class LayoutBuilder {
   QLayout* BuildGrid(const Layout& node, const Place& place);
   QLayout* BuildForm(const Layout& node, const Place& place);
   QWidget* BuildControl(const Layout& node, const Place& place);
+  QWidget* BuildWithin(const Layout& node, const Place& place);
+  QWidget* BuildCard(const Layout& node, const Place& place);
+  QWidget* BuildWord(const Layout& node, const Place& place);
   QWidget* BuildSidePlace(const Layout& node, const Place& place);
   QWidget* BuildGroup(const Layout& node, const Place& place);
   void AddCell(QGridLayout& grid, const Layout& item, const Place& place, int row, int column, Qt::Alignment align);
+  void JoinLabels(const Layout& form);
 
   QWidget& root_;
   ViewOf viewOf_;
+  std::map<const Control*, ControlView*> built_;
+  std::vector<std::pair<const Control*, QWidget*>> words_;  // with the control that each stands beside
 };
 
 }  // namespace quilm

@@ -1,7 +1,5 @@
 #include "app/Mnemonics.h"
 
-#include <QSet>
-
 namespace quilm {
 
 namespace {
@@ -19,9 +17,8 @@ QChar FirstFree(const QString& caption, const QSet<QChar>& taken, bool wordsOnly
 
 }  // namespace
 
-std::vector<QChar> ChooseMnemonics(const std::vector<QString>& captions) {
+std::vector<QChar> ChooseMnemonics(const std::vector<QString>& captions, QSet<QChar>& taken) {
   std::vector<QChar> letters(captions.size());
-  QSet<QChar> taken;
   for (const bool wordsOnly : {true, false}) {
     for (std::size_t i = 0; i < captions.size(); ++i) {
       if (!letters[i].isNull()) continue;

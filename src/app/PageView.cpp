@@ -6,8 +6,12 @@
 #include <QRadioButton>
 #include <QShortcut>
 #include <algorithm>
+#include <utility>
 
+#include "app/AccessibleControls.h"
 #include "app/EntryView.h"
+#include "app/FocusWalk.h"
+#include "app/GroupBox.h"
 #include "app/HistoryButton.h"
 #include "app/LayoutBuilder.h"
 #include "app/Mnemonics.h"
@@ -42,32 +46,23 @@ std::vector<WindowKey> WindowKeys() {
           {QKeySequence(Qt::CTRL | Qt::Key_6), "cmdTabulate"}};
 }
 
-// Who chooses a mnemonic first: a page's own buttons before those of the navigation row, which have keys of their own.
-int MnemonicRank(const Control& control) {
-  if (control.kind == ControlKind::Option) return 1;
-  switch (static_cast<const Button&>(control).role) {
-    case ButtonRole::Action:
-      return 2;
-    case ButtonRole::Segment:
-      return 3;
-    case ButtonRole::Plain:
-    case ButtonRole::Tool:
-    case ButtonRole::Thumbnail:
-      break;
-  }
-  return 0;
+// Buttons of one role in one group are walked together; plain ones are not.
+bool IsWalked(const Control& control) {
+  return control.kind == ControlKind::Button && static_cast<const Button&>(control).role != ButtonRole::Plain;
 }
 
-bool ShowsCaption(const Control& control) {
-  if (control.caption.empty()) return false;
-  if (control.kind == ControlKind::Option) return true;
-  return control.kind == ControlKind::Button && static_cast<const Button&>(control).role != ButtonRole::Thumbnail;
+GroupBox* GroupOf(const QWidget* widget) {
+  for (QWidget* around = widget->parentWidget(); around != nullptr; around = around->parentWidget()) {
+    if (auto* group = qobject_cast<GroupBox*>(around)) return group;
+  }
+  return nullptr;
 }
 
 }  // namespace
 
 PageView::PageView(Page& page, ActHost& host, QWidget* parent) : QWidget(parent), page_(&page), host_(host) {
   setFocusPolicy(Qt::ClickFocus);
+  InstallAccessibleControls();
   LayoutBuilder builder(*this,
                         [this](Control& control, QWidget* owner) -> ControlView& { return AddView(control, owner); });
   builder.Build(page.MakeLayout());
@@ -75,7 +70,12 @@ PageView::PageView(Page& page, ActHost& host, QWidget* parent) : QWidget(parent)
   for (Control* control : page.Controls()) {
     if (control->kind == ControlKind::Timer) AddView(*control, this);
   }
-  MarkMnemonics();
+  for (const Control* control : page.Controls()) {
+    if (control->mnemonic != 0) takenLetters_.insert(QChar(QLatin1Char(control->mnemonic)).toLower());
+  }
+  AddWalks();
+  RefreshMnemonics();
+  MarkGroups();
   if (const auto accept = viewOf_.find(page.acceptButton); accept != viewOf_.end()) accept->second->SetDefault(true);
   AddShortcuts();
   Sync();
@@ -96,18 +96,66 @@ ControlView& PageView::AddView(Control& control, QWidget* parent) {
   return view;
 }
 
-void PageView::MarkMnemonics() {
-  std::vector<ControlView*> marked;
+void PageView::AddWalks() {
+  using Key = std::pair<const void*, int>;  // a group of options, or a group's widget and a role
+  std::vector<std::pair<Key, std::vector<ControlView*>>> walks;
   for (const auto& view : views_) {
-    if (ShowsCaption(view->Shows())) marked.push_back(view.get());
+    const Control& control = view->Shows();
+    Key key{nullptr, -1};
+    if (control.kind == ControlKind::Option) {
+      key.first = &static_cast<const OptionButton&>(control).Group();
+    } else if (IsWalked(control)) {
+      const ButtonRole role = static_cast<const Button&>(control).role;
+      // The question marks of all cards are one walk, as the cards are.
+      key = {role == ButtonRole::Corner ? nullptr : GroupOf(view->Widget()), static_cast<int>(role)};
+    } else {
+      continue;
+    }
+    auto at = std::find_if(walks.begin(), walks.end(), [&key](const auto& walk) { return walk.first == key; });
+    if (at == walks.end()) at = walks.insert(at, {key, {}});
+    at->second.push_back(view.get());
   }
-  std::stable_sort(marked.begin(), marked.end(), [](const ControlView* a, const ControlView* b) {
-    return MnemonicRank(a->Shows()) < MnemonicRank(b->Shows());
-  });
+  for (auto& walk : walks) walks_.push_back(new FocusWalk(std::move(walk.second), this));
+}
+
+// Each letter is chosen once and then stays, so that it is the same whatever can be used just now; what cannot be used
+// shows none, and has taken none from the others if it could not be used when the page came.
+void PageView::RefreshMnemonics() {
+  std::vector<const ControlView*> without;
   std::vector<QString> captions;
-  for (const ControlView* view : marked) captions.push_back(ToQt(view->Shows().caption));
-  const std::vector<QChar> letters = ChooseMnemonics(captions);
-  for (std::size_t i = 0; i < marked.size(); ++i) marked[i]->SetMnemonic(letters[i]);
+  for (const auto& view : views_) {
+    if (!view->TakesMnemonic() || !view->Shows().Usable() || letters_.count(view.get()) != 0) continue;
+    if (view->Shows().mnemonic != 0) {
+      letters_[view.get()] = QLatin1Char(view->Shows().mnemonic);
+    } else {
+      without.push_back(view.get());
+      captions.push_back(ToQt(view->Shows().caption));
+    }
+  }
+  const std::vector<QChar> chosen = ChooseMnemonics(captions, takenLetters_);
+  for (std::size_t i = 0; i < without.size(); ++i) letters_[without[i]] = chosen[i];
+  for (const auto& view : views_) {
+    const auto letter = letters_.find(view.get());
+    view->SetMnemonic(letter != letters_.end() && view->Shows().Usable() ? letter->second : QChar());
+  }
+}
+
+// The letter of a group leads to the walk in it.
+void PageView::MarkGroups() {
+  std::vector<GroupBox*> groups;
+  std::vector<QString> captions;
+  for (FocusWalk* walk : walks_) {
+    GroupBox* group = GroupOf(walk->First());
+    while (group != nullptr && !walk->StandsIn(*group)) group = GroupOf(group);
+    if (group == nullptr || group->Title().isEmpty() || group->Heading()->onLetter) continue;
+    group->Heading()->onLetter = [walk] {
+      if (QWidget* stop = walk->Stop()) stop->setFocus(Qt::ShortcutFocusReason);
+    };
+    groups.push_back(group);
+    captions.push_back(group->Title());
+  }
+  const std::vector<QChar> chosen = ChooseMnemonics(captions, takenLetters_);
+  for (std::size_t i = 0; i < groups.size(); ++i) groups[i]->SetMnemonic(chosen[i]);
 }
 
 void PageView::AddShortcuts() {
@@ -145,7 +193,9 @@ PictureView* PageView::PictureToCopy() const {
 
 void PageView::Sync() {
   if (page_ == nullptr) return;
+  RefreshMnemonics();
   for (const auto& view : views_) view->Sync();
+  for (FocusWalk* walk : walks_) walk->Sync();
   // The same key of two pages in one window would mean neither: it is the tool's.
   for (QShortcut* shortcut : shortcuts_) shortcut->setEnabled(!HasTool());
   const auto wished = viewOf_.find(page_->TakeFocusWish());
@@ -154,20 +204,33 @@ void PageView::Sync() {
   wished->second->FocusWidget()->setFocus(Qt::TabFocusReason);
 }
 
-void PageView::FocusFirst() {
-  if (QWidget* wished = focusWidget(); wished != nullptr && wished != this) {
-    wished->setFocus(Qt::TabFocusReason);
-    return;
+// Not the navigation: who comes to a page wants to work on it.
+bool PageView::IsContent(const ControlView& view) const {
+  const auto* button = dynamic_cast<const Button*>(&view.Shows());
+  return button == nullptr || (button->role != ButtonRole::Segment && button->role != ButtonRole::Action);
+}
+
+// The first box, else the button that Enter presses, else whatever comes first.
+QWidget* PageView::FirstContent() const {
+  if (page_ == nullptr) return nullptr;
+  for (const auto& view : views_) {
+    if (view->Shows().kind == ControlKind::Text && view->Shows().Usable()) return view->FocusWidget();
+  }
+  if (const auto accept = viewOf_.find(page_->acceptButton); accept != viewOf_.end()) {
+    return accept->second->FocusWidget();
   }
   for (const auto& view : views_) {
-    const bool entry = view->Shows().kind == ControlKind::Text && view->Shows().Usable();
-    if (!entry) continue;
-    view->FocusWidget()->setFocus(Qt::TabFocusReason);
-    return;
+    const bool stop = view->Widget() != nullptr && (view->FocusWidget()->focusPolicy() & Qt::TabFocus) != 0;
+    if (stop && IsContent(*view) && view->Shows().Usable()) return view->FocusWidget();
   }
-  const auto accept = page_ == nullptr ? viewOf_.end() : viewOf_.find(page_->acceptButton);
-  if (accept != viewOf_.end()) {
-    accept->second->FocusWidget()->setFocus(Qt::OtherFocusReason);
+  return nullptr;
+}
+
+void PageView::FocusFirst() {
+  QWidget* wished = focusWidget();
+  if (wished == nullptr || wished == this) wished = FirstContent();
+  if (wished != nullptr) {
+    wished->setFocus(Qt::TabFocusReason);
   } else {
     setFocus(Qt::OtherFocusReason);
   }

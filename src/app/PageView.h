@@ -1,6 +1,7 @@
 // A page as widgets: built once from the page's layout, shown anew from its controls after every handler.
 #pragma once
 
+#include <QSet>
 #include <QWidget>
 #include <functional>
 #include <map>
@@ -13,6 +14,8 @@ class QShortcut;
 
 namespace quilm {
 
+class FocusWalk;
+class GroupBox;
 class Page;
 class PictureView;
 class SideStack;
@@ -65,7 +68,11 @@ class PageView : public QWidget, public ActSink {
  private:
   ControlView& AddView(Control& control, QWidget* parent);
   void AddShortcuts();
-  void MarkMnemonics();
+  void AddWalks();
+  void RefreshMnemonics();
+  void MarkGroups();
+  bool IsContent(const ControlView& view) const;
+  QWidget* FirstContent() const;
   void LeaveBox();
   bool PressButton(Button* button);
   bool PressFocused();
@@ -77,6 +84,9 @@ class PageView : public QWidget, public ActSink {
   std::vector<std::unique_ptr<ControlView>> views_;  // in reading order
   std::map<const Control*, ControlView*> viewOf_;
   std::vector<QShortcut*> shortcuts_;
+  std::vector<FocusWalk*> walks_;
+  std::map<const ControlView*, QChar> letters_;
+  QSet<QChar> takenLetters_;
   SideStack* side_ = nullptr;
 };
 

@@ -8,6 +8,7 @@
 #include <algorithm>
 
 #include "app/AccessibleAreas.h"
+#include "app/FocusWalk.h"
 #include "app/PictureView.h"
 #include "app/QtText.h"
 
@@ -17,21 +18,6 @@ namespace {
 
 constexpr int markWidth = 2;
 constexpr int markGap = 2;  // between the area and its mark
-
-std::optional<Direction> DirectionOf(int key) {
-  switch (key) {
-    case Qt::Key_Left:
-      return Direction::Left;
-    case Qt::Key_Right:
-      return Direction::Right;
-    case Qt::Key_Up:
-      return Direction::Up;
-    case Qt::Key_Down:
-      return Direction::Down;
-    default:
-      return std::nullopt;
-  }
-}
 
 }  // namespace
 

@@ -1,7 +1,7 @@
 #include "app/PlainViews.h"
 
+#include <QAccessible>
 #include <QFontDatabase>
-#include <QVBoxLayout>
 
 #include "app/QtText.h"
 #include "shell/Session.h"
@@ -42,7 +42,7 @@ LabelView::LabelView(Label& label, QWidget* parent) : ControlView(label), label_
 }
 
 void LabelView::ShowValues() {
-  const QString text = ToQt(label_.caption);
+  const QString text = TakesMnemonic() ? MarkedCaption(label_.caption, mnemonic_) : ToQt(label_.caption);
   if (widget_->text() != text) {
     widget_->setText(text);
     const bool wraps = HasLongLine(text);
@@ -57,57 +57,37 @@ void LabelView::ShowValues() {
   widget_->setPalette(colors);
 }
 
-QLabel* MakeHeading(const std::string& title, bool nested, QWidget* parent) {
-  auto* heading = new QLabel(ToQt(title), parent);
-  heading->setTextFormat(Qt::PlainText);
-  if (nested) {
-    heading->setForegroundRole(QPalette::PlaceholderText);
-  } else {
-    QFont font = heading->font();
-    font.setWeight(QFont::DemiBold);
-    heading->setFont(font);
-  }
-  heading->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
-  return heading;
-}
-
-FrameView::FrameView(Frame& frame, QWidget* parent) : ControlView(frame), frame_(frame), widget_(new QWidget(parent)) {
+FrameView::FrameView(Frame& frame, QWidget* parent) : ControlView(frame), frame_(frame), widget_(new GroupBox(parent)) {
   SetWidget(widget_);
 }
 
-// The heading, if the layout gave the frame one, is the first label in it.
+// The layout gives the frame its heading.
 void FrameView::ShowValues() {
-  auto* heading = widget_->findChild<QLabel*>(QStringLiteral("heading"), Qt::FindDirectChildrenOnly);
-  if (heading == nullptr) return;
   const QString caption = ToQt(frame_.caption);
-  if (heading->text() != caption) heading->setText(caption);
-  if (heading->isHidden() != caption.isEmpty()) heading->setVisible(!caption.isEmpty());
+  if (widget_->Heading() != nullptr && widget_->Title() != caption) widget_->SetTitle(caption);
 }
 
-SpinView::SpinView(Spin& spin, ActSink& sink, QWidget* parent) : ControlView(spin), spin_(spin) {
-  auto* both = new QWidget(parent);
-  auto* column = new QVBoxLayout(both);
-  column->setContentsMargins(0, 0, 0, 0);
-  column->setSpacing(0);
-  both->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-  SetWidget(both);
-  AddArrow(Qt::UpArrow, "up", +1, sink);
-  AddArrow(Qt::DownArrow, "down", -1, sink);
-}
-
-void SpinView::AddArrow(Qt::ArrowType arrow, const char* spoken, int direction, ActSink& sink) {
-  constexpr int width = 20;
-  constexpr int height = 12;
-  auto* button = new QToolButton(Widget());
-  button->setArrowType(arrow);
-  button->setFixedSize(width, height);
-  button->setAutoRepeat(true);
-  button->setFocusPolicy(Qt::StrongFocus);
-  button->setAccessibleName(ToQt(spin_.SpokenName() + ", " + spoken));
-  Widget()->layout()->addWidget(button);
-  QObject::connect(button, &QAbstractButton::clicked, button, [this, direction, &sink] {
+SpinView::SpinView(Spin& spin, ActSink& sink, QWidget* parent)
+    : ControlView(spin), spin_(spin), widget_(new SpinBox(parent)) {
+  widget_->onStep = [this, &sink](int direction) {
     sink.Press([this, direction](Session& session) { Step(session, spin_, direction); });
-  });
+  };
+  if (spin.number != nullptr) {
+    widget_->onNumber = [this, &sink](int number) {
+      sink.Press([this, number](Session& session) { SetNumber(session, spin_, number); });
+    };
+    widget_->value = [this] { return spin_.Value(); };
+  }
+  SetWidget(widget_);
+}
+
+void SpinView::ShowValues() {
+  widget_->lowest = spin_.lowest;
+  widget_->highest = spin_.highest;
+  if (spin_.Value() == valueShown_) return;
+  valueShown_ = spin_.Value();
+  QAccessibleValueChangeEvent changed(widget_, valueShown_);
+  QAccessible::updateAccessibility(&changed);
 }
 
 TimerView::TimerView(Timer& timer, ActSink& sink, QWidget* parent)

@@ -3,17 +3,19 @@
 
 #include <QLabel>
 #include <QTimer>
-#include <QToolButton>
 
 #include "app/ControlView.h"
+#include "app/GroupBox.h"
 #include "app/PictureAreas.h"
 #include "app/PictureView.h"
+#include "app/SpinBox.h"
 
 namespace quilm {
 
 class LabelView : public ControlView {
  public:
   LabelView(Label& label, QWidget* parent);
+  bool TakesMnemonic() const override { return widget_->buddy() != nullptr; }
 
  protected:
   void ShowValues() override;
@@ -34,24 +36,21 @@ class FrameView : public ControlView {
 
  private:
   Frame& frame_;
-  QWidget* widget_;
+  GroupBox* widget_;
 };
 
-// The quiet heading of a group, quieter still for a group within another one.
-QLabel* MakeHeading(const std::string& title, bool nested, QWidget* parent);
-
-// Two small arrow buttons, one above the other.
 class SpinView : public ControlView {
  public:
   SpinView(Spin& spin, ActSink& sink, QWidget* parent);
+  void Hold(QWidget& inner) override { widget_->Hold(inner); }
 
  protected:
-  void ShowValues() override {}
+  void ShowValues() override;
 
  private:
-  void AddArrow(Qt::ArrowType arrow, const char* spoken, int direction, ActSink& sink);
-
   Spin& spin_;
+  SpinBox* widget_;
+  i32 valueShown_ = 0;
 };
 
 class TimerView : public ControlView {

@@ -7,7 +7,8 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
-#include "app/PlainViews.h"
+#include "app/GroupBox.h"
+#include "app/PageView.h"
 
 namespace quilm {
 
@@ -20,7 +21,7 @@ SidePanel::SidePanel(PageView& view, const QString& title) : view_(view) {
   close->setToolTip(tr("Close"));
   connect(close, &QToolButton::clicked, this, [this] { onCloseBox(); });
   auto* top = new QHBoxLayout;
-  top->addWidget(MakeHeading(title.toStdString(), false, this));
+  top->addWidget(new GroupHeading(title, false, this));
   top->addStretch(1);
   top->addWidget(close);
   auto* whole = new QVBoxLayout(this);

@@ -16,26 +16,27 @@ std::string NameOf(PageId page, const std::string& caption) {
 
 }  // namespace
 
+// The letters are the row's own on every page; no other control of a page takes one of them.
 NavigationRow::NavigationRow(Page& page, Session& session, Gate gate)
     : page_(page), session_(session), gate_(std::move(gate)) {
-  AddSegment(PageId::Design, Sign::Design, "cmdDesign", "Design", "Go to the Design page");
-  AddSegment(PageId::Schematic, Sign::Schematic, "cmdSchematic", "Schematic", "See the schematic");
-  AddSegment(PageId::Edit, Sign::Edit, "cmdEdit", "Edit", "Edit the design");
-  AddSegment(PageId::Analyze, Sign::Analysis, "cmdAnalysis", "Analysis", "Set up the analysis");
-  AddSegment(PageId::Plotted, Sign::Plot, "cmdPlot", "Plot", "Plot the responses");
-  AddSegment(PageId::Tabulated, Sign::Tabulate, "cmdTabulate", "Tabulate", "Tabulate the responses");
-  cmdGet_ = &AddAction(Sign::Get, "cmdGet", "Get", "Get a design from disk", [this] { onGet(); });
-  cmdSave_ = &AddAction(Sign::Save, "cmdSave", "Save", "Save the design to disk", [this] {
+  AddSegment(PageId::Design, Sign::Design, 'D', "cmdDesign", "Design", "Go to the Design page");
+  AddSegment(PageId::Schematic, Sign::Schematic, 'S', "cmdSchematic", "Schematic", "See the schematic");
+  AddSegment(PageId::Edit, Sign::Edit, 'E', "cmdEdit", "Edit", "Edit the design");
+  AddSegment(PageId::Analyze, Sign::Analysis, 'A', "cmdAnalysis", "Analysis", "Set up the analysis");
+  AddSegment(PageId::Plotted, Sign::Plot, 'P', "cmdPlot", "Plot", "Plot the responses");
+  AddSegment(PageId::Tabulated, Sign::Tabulate, 'T', "cmdTabulate", "Tabulate", "Tabulate the responses");
+  cmdGet_ = &AddAction(Sign::Get, 'G', "cmdGet", "Get", "Get a design from disk", [this] { onGet(); });
+  cmdSave_ = &AddAction(Sign::Save, 'v', "cmdSave", "Save", "Save the design to disk", [this] {
     // What is written is held to what a file can hold, which is nothing that the user did.
     const History::Following following(session_);
     onSave();
   });
-  cmdSpice_ = &AddAction(Sign::Write, "cmdSpice", "Write", "Write file", [this] { GoTo(PageId::WriteFiles); });
-  cmdPrint_ = &AddAction(Sign::Print, "cmdPrint", "Print", "Print the responses", [this] { onPrint(); });
-  AddAction(Sign::Help, "cmdHelp", "Help", "Help :-)",
+  cmdSpice_ = &AddAction(Sign::Write, 'W', "cmdSpice", "Write", "Write file", [this] { GoTo(PageId::WriteFiles); });
+  cmdPrint_ = &AddAction(Sign::Print, 'r', "cmdPrint", "Print", "Print the responses", [this] { onPrint(); });
+  AddAction(Sign::Help, 'H', "cmdHelp", "Help", "Help :-)",
             [this] { session_.platform.ShellOpen(session_.platform.HelpFolder() + "/" + helpFile); });
-  AddAction(Sign::About, "cmdAbout", "About", "Details", [this] { session_.pages.ShowModal(PageId::About); });
-  AddAction(Sign::Exit, "cmdExit", "Exit", "Exit / quit the program",
+  AddAction(Sign::About, 'b', "cmdAbout", "About", "Details", [this] { session_.pages.ShowModal(PageId::About); });
+  AddAction(Sign::Exit, 'x', "cmdExit", "Exit", "Exit / quit the program",
             [this] { session_.pages.ShowModal(PageId::Exit); });
 }
 
@@ -43,24 +44,27 @@ NavigationRow::Gate NavigationRow::WithSoundEntries(Session& session) {
   return [&session](PageId target) { return target == PageId::Design || CheckEntries(session); };
 }
 
-void NavigationRow::AddSegment(PageId target, Sign sign, const char* name, const char* caption, const char* toolTip) {
+void NavigationRow::AddSegment(PageId target, Sign sign, char letter, const char* name, const char* caption,
+                               const char* toolTip) {
   const bool here = target == page_.Id();
   auto button = here ? std::make_unique<Button>(page_, "cmdHere", caption, "You are at the " + NameOf(target, caption))
                      : std::make_unique<Button>(page_, name, caption, toolTip);
   button->role = ButtonRole::Segment;
   button->picture = SignPicture(sign);
+  button->mnemonic = letter;
   button->pressed = here;
   button->enabled = !here;
   if (!here) button->onClick = [this, target] { GoTo(target); };
   segments_.push_back({target, std::move(button)});
 }
 
-Button& NavigationRow::AddAction(Sign sign, const char* name, const char* caption, const char* toolTip,
+Button& NavigationRow::AddAction(Sign sign, char letter, const char* name, const char* caption, const char* toolTip,
                                  std::function<void()> act) {
   actions_.push_back(std::make_unique<Button>(page_, name, caption, toolTip));
   Button& button = *actions_.back();
   button.role = ButtonRole::Action;
   button.picture = SignPicture(sign);
+  button.mnemonic = letter;
   button.onClick = std::move(act);
   return button;
 }

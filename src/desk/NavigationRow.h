@@ -40,8 +40,9 @@ class NavigationRow {
     std::unique_ptr<Button> button;
   };
 
-  void AddSegment(PageId target, Sign sign, const char* name, const char* caption, const char* toolTip);
-  Button& AddAction(Sign sign, const char* name, const char* caption, const char* toolTip, std::function<void()> act);
+  void AddSegment(PageId target, Sign sign, char letter, const char* name, const char* caption, const char* toolTip);
+  Button& AddAction(Sign sign, char letter, const char* name, const char* caption, const char* toolTip,
+                    std::function<void()> act);
   void GoTo(PageId target);
 
   Page& page_;

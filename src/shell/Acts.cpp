@@ -174,6 +174,12 @@ void Step(Session& session, Spin& spin, int direction) {
   RunAct(session, {NameOf(spin)}, direction > 0 ? spin.onUp : spin.onDown);
 }
 
+void SetNumber(Session& session, Spin& spin, i32 number) {
+  Require(spin);
+  if (!spin.onSet) throw ActRefused(spin.name + " takes no number");
+  RunAct(session, {NameOf(spin), spin.name, false}, [&spin, number] { spin.onSet(number); });
+}
+
 void Choose(Session& session, ListBox& list, int line) {
   Require(list);
   if (line < 1 || line > static_cast<int>(list.items.size())) {

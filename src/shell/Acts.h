@@ -26,6 +26,7 @@ void Click(Session& session, Control& control);                      // a button
 void Type(Session& session, TextBox& box, const std::string& text);  // one change that leaves `text` in the box
 void Leave(Session& session, TextBox& box);                          // the focus goes elsewhere
 void Step(Session& session, Spin& spin, int direction);              // +1 up, -1 down
+void SetNumber(Session& session, Spin& spin, i32 number);            // typed while it has the focus
 void Choose(Session& session, ListBox& list, int line);              // line from 1
 void Tick(Session& session, Timer& timer);
 void PressCloseBox(Session& session, Page& page);

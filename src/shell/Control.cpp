@@ -1,6 +1,7 @@
 #include "shell/Control.h"
 
 #include <algorithm>
+#include <charconv>
 #include <utility>
 
 #include "shell/Page.h"
@@ -114,6 +115,20 @@ Spin::Spin(Page& page, std::string spinName, std::string accessible, std::string
     : Control(page, ControlKind::Spin, std::move(spinName)) {
   accessibleName = std::move(accessible);
   toolTip = std::move(tip);
+}
+
+void Spin::Count(Label& shown, std::function<void(i32)> onTyped) {
+  number = &shown;
+  onSet = std::move(onTyped);
+}
+
+i32 Spin::Value() const {
+  i32 value = 0;
+  if (number != nullptr) {
+    const std::string& text = number->caption;
+    std::from_chars(text.data(), text.data() + text.size(), value);
+  }
+  return value;
 }
 
 Timer::Timer(Page& page, std::string timerName, i32 milliseconds)

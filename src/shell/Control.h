@@ -32,6 +32,7 @@ class Control {
   std::string caption;  // of buttons, options, labels and frames
   std::string toolTip;
   std::string accessibleName;  // for screen readers, where caption and tool tip say too little
+  char mnemonic = 0;           // its letter together with Alt, where that is always the same; 0 leaves it to the window
   bool visible = true;
   bool enabled = true;
   Color foreColor = colorBlack;  // black stands for the palette's own text colour
@@ -57,7 +58,8 @@ enum class ButtonRole {
   Segment,    // one of the six pages in the navigation row
   Action,     // an action of the navigation row: icon beside or above its caption
   Tool,       // one of an even grid of tools, with a small drawn sign
-  Thumbnail,  // a picture alone: a ladder, a kind of plot
+  Thumbnail,  // a picture alone: a kind of plot
+  Corner,     // a small question mark in the corner of a card
 };
 
 class Button : public Control {
@@ -76,6 +78,7 @@ class OptionGroup {
   // The option that is set, or nullptr.
   OptionButton* Chosen() const;
   void Clear();
+  const std::vector<OptionButton*>& Members() const { return members_; }
 
  private:
   friend class OptionButton;
@@ -89,6 +92,8 @@ class OptionButton : public Control {
   bool Value() const { return value_; }
   void Set();  // sets this option and clears the others of its group
   void Unset() { value_ = false; }
+  const OptionGroup& Group() const { return group_; }
+  Picture picture;  // of what it stands for, drawn on its card
 
  private:
   OptionGroup& group_;
@@ -140,6 +145,17 @@ class Spin : public Control {
   Spin(Page& page, std::string name, std::string accessible, std::string toolTip = {});
   std::function<void()> onUp;
   std::function<void()> onDown;
+
+  // The label that shows the whole number which the control steps, and what a number that is typed does. The handler
+  // holds it to the range.
+  void Count(Label& shown, std::function<void(i32)> onTyped);
+  Label* number = nullptr;
+  std::function<void(i32)> onSet;
+  i32 lowest = 0;  // for assistive tools, and for where the digits of a typed number end
+  i32 highest = 0;
+
+  // What the label shows; 0 where it shows no number.
+  i32 Value() const;
 };
 
 class Timer : public Control {

@@ -5,8 +5,12 @@
 namespace quilm {
 namespace {
 
+std::vector<QChar> Choose(const std::vector<QString>& captions, QSet<QChar> taken = {}) {
+  return ChooseMnemonics(captions, taken);
+}
+
 TEST(ChooseMnemonics, NoLetterStandsTwice) {
-  const std::vector<QChar> letters = ChooseMnemonics({"Design", "Default", "Delete", "Edit", "Exit", "E"});
+  const std::vector<QChar> letters = Choose({"Design", "Default", "Delete", "Edit", "Exit", "E"});
   for (std::size_t i = 0; i < letters.size(); ++i) {
     for (std::size_t j = 0; j < i; ++j) {
       EXPECT_TRUE(letters[i].isNull() || letters[i] != letters[j]) << i << ' ' << j;
@@ -15,12 +19,22 @@ TEST(ChooseMnemonics, NoLetterStandsTwice) {
 }
 
 TEST(ChooseMnemonics, BeginningsOfWordsComeFirst) {
-  EXPECT_EQ(ChooseMnemonics({"Zoom in", "Zoom out"}), (std::vector<QChar>{'z', 'o'}));
+  EXPECT_EQ(Choose({"Zoom in", "Zoom out"}), (std::vector<QChar>{'z', 'o'}));
 }
 
 TEST(ChooseMnemonics, ACaptionWhoseLettersAreTakenGetsNone) {
-  EXPECT_TRUE(ChooseMnemonics({"A", "A"})[1].isNull());
-  EXPECT_TRUE(ChooseMnemonics({"&% -"})[0].isNull());
+  EXPECT_TRUE(Choose({"A", "A"})[1].isNull());
+  EXPECT_TRUE(Choose({"&% -"})[0].isNull());
+}
+
+TEST(ChooseMnemonics, ALetterThatIsTakenIsLeftToItsOwner) {
+  EXPECT_EQ(Choose({"Delete"}, {'d', 'e'}), std::vector<QChar>{'l'});
+}
+
+TEST(ChooseMnemonics, WhatIsChosenIsTakenForThoseWhoComeLater) {
+  QSet<QChar> taken;
+  ChooseMnemonics({"Ok"}, taken);
+  EXPECT_EQ(ChooseMnemonics({"Order"}, taken), std::vector<QChar>{'r'});
 }
 
 }  // namespace

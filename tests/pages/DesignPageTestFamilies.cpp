@@ -2,6 +2,7 @@
 
 #include "pages/DesignPageBench.h"
 #include "pages/design/FamilyRules.h"
+#include "schematic/LadderPicture.h"
 
 namespace quilm {
 namespace {
@@ -188,9 +189,37 @@ TEST_F(DesignFamilies, CaptionsAreThoseOfTheTopologies) {
   EXPECT_EQ(CaptionOf("lblInputTerm"), "Input termination  (Rs)");
 }
 
-TEST_F(DesignFamilies, ATopologyPictureLeadsToItsHelp) {
+TEST_F(DesignFamilies, TheDrawnLadderIsTheOptions) {
   OpenLowpass();
-  EXPECT_FALSE(Get<Button>("cmdCauerBandpass").picture.Empty());
+  EXPECT_EQ(Get<OptionButton>("optSeriesInBandstop").picture, TopologyPicture("K"));
+  EXPECT_TRUE(Get<Button>("cmdSeriesInBandstop").picture.Empty());
+}
+
+TEST_F(DesignFamilies, ATypedOrderIsHeldToWhatTheFamilyCanHave) {
+  OpenLowpass();
+  SetNumber(session, Get<quilm::Spin>("UpDown1"), 12);
+  EXPECT_EQ(record.Order, 12);
+  EXPECT_EQ(CaptionOf("lblOrderInput"), "12");
+  SetNumber(session, Get<quilm::Spin>("UpDown1"), 40);
+  EXPECT_EQ(record.Order, 21);
+  Press("optCauer");
+  SetNumber(session, Get<quilm::Spin>("UpDown1"), 1);
+  EXPECT_EQ(record.Order, 3);
+  EXPECT_EQ(Get<quilm::Spin>("UpDown1").lowest, 3);
+}
+
+TEST_F(DesignFamilies, ATypedLineWidthIsHeldToSix) {
+  OpenLowpass();
+  SetNumber(session, Get<quilm::Spin>("UpDown2"), 9);
+  EXPECT_EQ(record.PlotLineWidth, 6);
+  EXPECT_EQ(CaptionOf("lblLineWidthInput"), "6");
+}
+
+TEST_F(DesignFamilies, AQuestionMarkLeadsToTheHelpOfItsTopology) {
+  OpenLowpass();
+  // What it leads to, also where its card cannot be chosen.
+  EXPECT_FALSE(Get<OptionButton>("optCauerBandpass").Active());
+  EXPECT_EQ(Get<Button>("cmdCauerBandpass").SpokenName(), "Cauer-only bandpass, See the Cauer-only bandpass");
   Press("cmdCauerBandpass");
   EXPECT_EQ(record.TopologyHelpCode, 8);
   EXPECT_EQ(record.Topology, "A");

@@ -87,7 +87,16 @@ void ExpectBuildable(const Layout& layout) {
       EXPECT_GT(layout.columns, 0);
       break;
     case Layout::Kind::Form:
-      EXPECT_EQ(layout.items.size() % 2, 0U);
+      EXPECT_TRUE(layout.columns == 2 || layout.columns == 3);
+      EXPECT_EQ(layout.items.size() % static_cast<std::size_t>(layout.columns), 0U);
+      break;
+    case Layout::Kind::Within:
+      EXPECT_NE(layout.control, nullptr);
+      EXPECT_EQ(layout.items.size(), 1U);
+      break;
+    case Layout::Kind::Word:
+      EXPECT_NE(layout.control, nullptr);
+      EXPECT_FALSE(layout.title.empty());
       break;
     case Layout::Kind::Group:
       EXPECT_EQ(layout.items.size(), 1U);

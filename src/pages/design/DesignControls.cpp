@@ -57,7 +57,7 @@ DesignControls::DesignControls(Page& page, DesignRecord& record, const std::func
       optCauerTopNormal(page, cauerTops, "optCauerTopNormal", "Normal", "The layout for any order"),
       optCauerTopZigZag(page, cauerTops, "optCauerTopZigZag", "Zig-zag", "Fewer inductors, for even order only"),
       topologies(page),
-      thumbnails(page),
+      guides(page),
       lblOrder(page, "lblOrder", "Order  (N)"),
       lblOrderInput(page, "lblOrderInput", ""),
       UpDown1(page, "UpDown1", "Order"),
@@ -85,6 +85,8 @@ DesignControls::DesignControls(Page& page, DesignRecord& record, const std::func
       depth(page.entries.Bind(DepthBinding(txtStopbandDepth, record.Astop, onEntry))),
       entries_(page.entries),
       record_(record) {
+  // A lowpass has a cutoff, a bandpass a bandwidth: the letter is one of both captions.
+  lblBandwidth.mnemonic = 'F';
   fraCauerType.Hold({&optCauerTermBest, &optCauerTermsEqual});
   fraCauerBPFtop.Hold({&optCauerTopNormal, &optCauerTopZigZag});
 }
@@ -120,6 +122,8 @@ void DesignControls::FillOptions() {
 void DesignControls::Refresh() {
   const DesignView view = ViewOf(record_);
   lblOrderInput.caption = PlainText(record_.Order);
+  UpDown1.lowest = LowestOrder(record_);
+  UpDown1.highest = record_.OrderMax;
   fraCauerType.visible = view.cauerType;
   fraCauerBPFtop.visible = view.cauerTop;
   optCauerTopZigZag.enabled = view.zigZag;
@@ -135,6 +139,7 @@ void DesignControls::RefreshEntries(const DesignView& view) {
   if (entryAgain || !view.ripple) lblVSWR.caption = RippleReadout(record_.Apass);
   lblBandwidth.caption = view.bandwidthCaption;
   lblRipple.caption = view.edge;
+  lblRipple.visible = !view.edge.empty();
   lblCenterFrequency.visible = txtCenterFrequency.visible = view.center;
   lblPassbandRipple.visible = txtPassbandRipple.visible = view.ripple;
   lblVSWR.visible = view.readout;

@@ -49,7 +49,7 @@ class DesignControls {
   OptionButton optCauerTopNormal;
   OptionButton optCauerTopZigZag;
   TopologyOptions topologies;
-  TopologyThumbnails thumbnails;
+  TopologyGuides guides;
   Label lblOrder;
   Label lblOrderInput;
   Spin UpDown1;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "core/EntryLimits.h"
 #include "core/Identity.h"
 #include "core/Topology.h"
 
@@ -66,6 +67,10 @@ std::string TopologyUnder(i16 family, const std::string& letter) {
   if (family == familyManual || letter.empty()) return letter;
   if (family == familyConstantK && letter == "E") return "A";
   return Offers(family, letter) ? letter : "A";
+}
+
+i32 LowestOrder(const Identity& identity) {
+  return identity.Family == familyCauer ? static_cast<i32>(limitsOf::CauerOrder.lowest) : 1;
 }
 
 bool IsEvenOrder(const Identity& identity) { return std::fmod(identity.Order, 2.0F) == 0; }

@@ -55,6 +55,9 @@ struct DesignView {
 
 DesignView ViewOf(const Identity& identity);
 
+// 1, or what the prototype of the family needs.
+i32 LowestOrder(const Identity& identity);
+
 bool IsEvenOrder(const Identity& identity);
 
 }  // namespace quilm

@@ -25,8 +25,10 @@ std::string TopologyLetter(int number) { return std::string(1, static_cast<char>
 
 TopologyOptions::TopologyOptions(Page& page) {
   for (int number = 1; number <= topologyCount; ++number) {
-    options_[static_cast<std::size_t>(number - 1)] =
-        std::make_unique<OptionButton>(page, group_, NameOf("opt", number), TopologyCaption(TopologyLetter(number)));
+    const std::string letter = TopologyLetter(number);
+    auto option = std::make_unique<OptionButton>(page, group_, NameOf("opt", number), TopologyCaption(letter));
+    option->picture = TopologyPicture(letter);
+    options_[static_cast<std::size_t>(number - 1)] = std::move(option);
   }
 }
 
@@ -58,13 +60,13 @@ void TopologyOptions::OnChoice(const std::function<void(const std::string& lette
   }
 }
 
-TopologyThumbnails::TopologyThumbnails(Page& page) {
+TopologyGuides::TopologyGuides(Page& page) {
   for (int number = 1; number <= topologyCount; ++number) {
     const std::string letter = TopologyLetter(number);
     auto button = std::make_unique<Button>(page, NameOf("cmd", number), TopologyCaption(letter),
                                            "See the " + TopologyCaption(letter));
-    button->role = ButtonRole::Thumbnail;
-    button->picture = TopologyPicture(letter);
+    button->role = ButtonRole::Corner;
+    button->accessibleName = button->caption + ", " + button->toolTip;
     buttons_[static_cast<std::size_t>(number - 1)] = std::move(button);
   }
 }

@@ -39,11 +39,11 @@ class TopologyOptions {
   std::array<std::unique_ptr<OptionButton>, topologyCount> options_;
 };
 
-// A picture button for each topology, which leads to the guide of topologies.
-class TopologyThumbnails {
+// A small button for each topology, which leads to the guide of topologies.
+class TopologyGuides {
  public:
-  explicit TopologyThumbnails(Page& page);
-  Button& Thumbnail(int number) { return *buttons_[static_cast<std::size_t>(number - 1)]; }
+  explicit TopologyGuides(Page& page);
+  Button& Guide(int number) { return *buttons_[static_cast<std::size_t>(number - 1)]; }
 
  private:
   std::array<std::unique_ptr<Button>, topologyCount> buttons_;

@@ -36,10 +36,14 @@ frmDesign::frmDesign(Session& session)
 }
 
 void frmDesign::ConnectSpins() {
-  controls_.UpDown1.onUp = [this] { StepOrder(+1); };
-  controls_.UpDown1.onDown = [this] { StepOrder(-1); };
-  UpDown2_.onUp = [this] { StepLineWidth(+1); };
-  UpDown2_.onDown = [this] { StepLineWidth(-1); };
+  controls_.UpDown1.Count(controls_.lblOrderInput, [this](i32 order) { SetOrder(static_cast<f32>(order)); });
+  controls_.UpDown1.onUp = [this] { SetOrder(session_.record.Order + 1); };
+  controls_.UpDown1.onDown = [this] { SetOrder(session_.record.Order - 1); };
+  UpDown2_.Count(lblLineWidthInput_, [this](i32 width) { SetLineWidth(width); });
+  UpDown2_.onUp = [this] { SetLineWidth(session_.record.PlotLineWidth + 1); };
+  UpDown2_.onDown = [this] { SetLineWidth(session_.record.PlotLineWidth - 1); };
+  UpDown2_.lowest = static_cast<i32>(limitsOf::PlotLineWidth.lowest);
+  UpDown2_.highest = static_cast<i32>(limitsOf::PlotLineWidth.highest);
 }
 
 void frmDesign::ConnectOptions() {
@@ -55,7 +59,7 @@ void frmDesign::ConnectOptions() {
 
 void frmDesign::ConnectButtons() {
   for (int number = 1; number <= topologyCount; ++number) {
-    controls_.thumbnails.Thumbnail(number).onClick = [this, number] { ShowTopologyHelp(number); };
+    controls_.guides.Guide(number).onClick = [this, number] { ShowTopologyHelp(number); };
   }
   cmdSeeNorms_.onClick = [this] { SeeNormalized(); };
   controls_.tools.Offer(singlyTerminatedTool, [this] { DesignSinglyTerminated(); });
@@ -142,20 +146,18 @@ void frmDesign::ChooseCauerTop(i16 layout) {
   session_.record.CauerTop = layout;
 }
 
-void frmDesign::StepOrder(int direction) {
+void frmDesign::SetOrder(f32 order) {
   DesignRecord& record = session_.record;
-  const f32 lowest = record.Family == familyCauer ? limitsOf::CauerOrder.lowest : 1;
-  const f32 stepped = std::clamp(record.Order + static_cast<f32>(direction), lowest, static_cast<f32>(record.OrderMax));
-  if (stepped == record.Order) return;
-  record.Order = stepped;
+  const f32 held = std::clamp(order, static_cast<f32>(LowestOrder(record)), static_cast<f32>(record.OrderMax));
+  if (held == record.Order) return;
+  record.Order = held;
   MarkChanged();
   controls_.SettleCauer();
   controls_.Refresh();
 }
 
-void frmDesign::StepLineWidth(int direction) {
-  i16& width = session_.record.PlotLineWidth;
-  width = static_cast<i16>(limitsOf::PlotLineWidth.Held(static_cast<f32>(width + direction)));
+void frmDesign::SetLineWidth(i32 width) {
+  session_.record.PlotLineWidth = static_cast<i16>(limitsOf::PlotLineWidth.Held(static_cast<f32>(width)));
   ShowSettings();
 }
 

@@ -28,8 +28,8 @@ class frmDesign : public Page {
   void ChooseTopology(const std::string& letter);
   void ChooseCauerType();
   void ChooseCauerTop(i16 layout);
-  void StepOrder(int direction);
-  void StepLineWidth(int direction);
+  void SetOrder(f32 order);
+  void SetLineWidth(i32 width);
   void ShowTopologyHelp(int number);
   void ShowSettings();
   void SeeNormalized();
@@ -43,6 +43,7 @@ class frmDesign : public Page {
   Layout FamilyColumn();
   Layout TopologyCards();
   Layout EntryColumn();
+  Layout DesignButtons();
   Layout Entries();
   Layout Tools();
 
@@ -54,10 +55,6 @@ class frmDesign : public Page {
   Label lblLineWidth_{*this, "lblLineWidth", "Plot line width"};
   Label lblLineWidthInput_{*this, "lblLineWidthInput", ""};
   Spin UpDown2_{*this, "UpDown2", "Plot line width", "Width of the traces of plots, 1 to 6"};
-  Label lblLowpass_{*this, "lblLowpass", "Lowpass"};
-  Label lblBandpass_{*this, "lblBandpass", "Bandpass"};
-  Label lblHighpass_{*this, "lblHighpass", "Highpass"};
-  Label lblBandstop_{*this, "lblBandstop", "Bandstop"};
   Button cmdSeeNorms_{*this, "cmdSeeNorms", "See normalized values", "See the prototype of the design"};
   Button cmdManual_{*this, "cmdManual", "Restart: Manual", "Enter a network by hand"};
   Button cmdTitle_{*this, "cmdTitle", "Title", "Edit the title of the circuit"};

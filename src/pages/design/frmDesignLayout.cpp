@@ -1,7 +1,5 @@
 // Where the controls of the Design page stand: families at the left, topologies as cards in the middle, the entries as
 // one form at the right, the tools below. What comes and goes with family and topology keeps its place.
-#include <map>
-
 #include "pages/design/frmDesign.h"
 
 namespace quilm {
@@ -10,51 +8,56 @@ Layout frmDesign::MakeLayout() {
   return Column({navigation_.MakeLayout(), Fill(Row({FamilyColumn(), Fill(TopologyCards()), EntryColumn()})), Tools()});
 }
 
+// What most families do not show stands last: its place is no hole there.
 Layout frmDesign::FamilyColumn() {
   DesignControls& c = controls_;
   std::vector<Layout> families;
   for (const auto& option : c.families.Options()) families.push_back(Put(*option));
   return Column({Group("Family", Column(std::move(families))),
-                 KeepPlace(Group(c.fraCauerType, Column({Put(c.optCauerTermBest), Put(c.optCauerTermsEqual)}))),
-                 KeepPlace(Group(c.fraCauerBPFtop, Column({Put(c.optCauerTopNormal), Put(c.optCauerTopZigZag)}))),
                  Group("Dimensions", Column({Put(optEnglish_), Put(optMetric_)})),
-                 Column({Put(lblLineWidth_), Row({Put(lblLineWidthInput_), Put(UpDown2_)})})});
+                 Form({{Put(lblLineWidth_), Number(lblLineWidthInput_, UpDown2_)}}),
+                 KeepPlace(Group(c.fraCauerType, Column({Put(c.optCauerTermBest), Put(c.optCauerTermsEqual)}))),
+                 KeepPlace(Group(c.fraCauerBPFtop, Column({Put(c.optCauerTopNormal), Put(c.optCauerTopZigZag)})))});
 }
 
+// Two cards in a row, under the kind that they are of; all rows share the height.
 Layout frmDesign::TopologyCards() {
-  const auto card = [this](int number) {
-    return Column({Put(controls_.topologies.Option(number)), Put(controls_.thumbnails.Thumbnail(number))});
+  const auto row = [this](int first) {
+    const auto card = [this](int number) {
+      return Card(controls_.topologies.Option(number), controls_.guides.Guide(number));
+    };
+    return Row({card(first), card(first + 1)});
   };
-  // Two cards in a row; what is between two kinds belongs to the one above.
-  const std::map<int, Label*> kinds = {{1, &lblLowpass_}, {3, &lblBandpass_}, {9, &lblHighpass_}, {11, &lblBandstop_}};
-  constexpr int cards = 12;
-  std::vector<Layout> items;
-  for (int number = 1; number < cards; number += 2) {
-    const auto kind = kinds.find(number);
-    items.push_back(kind == kinds.end() ? Space() : Put(*kind->second));
-    items.push_back(card(number));
-    items.push_back(card(number + 1));
-  }
-  return Group("Topology", Of(Layout::Kind::Form, std::move(items), 3));
+  return Group("Topology", Column({Group("Lowpass", row(1)), Group("Bandpass", Column({row(3), row(5), row(7)})),
+                                   Group("Highpass", row(9)), Group("Bandstop", row(11))}));
 }
 
+// Below stands what is left of the window's height.
 Layout frmDesign::EntryColumn() {
-  return Column({Group("Entries", Entries()), KeepPlace(Put(controls_.txtDesignChange)),
-                 Group("Design", Grid(1, {Put(cmdTitle_), Put(cmdInfo_), Put(cmdSeeNorms_), Put(cmdManual_),
-                                          Put(cmdAssistance_)}))});
+  return Column({Group("Entries", Entries()), KeepPlace(Put(controls_.txtDesignChange)), DesignButtons(), Space()});
 }
 
-// The readout of the ripple is wider than a box and has a line for itself.
+Layout frmDesign::DesignButtons() {
+  return Group("Design", Column({Grid(2, {Put(cmdTitle_), Put(cmdInfo_), Put(cmdManual_), Put(cmdAssistance_)}),
+                                 Grid(1, {Put(cmdSeeNorms_)})}));
+}
+
+// What every design has stands first, so that the places of what is hidden are at the end. The readout of the ripple is
+// wider than a box and has a line for itself.
 Layout frmDesign::Entries() {
   DesignControls& c = controls_;
-  return Form({{Put(c.lblOrder), Row({Put(c.lblOrderInput), Put(c.UpDown1)})},
-               {Put(c.lblBandwidth), Row({Put(c.txtBandwidth), Put(c.lblRipple)})},
-               {KeepPlace(Put(c.lblCenterFrequency)), KeepPlace(Put(c.txtCenterFrequency))},
-               {Put(c.lblInputTerm), Put(c.txtInputTerm)},
-               {KeepPlace(Put(c.lblPassbandRipple)), KeepPlace(Put(c.txtPassbandRipple))},
+  const auto row = [](Label& label, TextBox& box, const char* unit) {
+    return FormRow{KeepPlace(Put(label)), KeepPlace(Put(box)), Word(unit, box)};
+  };
+  return Form({{Put(c.lblOrder), Number(c.lblOrderInput, c.UpDown1)},
+               row(c.lblBandwidth, c.txtBandwidth, "Hz"),
+               Under(Row({KeepPlace(Word("edge at", c.lblRipple)), KeepPlace(Put(c.lblRipple))})),
+               row(c.lblInputTerm, c.txtInputTerm, "ohms"),
+               row(c.lblCenterFrequency, c.txtCenterFrequency, "Hz"),
+               row(c.lblPassbandRipple, c.txtPassbandRipple, "dB"),
                Across(KeepPlace(Put(c.lblVSWR))),
-               {KeepPlace(Put(c.lblStopbandFreq)), KeepPlace(Put(c.txtStopbandFreq))},
-               {KeepPlace(Put(c.lblStopbandDepth)), KeepPlace(Put(c.txtStopbandDepth))}});
+               row(c.lblStopbandFreq, c.txtStopbandFreq, "Hz"),
+               row(c.lblStopbandDepth, c.txtStopbandDepth, "dB")});
 }
 
 Layout frmDesign::Tools() {
