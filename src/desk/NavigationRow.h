@@ -26,6 +26,9 @@ class NavigationRow {
   // disabled.
   void Load();
 
+  // What the button of a page does: the gate, then the page in the place of this one.
+  void GoTo(PageId target);
+
   Layout MakeLayout();
 
   // The actions that depend on the page; empty ones leave their button disabled.
@@ -43,7 +46,6 @@ class NavigationRow {
   void AddSegment(PageId target, Sign sign, char letter, const char* name, const char* caption, const char* toolTip);
   Button& AddAction(Sign sign, char letter, const char* name, const char* caption, const char* toolTip,
                     std::function<void()> act);
-  void GoTo(PageId target);
 
   Page& page_;
   Session& session_;

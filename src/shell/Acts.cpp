@@ -83,6 +83,7 @@ void RunAct(Session& session, const Deed& deed, const std::function<void()>& han
   } catch (const std::exception& fault) {
     TellFault(session, fault);
   }
+  if (Page* page = session.pages.Top(); page != nullptr && !session.ended) page->CatchUp();
   // Within another handler the end of the program goes on unwinding.
   if (session.ended && session.handlerDepth > 1) throw ProgramEnd{};
 }

@@ -34,6 +34,10 @@ class Page {
   // controls and members. A page whose load step repairs the design says how it shows it without.
   virtual void Reload() { Load(); }
 
+  // Runs after each act while the page is on top: what it shows of the design beside its entries follows here, whatever
+  // has changed it. Changes nothing but controls.
+  virtual void CatchUp() {}
+
   // The page where undo leads that takes back what was done here. A tool that takes the place of another page, and has
   // nothing to show once it is done, names that one.
   virtual PageId Home() const { return id_; }

@@ -45,17 +45,12 @@ bool AskForOtherEntries(Session& session) {
   return session.retriesCauer;
 }
 
-void ComputeOdd(Session& session) {
-  DesignRecord& record = session.record;
-  for (;;) {
-    const f32 ratio = static_cast<f32>(EdgeRatio(record));
-    record.Apass = OddCauerRipple(OrderOf(record), ratio, record.Astop);
-    if (record.Apass > leastCauerRipple) {
-      Take(record, OddCauerPrototype(OrderOf(record), ratio, record.Astop));
-      return;
-    }
-    if (!AskForOtherEntries(session)) throw NumericFault("The ripple is too low");
-  }
+bool TryOdd(DesignRecord& record) {
+  const f32 ratio = static_cast<f32>(EdgeRatio(record));
+  record.Apass = OddCauerRipple(OrderOf(record), ratio, record.Astop);
+  if (!(record.Apass > leastCauerRipple)) return false;
+  Take(record, OddCauerPrototype(OrderOf(record), ratio, record.Astop));
+  return true;
 }
 
 void ComputeEven(DesignRecord& record) {
@@ -63,6 +58,13 @@ void ComputeEven(DesignRecord& record) {
 }
 
 }  // namespace
+
+bool TryCauer(DesignRecord& record) {
+  record.CauerFlag = 1;
+  if (OrderOf(record) % 2 == 1) return TryOdd(record);
+  ComputeEven(record);
+  return true;
+}
 
 void ComputeCauer(Session& session) {
   DesignRecord& record = session.record;
@@ -75,10 +77,8 @@ void ComputeCauer(Session& session) {
   record.CauerFlag = 1;
   ForgetResponses(record);
   try {
-    if (OrderOf(record) % 2 == 0) {
-      ComputeEven(record);
-    } else {
-      ComputeOdd(session);
+    while (!TryCauer(record)) {
+      if (!AskForOtherEntries(session)) throw NumericFault("The ripple is too low");
     }
   } catch (const Fault&) {
     Take(record, CauerPrototype{});

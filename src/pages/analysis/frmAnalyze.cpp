@@ -32,7 +32,8 @@ f32 ReferenceHeld(f32 value) { return value <= 0 ? 50.0F : value; }
 
 frmAnalyze::frmAnalyze(Session& session)
     : Page(session, PageId::Analyze, "Analysis"),
-      navigation_(*this, session, [this](PageId target) { return MayGoTo(target); }) {
+      navigation_(*this, session, [this](PageId target) { return MayGoTo(target); }),
+      preview_(*this, session, DesignPreview::Of::Network, [this] { navigation_.GoTo(PageId::Plotted); }) {
   lblSweepFault_.emphasised = true;
   navigation_.helpFile = "analysis.htm";
   navigation_.onGet = [&session] { GetDesignFor(session, PageId::Analyze); };
@@ -101,10 +102,13 @@ void frmAnalyze::Load() {
     entries.Fill();
     ShowOptions();
     ShowLabels();
+    CatchUp();
   } catch (const Fault& fault) {
     session_.platform.MessageBox(std::string("Analyze 175\r\n") + fault.what(), Buttons::Ok, Icon::Critical, "");
   }
 }
+
+void frmAnalyze::CatchUp() { preview_.CatchUp(); }
 
 void frmAnalyze::CloseBox() { LeaveByCloseBox(session_); }
 
@@ -243,7 +247,7 @@ Layout frmAnalyze::ReferenceGroup() {
 
 Layout frmAnalyze::MakeLayout() {
   return Column({navigation_.MakeLayout(), Row({SweepGroup(), ScaleGroup(), QualityGroup(), ReferenceGroup(), Space()}),
-                 Space(),
+                 Fill(Put(preview_.picPreview)),
                  Group("Tools", Grid(8, {Put(cmdAutoScale_), Put(cmdFitSweep_), Put(cmdStepsize_), Put(cmdModulation_),
                                          Put(cmdPhase_), Put(cmdNoise_), Put(cmdTransient_), Put(cmdAssistance_)}))});
 }

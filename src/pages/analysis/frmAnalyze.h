@@ -1,6 +1,7 @@
 // The Analysis page: what a sweep covers, and how the graphs are scaled.
 #pragma once
 
+#include "desk/DesignPreview.h"
 #include "desk/NavigationRow.h"
 #include "shell/Page.h"
 
@@ -10,6 +11,7 @@ class frmAnalyze : public Page {
  public:
   explicit frmAnalyze(Session& session);
   void Load() override;
+  void CatchUp() override;
   void CloseBox() override;
   Layout MakeLayout() override;
 
@@ -37,6 +39,7 @@ class frmAnalyze : public Page {
   Layout ReferenceGroup();
 
   NavigationRow navigation_;
+  DesignPreview preview_;
 
   Label lblFstart_{*this, "lblFstart", "Start (Hz)"};
   TextBox txtFstart_{*this, "txtFstart", "Starting frequency in Hz"};

@@ -23,7 +23,8 @@ namespace quilm {
 frmDesign::frmDesign(Session& session)
     : Page(session, PageId::Design, "Design"),
       navigation_(*this, session, [this](PageId) { return MakeNetwork(); }),
-      controls_(*this, session.record, [this] { MarkChanged(); }) {
+      controls_(*this, session.record, [this] { MarkChanged(); }),
+      preview_(*this, session, DesignPreview::Of::Entries, [this] { navigation_.GoTo(PageId::Plotted); }) {
   navigation_.helpFile = "design.htm";
   navigation_.onGet = [&session] { GetDesignFor(session, PageId::Design); };
   // What is saved is a network, so that one is made first.
@@ -95,7 +96,10 @@ void frmDesign::Reload() {
   cmdTitle_.enabled = pages.Has(PageId::ChangeTitle);
   cmdInfo_.enabled = pages.Has(PageId::AddInfo);
   cmdAssistance_.enabled = pages.Has(PageId::EntryAssistance);
+  CatchUp();
 }
+
+void frmDesign::CatchUp() { preview_.CatchUp(); }
 
 void frmDesign::CloseBox() { LeaveByCloseBox(session_); }
 

@@ -4,6 +4,7 @@
 // computes the network anew.
 #pragma once
 
+#include "desk/DesignPreview.h"
 #include "desk/NavigationRow.h"
 #include "pages/design/DesignControls.h"
 #include "shell/Page.h"
@@ -15,6 +16,7 @@ class frmDesign : public Page {
   explicit frmDesign(Session& session);
   void Load() override;
   void Reload() override;
+  void CatchUp() override;
   void CloseBox() override;
   Layout MakeLayout() override;
 
@@ -49,6 +51,7 @@ class frmDesign : public Page {
 
   NavigationRow navigation_;
   DesignControls controls_;
+  DesignPreview preview_;
   OptionGroup units_;
   OptionButton optEnglish_{*this, units_, "optEnglish", "English", "Dimensions in inches"};
   OptionButton optMetric_{*this, units_, "optMetric", "Metric", "Dimensions in centimeters"};

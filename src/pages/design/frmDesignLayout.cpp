@@ -34,7 +34,8 @@ Layout frmDesign::TopologyCards() {
 
 // Below stands what is left of the window's height.
 Layout frmDesign::EntryColumn() {
-  return Column({Group("Entries", Entries()), KeepPlace(Put(controls_.txtDesignChange)), DesignButtons(), Space()});
+  return Column({Group("Entries", Entries()), KeepPlace(Put(controls_.txtDesignChange)), DesignButtons(),
+                 Fill(Put(preview_.picPreview))});
 }
 
 Layout frmDesign::DesignButtons() {

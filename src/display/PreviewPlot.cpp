@@ -1,0 +1,121 @@
+#include "display/PreviewPlot.h"
+
+#include <sstream>
+#include <vector>
+
+#include "core/modGeneral.h"
+#include "display/PlotCurve.h"
+#include "display/PlotGrid.h"
+#include "display/PlotKinds.h"
+#include "display/PlotText.h"
+#include "shell/PenScope.h"
+
+namespace quilm {
+
+namespace {
+
+constexpr i16 transmissionAndReturn = 2;
+constexpr f32 titleRow = 60;
+constexpr f32 labelGap = 60;  // from the frame to its labels
+
+void Begin(Canvas& canvas) {
+  canvas.SetScale(previewScale);
+  canvas.Clear();
+  canvas.DrawWidth = 1;
+  canvas.ForeColor = colorBlack;
+  canvas.FontName = "Arial";
+  canvas.FontSize = labelSize;
+}
+
+void DrawFrame(Canvas& canvas) {
+  const PlotBox& box = previewFrame;
+  canvas.Rectangle(box.left, box.top, box.Right(), box.Bottom(), gridColor, false);
+}
+
+void DrawGrid(const PlotSetup& setup, Canvas& canvas) {
+  const PlotBox& box = previewFrame;
+  DrawFrequencyLines(MakeFrequencyGrid(setup.axis, setup.scales.NrXints), canvas, box);
+  for (int k = 1; static_cast<f32>(k) < setup.scales.NrYints; ++k) {
+    const f32 y = box.top + box.height * static_cast<f32>(k) / setup.scales.NrYints;
+    canvas.Line(box.left, y, box.Right(), y, gridColor);
+  }
+}
+
+void PrintLabels(const PlotSetup& setup, Canvas& canvas) {
+  const PlotBox& box = previewFrame;
+  const ValueScale scale = ScaleOf(setup.scales, Quantity::Transmission);
+  const auto value = [&canvas, &box](f32 y, f32 decibels) {
+    PrintEndingAt(canvas, box.left - labelGap, y - labelRise, Trimmed(FormatValue(decibels)));
+  };
+  value(box.top, scale.top);
+  value(box.Bottom(), scale.bottom);
+  const AxisSettings& axis = setup.axis.Settings();
+  const auto hertz = [](f32 frequency) { return Trimmed(FormatFrequency(frequency)) + "Hz"; };
+  canvas.PrintAt(box.left, box.Bottom() + labelGap, hertz(axis.start));
+  PrintEndingAt(canvas, box.Right(), box.Bottom() + labelGap, hertz(axis.stop));
+}
+
+Color ColorOf(const PlotSetup& setup, const PlotTrace& trace) {
+  return trace.color == 1 ? setup.colors.TraceColor1 : setup.colors.TraceColor2;
+}
+
+// The titles in the colours of their traces.
+void PrintTitles(const PlotSetup& setup, const PlotKind& kind, Canvas& canvas) {
+  const PenScope pen(canvas);
+  canvas.ForeColor = ColorOf(setup, kind.traces.front());
+  canvas.PrintAt(previewFrame.left, titleRow, kind.axes.front().title);
+  canvas.ForeColor = ColorOf(setup, kind.traces.back());
+  PrintEndingAt(canvas, previewFrame.Right(), titleRow, kind.axes.back().title);
+}
+
+// The words in lines that fit in the frame.
+std::vector<std::string> Lines(const std::string& text, const Canvas& canvas) {
+  std::vector<std::string> lines{""};
+  std::istringstream words(text);
+  for (std::string word; words >> word;) {
+    const std::string longer = lines.back().empty() ? word : lines.back() + " " + word;
+    const bool fits = canvas.TextWidth(longer) <= previewFrame.width - 2 * labelGap;
+    if (fits || lines.back().empty()) {
+      lines.back() = longer;
+    } else {
+      lines.push_back(word);
+    }
+  }
+  return lines;
+}
+
+}  // namespace
+
+void DrawPreview(const PlotSetup& setup, const ResponseSpans& responses, AxisPlaces& places, Canvas& canvas) {
+  const PenScope pen(canvas);
+  Begin(canvas);
+  PlotScales scales = setup.scales;
+  scales.PlotCode = transmissionAndReturn;
+  const PlotKind kind = KindOf(scales);
+  DrawGrid(setup, canvas);
+  PrintLabels(setup, canvas);
+  PrintTitles(setup, kind, canvas);
+  const PlotPlane plane{setup.axis, places, previewFrame};
+  std::vector<f64> derived;
+  for (const PlotTrace& trace : kind.traces) {
+    DrawCurve(CurveOf(responses, trace.quantity, derived), ScaleOf(scales, trace.quantity), ColorOf(setup, trace),
+              plane, canvas);
+  }
+  DrawFrame(canvas);
+}
+
+void DrawNoPreview(const std::string& reason, Canvas& canvas) {
+  const PenScope pen(canvas);
+  Begin(canvas);
+  DrawFrame(canvas);
+  const PlotBox& box = previewFrame;
+  const std::vector<std::string> lines = Lines(reason, canvas);
+  const f32 line = canvas.TextHeight("X");
+  f32 y = box.top + (box.height - line * static_cast<f32>(lines.size())) / 2;
+  for (const std::string& text : lines) {
+    canvas.PrintAt(box.left + (box.width - canvas.TextWidth(text)) / 2, y, text);
+    y += line;
+  }
+}
+
+}  // namespace quilm
