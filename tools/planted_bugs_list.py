@@ -230,24 +230,10 @@ BUGS = [
         ("test-shell",),
     ),
     Bug(
-        "src/shell/Acts.cpp",
-        "  const i16 familyOption = session.familyOption;\n"
-        "  Page* present = session.pages.Top();\n"
-        "  if (session.history.HasTool()) {\n"
-        "    present->Reload();\n"
-        "  } else if (present == nullptr || present->Id() != id) {\n"
-        "    session.pages.ShowPage(id);\n"
-        "    if (present != nullptr) session.pages.UnloadPage(present->Id());\n"
-        "    session.record = design;\n"
-        "    session.familyOption = familyOption;\n",
-        "  Page* present = session.pages.Top();\n"
-        "  if (session.history.HasTool()) {\n"
-        "    present->Reload();\n"
-        "  } else if (present == nullptr || present->Id() != id) {\n"
-        "    session.pages.ShowPage(id);\n"
-        "    if (present != nullptr) session.pages.UnloadPage(present->Id());\n"
-        "    session.record = design;\n",
-        "the load step of a page touches the family option that an undo has brought back",
+        "src/shell/PageDesk.cpp",
+        "Show(id, &Page::Reload)",
+        "Show(id, &Page::Load)",
+        "the load step of a page touches what an undo has brought back",
         ("test-shell",),
     ),
     Bug(

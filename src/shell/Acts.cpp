@@ -88,20 +88,17 @@ void RunAct(Session& session, const Deed& deed, const std::function<void()>& han
   if (session.ended && session.handlerDepth > 1) throw ProgramEnd{};
 }
 
-// Shows the page of a step with the design as it stands. Its load step may repair entries, which must not touch what
-// comes back.
+// Shows the page of a step with the design as it stands, once: a plot sweeps for it. Its load step, which may repair
+// entries, must not touch what comes back.
 void ShowAnew(Session& session, PageId id) {
-  const DesignRecord design = session.record;
-  const i16 familyOption = session.familyOption;
   Page* present = session.pages.Top();
-  if (session.history.HasTool()) {
-    present->Reload();
-  } else if (present == nullptr || present->Id() != id) {
-    session.pages.ShowPage(id);
+  const bool stays = session.history.HasTool() || (present != nullptr && present->Id() == id);
+  if (!stays) {
+    session.pages.ShowAnew(id);
     if (present != nullptr) session.pages.UnloadPage(present->Id());
-    session.record = design;
-    session.familyOption = familyOption;
+    return;
   }
+  if (present->Id() != id) present->Reload();
   if (Page* page = session.pages.Find(id)) page->Reload();
 }
 

@@ -87,7 +87,6 @@ void History::GoTo(Session& session, std::size_t place, const DesignRecord& from
   session.record.ResponsesValid = 0;
   session.familyOption = places_[place].familyOption;
   at_ = place;
-  typing_.clear();
 }
 
 // Compares what the design is now with how it was last seen: whatever has changed since is the doing of `act_.what`.

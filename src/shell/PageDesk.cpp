@@ -37,7 +37,7 @@ std::vector<Page*> PageDesk::OpenPages() const {
 }
 
 // Makes the page, or brings it to the top if it is open, and runs its load step.
-Page& PageDesk::Open(PageId id) {
+Page& PageDesk::Open(PageId id, void (Page::*load)()) {
   const auto at = std::find_if(open_.begin(), open_.end(), [id](const auto& page) { return page->Id() == id; });
   if (at != open_.end()) {
     std::rotate(at, at + 1, open_.end());
@@ -49,7 +49,7 @@ Page& PageDesk::Open(PageId id) {
   Page& page = *open_.back();
   const History::Following following(session_);
   try {
-    page.Load();
+    (page.*load)();
   } catch (const ActRefused&) {
     throw;
   } catch (const std::exception& fault) {
@@ -59,14 +59,18 @@ Page& PageDesk::Open(PageId id) {
   return page;
 }
 
-void PageDesk::ShowPage(PageId id) {
-  Page& page = Open(id);
+void PageDesk::ShowPage(PageId id) { Show(id, &Page::Load); }
+
+void PageDesk::ShowAnew(PageId id) { Show(id, &Page::Reload); }
+
+void PageDesk::Show(PageId id, void (Page::*load)()) {
+  Page& page = Open(id, load);
   // A load step may itself lead elsewhere or close its page.
   if (Top() == &page) session_.platform.PageShown(page);
 }
 
 void PageDesk::ShowModal(PageId id) {
-  Page& page = Open(id);
+  Page& page = Open(id, &Page::Load);
   if (Find(id) == &page) session_.platform.RunModal(page);
 }
 
@@ -83,7 +87,7 @@ void PageDesk::ShowBeside(PageId id, std::vector<const Control*> free) {
   if (opener == nullptr) throw Fault("There is no page to stand beside");
   Page* main = BesideOf(*opener) == nullptr ? opener : BesideOf(*opener);
   if (!HasSidePlace(main->MakeLayout())) throw Fault(std::string(main->Name()) + " has no place beside its picture");
-  Page& tool = Open(id);
+  Page& tool = Open(id, &Page::Load);
   if (Find(id) != &tool) return;
   const PageLock mainLock(*main, std::move(free));
   std::optional<PageLock> openerLock;

@@ -32,7 +32,10 @@ class PageDesk {
   // a Fault, and the page before it stays.
   void ShowPage(PageId id);
 
-  // The same, and returns when the page has closed.
+  // The same with the page's Reload in place of its load step: it shows the session as it stands.
+  void ShowAnew(PageId id);
+
+  // As ShowPage, and returns when the page has closed.
   void ShowModal(PageId id);
 
   // The same for a tool that works on the page on top, which stays in sight and is shown anew after each handler: the
@@ -62,7 +65,8 @@ class PageDesk {
     Page* page;  // that it stands beside
   };
 
-  Page& Open(PageId id);
+  void Show(PageId id, void (Page::*load)());
+  Page& Open(PageId id, void (Page::*load)());
   Page* BesideOf(const Page& tool) const;
 
   Session& session_;

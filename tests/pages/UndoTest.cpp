@@ -3,6 +3,7 @@
 #include "desk/StartUp.h"
 #include "pages/PageBench.h"
 #include "pages/PageDirectory.h"
+#include "pages/plot/frmPlotted.h"
 #include "shell/History.h"
 
 namespace quilm {
@@ -178,6 +179,49 @@ TEST_F(UndoOfDesigns, ThePlotIsDrawnOfTheDesignThatCameBack) {
   EXPECT_EQ(Get<TextBox>("txtFstop").text, "20M");
   Press("cmdPlot");
   EXPECT_EQ(Get<PictureBox>("picPlot").picture, wide);
+}
+
+// Each load of the plot is a sweep.
+class CountedPlot : public frmPlotted {
+ public:
+  CountedPlot(Session& session, int& sweeps) : frmPlotted(session), sweeps_(sweeps) {}
+  void Load() override {
+    ++sweeps_;
+    frmPlotted::Load();
+  }
+
+ private:
+  int& sweeps_;
+};
+
+class UndoWithCountedPlots : public PageBench {
+ protected:
+  UndoWithCountedPlots() : PageBench(Pages()) { StartProgram(session); }
+
+  int sweeps = 0;
+
+ private:
+  PageDirectory Pages() {
+    PageDirectory pages = AllPages();
+    pages[PageId::Plotted] = [this](Session& owner) { return std::make_unique<CountedPlot>(owner, sweeps); };
+    return pages;
+  }
+};
+
+TEST_F(UndoWithCountedPlots, APlotThatComesBackSweepsOnce) {
+  Press("cmdDesignNew");
+  Press("optButterworth");
+  Press("optCapInLowpass");
+  Enter("txtBandwidth", "1M");
+  Enter("txtInputTerm", "50");
+  Press("cmdPlot");
+  Press("cmdAutoScale");
+  Press("cmdDesign");
+  ASSERT_EQ(session.history.UndoText(), "AutoScale");
+  sweeps = 0;
+  Undo(session);
+  EXPECT_EQ(Top().Id(), PageId::Plotted);
+  EXPECT_EQ(sweeps, 1);
 }
 
 TEST_F(UndoOfDesigns, AReadFile) {

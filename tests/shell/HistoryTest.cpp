@@ -419,17 +419,26 @@ TEST_F(HistoryTest, UndoShowsThePageWhereTheChangeWasMade) {
   EXPECT_EQ(record().Order, 0);
 }
 
+TEST_F(HistoryTest, APageThatWasLeftIsLoadedOnce) {
+  SetOrder(3);
+  Do([this] {
+    session.pages.ShowPage(PageId::Plotted);
+    session.pages.UnloadPage(PageId::Design);
+  });
+  bench.log.clear();
+  Undo(session);
+  EXPECT_THAT(bench.log, testing::ElementsAre("load frmDesign", "destroyed frmPlotted"));
+}
+
 TEST_F(HistoryTest, ALoadStepCannotTouchWhatComesBack) {
   SetOrder(3);
   Do([this] {
     session.pages.ShowPage(PageId::Plotted);
     session.pages.UnloadPage(PageId::Design);
   });
-  int loads = 0;
   bench.prepare = [&](BenchPage& made) {
-    made.onLoad = [this, &loads] {
-      if (++loads == 1) record().Astop = 99;
-    };
+    made.onLoad = [this] { record().Astop = 99; };
+    made.onReload = [] {};
   };
   Undo(session);
   EXPECT_EQ(record().Astop, 0);
@@ -442,11 +451,9 @@ TEST_F(HistoryTest, ALoadStepCannotTouchTheFamilyOptionThatComesBack) {
     session.pages.ShowPage(PageId::Plotted);
     session.pages.UnloadPage(PageId::Design);
   });
-  int loads = 0;
   bench.prepare = [&](BenchPage& made) {
-    made.onLoad = [this, &loads] {
-      if (++loads == 1) session.familyOption = familyCauer;
-    };
+    made.onLoad = [this] { session.familyOption = familyCauer; };
+    made.onReload = [] {};
   };
   Undo(session);
   EXPECT_EQ(session.familyOption, familyBessel);

@@ -20,8 +20,13 @@ class BenchPage : public Page {
     log.push_back("load " + std::string(Name()));
     if (onLoad) onLoad();
   }
+  void Reload() override {
+    if (onReload) return onReload();
+    Load();
+  }
   Layout MakeLayout() override { return place; }
   std::function<void()> onLoad;
+  std::function<void()> onReload;  // in place of the load step
   Layout place = Column({});
 
   Log& log;
