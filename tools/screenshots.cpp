@@ -118,8 +118,8 @@ class Walk {
     Press("optConstantK");
     Press("optCapInLowpass");
     Modal("cmdSeeNorms", "normalized");
-    Modal("Command4", "singly-terminated");
-    Modal("Command11", "end-sections");
+    Tool("Command4", "singly-terminated");
+    Tool("Command11", "end-sections");
     Modal("optMderived", "m-derived");
   }
 
@@ -178,6 +178,13 @@ class Walk {
 
   void Visit(const char* button, const char* name) {
     if (Press(button)) Save(name);
+  }
+
+  // A tool that takes the place of the Design page.
+  void Tool(const char* button, const char* name) {
+    if (!Press(button)) return;
+    Save(name);
+    Press("cmdIgnore");
   }
 
   // A modal page waits in its own event loop: it is looked at and closed from a timer.

@@ -29,10 +29,11 @@ DesignPreview::DesignPreview(Page& page, Session& session, Of of, std::function<
     : picPreview(page, "picPreview", "Preview of transmission and return"),
       session_(session),
       of_(of),
+      scale_(of == Of::Entries ? narrowPreview : widePreview),
       responses_(std::make_unique<Responses>()) {
-  const Point corner{previewScale.left + previewScale.width, previewScale.top + previewScale.height};
+  const Point corner{scale_.left + scale_.width, scale_.top + scale_.height};
   picPreview.areas = {{.name = "preview",
-                       .from = {previewScale.left, previewScale.top},
+                       .from = {scale_.left, scale_.top},
                        .to = corner,
                        .toolTip = "Go to the plot",
                        .enabled = true,
@@ -47,7 +48,7 @@ void DesignPreview::CatchUp() {
   DesignRecord design = session_.record;
   std::string reason = Prepare(design);
   if (reason.empty()) reason = Sweep(design);
-  if (!reason.empty()) DrawNoPreview(reason, picPreview.picture);
+  if (!reason.empty()) DrawNoPreview(reason, scale_, picPreview.picture);
   picPreview.description = reason.empty() ? Spoken(design) : reason;
 }
 
@@ -83,7 +84,7 @@ void DesignPreview::Draw(const DesignRecord& design) {
   setup.axis = HorizontalAxis(static_cast<const SweepSettings&>(design));
   setup.scales = design;
   setup.colors = {};
-  DrawPreview(setup, SpansOf(*responses_, LastPoint(design)), places_, picPreview.picture);
+  DrawPreview(setup, SpansOf(*responses_, LastPoint(design)), places_, scale_, picPreview.picture);
 }
 
 }  // namespace quilm

@@ -38,6 +38,7 @@ class DesignPreview {
 
   Session& session_;
   Of of_;
+  Scale scale_;
   std::unique_ptr<DesignRecord> shown_;  // the design that the picture was made for
   std::unique_ptr<Responses> responses_;
   AxisPlaces places_;

@@ -3,6 +3,7 @@
 #include <sstream>
 #include <vector>
 
+#include "core/NumberText.h"
 #include "core/modGeneral.h"
 #include "display/PlotCurve.h"
 #include "display/PlotGrid.h"
@@ -18,8 +19,8 @@ constexpr i16 transmissionAndReturn = 2;
 constexpr f32 titleRow = 60;
 constexpr f32 labelGap = 60;  // from the frame to its labels
 
-void Begin(Canvas& canvas) {
-  canvas.SetScale(previewScale);
+void Begin(const Scale& scale, Canvas& canvas) {
+  canvas.SetScale(scale);
   canvas.Clear();
   canvas.DrawWidth = 1;
   canvas.ForeColor = colorBlack;
@@ -27,13 +28,11 @@ void Begin(Canvas& canvas) {
   canvas.FontSize = labelSize;
 }
 
-void DrawFrame(Canvas& canvas) {
-  const PlotBox& box = previewFrame;
+void DrawFrame(const PlotBox& box, Canvas& canvas) {
   canvas.Rectangle(box.left, box.top, box.Right(), box.Bottom(), gridColor, false);
 }
 
-void DrawGrid(const PlotSetup& setup, Canvas& canvas) {
-  const PlotBox& box = previewFrame;
+void DrawGrid(const PlotSetup& setup, const PlotBox& box, Canvas& canvas) {
   DrawFrequencyLines(MakeFrequencyGrid(setup.axis, setup.scales.NrXints), canvas, box);
   for (int k = 1; static_cast<f32>(k) < setup.scales.NrYints; ++k) {
     const f32 y = box.top + box.height * static_cast<f32>(k) / setup.scales.NrYints;
@@ -41,11 +40,10 @@ void DrawGrid(const PlotSetup& setup, Canvas& canvas) {
   }
 }
 
-void PrintLabels(const PlotSetup& setup, Canvas& canvas) {
-  const PlotBox& box = previewFrame;
+void PrintLabels(const PlotSetup& setup, const PlotBox& box, Canvas& canvas) {
   const ValueScale scale = ScaleOf(setup.scales, Quantity::Transmission);
   const auto value = [&canvas, &box](f32 y, f32 decibels) {
-    PrintEndingAt(canvas, box.left - labelGap, y - labelRise, Trimmed(FormatValue(decibels)));
+    PrintEndingAt(canvas, box.left - labelGap, y - labelRise, ShortText(decibels, LeadingZero::Keep));
   };
   value(box.top, scale.top);
   value(box.Bottom(), scale.bottom);
@@ -60,21 +58,21 @@ Color ColorOf(const PlotSetup& setup, const PlotTrace& trace) {
 }
 
 // The titles in the colours of their traces.
-void PrintTitles(const PlotSetup& setup, const PlotKind& kind, Canvas& canvas) {
+void PrintTitles(const PlotSetup& setup, const PlotKind& kind, const PlotBox& box, Canvas& canvas) {
   const PenScope pen(canvas);
   canvas.ForeColor = ColorOf(setup, kind.traces.front());
-  canvas.PrintAt(previewFrame.left, titleRow, kind.axes.front().title);
+  canvas.PrintAt(box.left, titleRow, kind.axes.front().title);
   canvas.ForeColor = ColorOf(setup, kind.traces.back());
-  PrintEndingAt(canvas, previewFrame.Right(), titleRow, kind.axes.back().title);
+  PrintEndingAt(canvas, box.Right(), titleRow, kind.axes.back().title);
 }
 
-// The words in lines that fit in the frame.
-std::vector<std::string> Lines(const std::string& text, const Canvas& canvas) {
+// The words in lines that are no wider.
+std::vector<std::string> Lines(const std::string& text, f32 width, const Canvas& canvas) {
   std::vector<std::string> lines{""};
   std::istringstream words(text);
   for (std::string word; words >> word;) {
     const std::string longer = lines.back().empty() ? word : lines.back() + " " + word;
-    const bool fits = canvas.TextWidth(longer) <= previewFrame.width - 2 * labelGap;
+    const bool fits = canvas.TextWidth(longer) <= width;
     if (fits || lines.back().empty()) {
       lines.back() = longer;
     } else {
@@ -86,30 +84,32 @@ std::vector<std::string> Lines(const std::string& text, const Canvas& canvas) {
 
 }  // namespace
 
-void DrawPreview(const PlotSetup& setup, const ResponseSpans& responses, AxisPlaces& places, Canvas& canvas) {
+void DrawPreview(const PlotSetup& setup, const ResponseSpans& responses, AxisPlaces& places, const Scale& scale,
+                 Canvas& canvas) {
   const PenScope pen(canvas);
-  Begin(canvas);
+  Begin(scale, canvas);
+  const PlotBox box = PreviewFrame(scale);
   PlotScales scales = setup.scales;
   scales.PlotCode = transmissionAndReturn;
   const PlotKind kind = KindOf(scales);
-  DrawGrid(setup, canvas);
-  PrintLabels(setup, canvas);
-  PrintTitles(setup, kind, canvas);
-  const PlotPlane plane{setup.axis, places, previewFrame};
+  DrawGrid(setup, box, canvas);
+  PrintLabels(setup, box, canvas);
+  PrintTitles(setup, kind, box, canvas);
+  const PlotPlane plane{setup.axis, places, box};
   std::vector<f64> derived;
   for (const PlotTrace& trace : kind.traces) {
     DrawCurve(CurveOf(responses, trace.quantity, derived), ScaleOf(scales, trace.quantity), ColorOf(setup, trace),
               plane, canvas);
   }
-  DrawFrame(canvas);
+  DrawFrame(box, canvas);
 }
 
-void DrawNoPreview(const std::string& reason, Canvas& canvas) {
+void DrawNoPreview(const std::string& reason, const Scale& scale, Canvas& canvas) {
   const PenScope pen(canvas);
-  Begin(canvas);
-  DrawFrame(canvas);
-  const PlotBox& box = previewFrame;
-  const std::vector<std::string> lines = Lines(reason, canvas);
+  Begin(scale, canvas);
+  const PlotBox box = PreviewFrame(scale);
+  DrawFrame(box, canvas);
+  const std::vector<std::string> lines = Lines(reason, box.width - 2 * labelGap, canvas);
   const f32 line = canvas.TextHeight("X");
   f32 y = box.top + (box.height - line * static_cast<f32>(lines.size())) / 2;
   for (const std::string& text : lines) {

@@ -30,7 +30,7 @@ class PreviewDrawing : public testing::Test {
   Picture Drawn() {
     const PlotSetup setup{HorizontalAxis(AxisSettings{false, 0, 3e6F}), scales, {}, {}, 50};
     Picture picture;
-    DrawPreview(setup, SpansOf(*responses, 3), places, picture);
+    DrawPreview(setup, SpansOf(*responses, 3), places, narrowPreview, picture);
     return picture;
   }
 
@@ -55,7 +55,7 @@ class PreviewDrawing : public testing::Test {
   std::unique_ptr<Responses> responses = std::make_unique<Responses>();
 };
 
-// The frame is 4680 wide from 560, 2560 high from 300; 15 dB of 60 are a quarter of the height.
+// The frame is 4740 wide from 500, 2560 high from 300; 15 dB of 60 are a quarter of the height.
 TEST_F(PreviewDrawing, TheTracesStandInTheFrame) {
   const Picture picture = Drawn();
   const std::vector<Point> blue = Trace(picture, colorBlue);
@@ -63,7 +63,7 @@ TEST_F(PreviewDrawing, TheTracesStandInTheFrame) {
   ASSERT_GE(blue.size(), 4U);
   ASSERT_EQ(red.size(), blue.size());
   const std::size_t first = blue.size() - 4;
-  const Point expected[] = {{560, 300}, {2120, 940}, {3680, 1580}, {5240, 2860}};
+  const Point expected[] = {{500, 300}, {2080, 940}, {3660, 1580}, {5240, 2860}};
   for (std::size_t i = 0; i < 4; ++i) {
     EXPECT_EQ(blue[first + i], expected[i]) << i;
     EXPECT_EQ(red[first + i].x, expected[i].x) << i;
@@ -74,8 +74,7 @@ TEST_F(PreviewDrawing, TheTracesStandInTheFrame) {
 }
 
 TEST_F(PreviewDrawing, TheEndsOfTheScalesAreLabelled) {
-  EXPECT_EQ(Texts(Drawn()),
-            (std::vector<std::string>{"0.0000", "-60", "0.0Hz", "3MHz", "Transmission, dB", "Return, dB"}));
+  EXPECT_EQ(Texts(Drawn()), (std::vector<std::string>{"0", "-60", "0.0Hz", "3MHz", "Transmission, dB", "Return, dB"}));
 }
 
 // Which plot the Plot page shows makes no difference.
@@ -90,11 +89,11 @@ TEST_F(PreviewDrawing, EverythingStandsOnThePaper) {
   for (const PictureOp& operation : picture.Operations()) {
     const auto* text = std::get_if<TextOp>(&operation);
     if (text == nullptr) continue;
-    Picture measure(previewScale);
+    Picture measure(narrowPreview);
     measure.FontSize = text->font.size;
     EXPECT_GE(text->at.x, 0) << text->text;
-    EXPECT_LE(text->at.x + measure.TextWidth(text->text), previewScale.width) << text->text;
-    EXPECT_LE(text->at.y + measure.TextHeight(text->text), previewScale.height) << text->text;
+    EXPECT_LE(text->at.x + measure.TextWidth(text->text), narrowPreview.width) << text->text;
+    EXPECT_LE(text->at.y + measure.TextHeight(text->text), narrowPreview.height) << text->text;
   }
 }
 
@@ -106,16 +105,16 @@ TEST_F(PreviewDrawing, AScaleWithoutHeightIsAFault) {
 TEST_F(PreviewDrawing, TheReasonStandsInTheFrameInLinesThatFit) {
   Picture picture;
   const std::string reason = "Please enter a passband ripple for the even-order Cauer filter family";
-  DrawNoPreview(reason, picture);
+  DrawNoPreview(reason, narrowPreview, picture);
   std::string all;
   int lines = 0;
   for (const PictureOp& operation : picture.Operations()) {
     const auto* text = std::get_if<TextOp>(&operation);
     if (text == nullptr) continue;
-    Picture measure(previewScale);
+    Picture measure(narrowPreview);
     measure.FontSize = text->font.size;
-    EXPECT_LE(measure.TextWidth(text->text), previewFrame.width);
-    EXPECT_GT(text->at.x, previewFrame.left);
+    EXPECT_LE(measure.TextWidth(text->text), PreviewFrame(narrowPreview).width);
+    EXPECT_GT(text->at.x, PreviewFrame(narrowPreview).left);
     all += (all.empty() ? "" : " ") + text->text;
     ++lines;
   }

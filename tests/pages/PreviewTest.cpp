@@ -48,7 +48,8 @@ class Preview : public PageBench {
 
   // The level of the transmission, dB, at a part of the frame's width.
   f64 Level(f64 part) {
-    const f64 x = static_cast<f64>(previewFrame.left) + part * static_cast<f64>(previewFrame.width);
+    const PlotBox frame = PreviewFrame(Box().picture.CurrentScale());
+    const f64 x = static_cast<f64>(frame.left) + part * static_cast<f64>(frame.width);
     f64 nearest = 1e9;
     f64 y = 0;
     for (const PolylineOp& trace : Traces()) {
@@ -61,7 +62,7 @@ class Preview : public PageBench {
       }
     }
     const f64 scale = session.record.LossBottom;
-    return (y - static_cast<f64>(previewFrame.top)) / static_cast<f64>(previewFrame.height) * scale;
+    return (y - static_cast<f64>(frame.top)) / static_cast<f64>(frame.height) * scale;
   }
 
   DesignRecord& record = session.record;

@@ -247,7 +247,7 @@ Layout frmAnalyze::ReferenceGroup() {
 
 Layout frmAnalyze::MakeLayout() {
   return Column({navigation_.MakeLayout(), Row({SweepGroup(), ScaleGroup(), QualityGroup(), ReferenceGroup(), Space()}),
-                 Fill(Put(preview_.picPreview)),
+                 Space(), Row({Space(), Put(preview_.picPreview), Space()}), Space(),
                  Group("Tools", Grid(8, {Put(cmdAutoScale_), Put(cmdFitSweep_), Put(cmdStepsize_), Put(cmdModulation_),
                                          Put(cmdPhase_), Put(cmdNoise_), Put(cmdTransient_), Put(cmdAssistance_)}))});
 }

@@ -35,7 +35,7 @@ Layout frmDesign::TopologyCards() {
 // Below stands what is left of the window's height.
 Layout frmDesign::EntryColumn() {
   return Column({Group("Entries", Entries()), KeepPlace(Put(controls_.txtDesignChange)), DesignButtons(),
-                 Fill(Put(preview_.picPreview))});
+                 Put(preview_.picPreview), Space()});
 }
 
 Layout frmDesign::DesignButtons() {

@@ -133,10 +133,9 @@ Layout frmSinglyTermCheby::MakeLayout() {
                             {Put(lblBandwidth_), Put(txtBandwidth_)},
                             {KeepPlace(Put(lblCenterFrequency_)), KeepPlace(Put(txtCenterFrequency_))},
                             {Put(lblOutputTermination_), Put(txtOutputTermination_)}});
-  return Row({Space(),
-              Column({Space(), Group("Topology", Column({Put(Option1_), Put(Option2_), Put(Option3_)})),
-                      Group("Entries", form), Put(lblNote_), Row({Space(), Put(cmdExit_), Put(cmdIgnore_)}), Space()}),
-              Space()});
+  const Layout page =
+      Group("Singly-terminated Chebyshev", Column({Put(Option1_), Put(Option2_), Put(Option3_), form, Put(lblNote_)}));
+  return Row({Space(), Column({Space(), page, Row({Space(), Put(cmdExit_), Put(cmdIgnore_)}), Space()}), Space()});
 }
 
 }  // namespace quilm
