@@ -159,8 +159,8 @@ class Walk {
     Save("plot-smith-zoom4");
     Press("cmdZoomOut");
     Press("cmdZoomOut");
-    Type("txtAspect", "1");
-    Save("plot-smith-circle");
+    Type("txtAspect", "1.5");
+    Save("plot-smith-wide");
   }
 
   // With the button held at the middle of the second plot.

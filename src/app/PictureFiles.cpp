@@ -24,15 +24,17 @@ bool SavePictureAsPdf(const Picture& picture, const QString& path) {
   constexpr int resolution = 1200;
   constexpr f64 pixelsPerInch = 96;
   writer.setResolution(resolution);
-  const QSizeF points(static_cast<f64>(picture.ScaleWidth) / twipsPerPoint,
-                      static_cast<f64>(picture.ScaleHeight) / twipsPerPoint);
+  const Scale scale = picture.CurrentScale();
+  const QSizeF points(static_cast<f64>(scale.NaturalWidth()) / twipsPerPoint,
+                      static_cast<f64>(scale.NaturalHeight()) / twipsPerPoint);
   writer.setPageSize(QPageSize(points, QPageSize::Point, {}, QPageSize::ExactMatch));
   writer.setPageMargins(QMarginsF());
   QPainter painter;
   if (!painter.begin(&writer)) return false;
   QtCanvas canvas(painter, Surface{.target = QRectF(0, 0, writer.width(), writer.height()),
                                    .pixel = resolution / pixelsPerInch,
-                                   .paper = true});
+                                   .paper = true,
+                                   .medium = Medium::Paper});
   picture.Replay(canvas);
   painter.end();
   return file.commit();

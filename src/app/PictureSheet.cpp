@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "app/QtCanvas.h"
 #include "app/QtText.h"
 
 namespace quilm {
@@ -22,11 +21,11 @@ bool TakeDrawing(const std::shared_ptr<const Drawing>& now, std::size_t length, 
   return changed;
 }
 
-Surface SurfaceOf(const QRectF& target, f64 density) {
-  return {.target = target, .density = density, .smallestText = smallestPoints * pixelsPerPoint};
-}
-
 }  // namespace
+
+Surface PictureSheet::SurfaceOf(const QRectF& target) const {
+  return {.target = target, .density = density_, .smallestText = smallestPoints * pixelsPerPoint, .medium = medium_};
+}
 
 bool PictureSheet::Take(const Picture& picture, const LiveLayer& live, const Picture& mark) {
   const bool other = picture.CurrentScale() != scale_ || picture.BackColor != paper_;
@@ -63,7 +62,7 @@ void PictureSheet::CatchUpWithPicture() {
   }
   if (picturePainted_ == picture_->size()) return;
   QPainter painter(&sheet_);
-  QtCanvas canvas(painter, SurfaceOf(QRectF(QPointF(0, 0), size_), density_));
+  QtCanvas canvas(painter, SurfaceOf(QRectF(QPointF(0, 0), size_)));
   canvas.SetScale(scale_);
   for (; picturePainted_ < picture_->size(); ++picturePainted_) DrawOperation((*picture_)[picturePainted_], canvas);
 }
@@ -79,7 +78,7 @@ void PictureSheet::CatchUpWithLive() {
   livePainted_ = std::max(livePainted_, live_->dropped);
   if (livePainted_ == live_->Drawn()) return;
   QPainter painter(&layer_);
-  Surface surface = SurfaceOf(QRectF(QPointF(0, 0), size_), density_);
+  Surface surface = SurfaceOf(QRectF(QPointF(0, 0), size_));
   surface.paper = true;  // there is nothing below that an exclusive or could turn round
   QtCanvas canvas(painter, surface);
   canvas.SetScale(scale_);
@@ -98,7 +97,7 @@ void PictureSheet::Paint(QPainter& painter, QPointF corner) {
 }
 
 void PictureSheet::PaintMark(QPainter& painter, QPointF corner) const {
-  QtCanvas canvas(painter, SurfaceOf(QRectF(corner, QSizeF(size_)), density_));
+  QtCanvas canvas(painter, SurfaceOf(QRectF(corner, QSizeF(size_))));
   canvas.SetScale(scale_);
   for (const PictureOp& operation : *mark_) DrawOperation(operation, canvas);
 }

@@ -7,6 +7,7 @@
 #include <QPainter>
 #include <memory>
 
+#include "app/QtCanvas.h"
 #include "shell/LiveLayer.h"
 #include "shell/Picture.h"
 
@@ -14,6 +15,9 @@ namespace quilm {
 
 class PictureSheet {
  public:
+  // For the screen, or for an image that is copied or saved.
+  explicit PictureSheet(Medium medium = Medium::Screen) : medium_(medium) {}
+
   // Takes over what is to be shown. True when it differs from what was taken before. The drawings are shared, not
   // copied: what is painted later is what they hold then.
   bool Take(const Picture& picture, const LiveLayer& live, const Picture& mark);
@@ -38,6 +42,9 @@ class PictureSheet {
   void CatchUpWithPicture();
   void PaintMark(QPainter& painter, QPointF corner) const;
 
+  Surface SurfaceOf(const QRectF& target) const;
+
+  Medium medium_;
   QSize size_;
   f64 density_ = 1;
   Scale scale_;

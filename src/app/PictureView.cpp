@@ -6,6 +6,7 @@
 #include <QFileInfo>
 #include <QMenu>
 #include <QMouseEvent>
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -18,12 +19,22 @@ namespace {
 constexpr f64 twipsPerPixel = 15;  // at 96 pixels to the inch
 constexpr int frameMilliseconds = 16;
 
+f64 ProportionIn(const Scale& scale, QSizeF room) {
+  const Shape& shape = scale.shape;
+  if (shape.mostProportion <= 0) {
+    return static_cast<f64>(scale.NaturalWidth()) / static_cast<f64>(scale.NaturalHeight());
+  }
+  return std::clamp(room.width() / std::max(room.height(), 1.0), static_cast<f64>(shape.leastProportion),
+                    static_cast<f64>(shape.mostProportion));
+}
+
 // The largest place of the scale's proportions in the middle of `room`, on whole pixels.
-QRectF Fit(const Scale& scale, QSizeF room) {
-  const f64 proportion = static_cast<f64>(scale.width) / static_cast<f64>(scale.height);
+QRectF PlaceIn(const Scale& scale, QSizeF room) {
+  const f64 proportion = ProportionIn(scale, room);
   QSizeF size(room.width(), room.width() / proportion);
   if (size.height() > room.height()) size = QSizeF(room.height() * proportion, room.height());
-  size = QSizeF(std::floor(size.width()), std::floor(size.height()));
+  constexpr f64 hair = 1e-3;  // a room of just these proportions loses no pixel to rounding
+  size = QSizeF(std::floor(size.width() + hair), std::floor(size.height() + hair));
   return QRectF(QPointF(std::floor((room.width() - size.width()) / 2), std::floor((room.height() - size.height()) / 2)),
                 size);
 }
@@ -40,8 +51,8 @@ PictureView::PictureView(QWidget* parent) : QWidget(parent) {
 
 QSize PictureView::sizeHint() const {
   const Scale& scale = sheet_.PictureScale();
-  return QSize(static_cast<int>(static_cast<f64>(scale.width) / twipsPerPixel),
-               static_cast<int>(static_cast<f64>(scale.height) / twipsPerPixel));
+  return QSize(static_cast<int>(static_cast<f64>(scale.NaturalWidth()) / twipsPerPixel),
+               static_cast<int>(static_cast<f64>(scale.NaturalHeight()) / twipsPerPixel));
 }
 
 // Half its natural size: below that no text could be read.
@@ -68,7 +79,7 @@ void PictureView::RequestRepaint() {
   }
 }
 
-QRectF PictureView::Paper() const { return Fit(sheet_.PictureScale(), QSizeF(size())); }
+QRectF PictureView::Paper() const { return PlaceIn(sheet_.PictureScale(), QSizeF(size())); }
 
 Point PictureView::ToUser(QPointF place) const {
   const QRectF paper = Paper();
@@ -133,7 +144,7 @@ void PictureView::contextMenuEvent(QContextMenuEvent* event) {
 // In its natural size, twice as dense as the screen: for documents that are printed.
 QImage PictureView::Render() const {
   constexpr f64 density = 2;
-  PictureSheet natural;
+  PictureSheet natural(Medium::Paper);
   natural.Take(sheet_.Whole(), LiveLayer(), Picture());
   natural.SetPaper(sizeHint(), density);
   QImage image(sizeHint() * density, QImage::Format_RGB32);

@@ -1,4 +1,5 @@
-// Shows a picture box: its picture on white paper, in its own proportions, as large as the room allows.
+// Shows a picture box: its picture on white paper, as large as the room allows, in its own proportions or in those of
+// the room as far as it goes with them.
 #pragma once
 
 #include <QElapsedTimer>

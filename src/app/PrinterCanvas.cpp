@@ -15,7 +15,8 @@ Surface SheetOf(const QPrinter& printer) {
           .pixel = printer.resolution() / pixelsPerInch,
           .density = 1,
           .smallestText = 0,
-          .paper = true};
+          .paper = true,
+          .medium = Medium::Paper};
 }
 
 }  // namespace

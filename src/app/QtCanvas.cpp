@@ -93,15 +93,26 @@ QPointF QtCanvas::Map(Point point) const {
           surface_.target.top() + (static_cast<f64>(point.y) - static_cast<f64>(ScaleTop)) * UnitsPerY()};
 }
 
+f64 QtCanvas::PenWidth() const {
+  if (DrawWidth > 0) return DrawWidth * surface_.pixel;
+  constexpr f64 thinOnPaper = 0.5;
+  return surface_.medium == Medium::Paper ? thinOnPaper * surface_.pixel : 1 / surface_.density;
+}
+
+LineStyle QtCanvas::Style() const {
+  if (DrawStyle != LineStyle::DashOnPaper) return DrawStyle;
+  return surface_.medium == Medium::Paper ? LineStyle::Dash : LineStyle::Solid;
+}
+
 QPen QtCanvas::MakePen(const QColor& ink) const {
   const f64 width = PenWidth();
   QPen pen(ink, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
-  if (DrawStyle == LineStyle::Solid) return pen;
+  if (Style() == LineStyle::Solid) return pen;
   // The toolkit counts dashes in pen widths; they keep their length under wider pens.
   constexpr f64 dashLength = 6;
   constexpr f64 dotLength = 1.5;
   constexpr f64 gapLength = 3;
-  const f64 mark = (DrawStyle == LineStyle::Dash ? dashLength : dotLength) * surface_.pixel / width;
+  const f64 mark = (Style() == LineStyle::Dash ? dashLength : dotLength) * surface_.pixel / width;
   pen.setDashPattern({mark, gapLength * surface_.pixel / width});
   pen.setCapStyle(Qt::FlatCap);
   return pen;
@@ -146,7 +157,7 @@ void QtCanvas::DrawPolyline(std::span<const Point> points, Color color) {
   QPointF to = Map(points[1]);
   if (!IsFinite(from) || !IsFinite(to) || !CutSegment(from, to) || !Prepare(ink, false)) return;
   QPen pen = painter_.pen();
-  if (DrawStyle == LineStyle::Solid) pen.setCapStyle(Qt::SquareCap);
+  if (Style() == LineStyle::Solid) pen.setCapStyle(Qt::SquareCap);
   painter_.setPen(pen);
   painter_.drawLine(OntoPixels(from), OntoPixels(to));
 }
@@ -159,7 +170,7 @@ bool QtCanvas::SetsPixels(const QColor& ink) const {
   if (PenWidth() * painter_.deviceTransform().m11() <= 1) return false;
   const bool words =
       image_->format() == QImage::Format_RGB32 || image_->format() == QImage::Format_ARGB32_Premultiplied;
-  return words && DrawStyle == LineStyle::Solid && DrawMode == PenMode::Copy &&
+  return words && Style() == LineStyle::Solid && DrawMode == PenMode::Copy &&
          painter_.deviceTransform().type() <= QTransform::TxScale;
 }
 
@@ -270,16 +281,34 @@ void QtCanvas::DrawText(Point at, std::string_view text) {
   painter_.setCompositionMode(QPainter::CompositionMode_SourceOver);
   painter_.setPen(ink);
 
-  const f64 given = static_cast<f64>(FontSize) * twipsPerPoint * std::fabs(UnitsPerY());
-  const f64 em = std::max(given, surface_.smallestText);
-  // A text that is drawn larger than it was laid out grows around its middle.
-  const f64 wider = static_cast<f64>(TextWidth(text)) * std::fabs(UnitsPerX()) * (em / given - 1);
-  const f64 higher = static_cast<f64>(TextHeight(text)) * std::fabs(UnitsPerY()) * (em / given - 1);
-  QPointF line = place - QPointF(wider / 2, higher / 2);
+  const f64 em = EmHeight(text);
+  // A text that is drawn in another size than it was laid out grows upward and downward alike.
+  const f64 wider = WidthInEms(text) * em - static_cast<f64>(TextWidth(text)) * std::fabs(UnitsPerX());
+  const f64 higher = HeightInEms(text) * em - static_cast<f64>(TextHeight(text)) * std::fabs(UnitsPerY());
+  QPointF line = place - QPointF(wider * static_cast<f64>(Fit.anchor), higher / 2);
   for (const QString& part : ToQt(std::string(text)).split(QLatin1Char('\n'))) {
     DrawTextLine(part, line, em);
     line.ry() += em * linePitch;
   }
+}
+
+f64 QtCanvas::WidthInEms(std::string_view text) const {
+  return Metrics().WidthInPoints(text, CurrentFont()) / static_cast<f64>(FontSize);
+}
+
+f64 QtCanvas::HeightInEms(std::string_view text) const {
+  return Metrics().HeightInPoints(text, CurrentFont()) / static_cast<f64>(FontSize);
+}
+
+// As given, but large enough to be read as far as there is room for it.
+f64 QtCanvas::EmHeight(std::string_view text) const {
+  const f64 given = static_cast<f64>(FontSize) * twipsPerPoint * std::fabs(UnitsPerY());
+  f64 enlarged = std::max(given, surface_.smallestText);
+  const f64 width = WidthInEms(text);
+  if (Fit.room > 0 && width > 0) {
+    enlarged = std::min(enlarged, static_cast<f64>(Fit.room) * std::fabs(UnitsPerX()) / width);
+  }
+  return std::max(given, enlarged);
 }
 
 // The metrics decide how wide a line is; where the machine's font is another one, it is drawn as wide as that.
@@ -288,7 +317,7 @@ void QtCanvas::DrawTextLine(const QString& line, QPointF topLeft, f64 emHeight) 
   painter_.setFont(font);
   const f64 drawn = QFontMetricsF(font, painter_.device()).horizontalAdvance(line);
   if (drawn <= 0) return;
-  const f64 due = Metrics().WidthInPoints(line.toStdString(), CurrentFont()) / static_cast<f64>(FontSize) * emHeight;
+  const f64 due = WidthInEms(line.toStdString()) * emHeight;
   constexpr f64 closeEnough = 0.02;
   const f64 stretch = std::fabs(due / drawn - 1) < closeEnough ? 1 : due / drawn;
   painter_.save();

@@ -21,6 +21,7 @@ struct Surface {
   f64 density = 1;       // device pixels a unit, for lines that fall on whole pixels
   f64 smallestText = 0;  // no text is drawn lower than this
   bool paper = false;    // what was drawn stays: no exclusive or, nothing to clear
+  Medium medium = Medium::Screen;
 };
 
 class QtCanvas : public Canvas {
@@ -36,6 +37,7 @@ class QtCanvas : public Canvas {
   void DrawPoint(Point at, Color color) override;
   void DrawText(Point at, std::string_view text) override;
   void DrawClear() override;
+  Medium SurfaceMedium() const override { return surface_.medium; }
 
   // What a colour looks like here; fully transparent ones are not drawn.
   virtual QColor Ink(Color color) const;
@@ -44,7 +46,8 @@ class QtCanvas : public Canvas {
   f64 UnitsPerX() const { return surface_.target.width() / static_cast<f64>(ScaleWidth); }
   f64 UnitsPerY() const { return surface_.target.height() / static_cast<f64>(ScaleHeight); }
   QPointF Map(Point point) const;
-  f64 PenWidth() const { return std::max<f64>(DrawWidth, 1) * surface_.pixel; }
+  f64 PenWidth() const;
+  LineStyle Style() const;
   QPen MakePen(const QColor& ink) const;
   f64 OntoPixel(f64 coordinate) const;
   QPointF OntoPixels(QPointF point) const;
@@ -53,6 +56,9 @@ class QtCanvas : public Canvas {
   std::vector<QPolygonF> RunsOf(std::span<const Point> points, const QTransform& place) const;
   void StrokeTrace(std::span<const Point> points);
   void SetTrace(std::span<const Point> points, const QColor& ink);
+  f64 WidthInEms(std::string_view text) const;
+  f64 HeightInEms(std::string_view text) const;
+  f64 EmHeight(std::string_view text) const;
   void DrawTextLine(const QString& line, QPointF topLeft, f64 emHeight);
 
   QPainter& painter_;

@@ -17,7 +17,7 @@ struct PlotScales {
   i16 AbsoluteMode = 1;
   i16 MagnifyMode = 0;
   i16 PlotLineWidth = 1;    // pixels
-  f32 SmithAspect = 0.75F;  // width over height of the round charts, 0.5..1.5
+  f32 SmithAspect = 0.75F;  // of the round charts, 0.5..1.5; at 0.75 they are circles
   i16 PlotCode = 0;         // the plot on display: 1..7, 9..13
 
   bool operator==(const PlotScales&) const = default;

@@ -17,7 +17,7 @@ constexpr Color dark = 0x9A8F80;
 constexpr Color rim = 0x444444;
 constexpr ChartBox page{-1000, -1000, 13000, 10000};  // somewhat more than the picture
 // Labels that a zoom has moved off the chart are left out.
-constexpr ChartBox labelFrame{900, 700, 12000, 7200};
+constexpr ChartBox labelFrame{1000, 700, 11400, 7200};
 
 constexpr f32 besideSpoke = 50;
 constexpr f64 radian = 57.29577951308232;  // degrees
@@ -199,7 +199,7 @@ void BoxedPath::Break() {
 
 void DrawSmithGrid(const ChartScale& scale, Canvas& canvas) {
   const PenScope pen(canvas);
-  canvas.DrawWidth = 1;
+  canvas.DrawWidth = 0;
   ResistanceCircle(scale, canvas, 0, pale);
   for (const f64 value : FineValues()) {
     ResistanceCircle(scale, canvas, value, pale);
@@ -209,6 +209,7 @@ void DrawSmithGrid(const ChartScale& scale, Canvas& canvas) {
     ResistanceCircle(scale, canvas, value, dark);
     ReactanceArcs(scale, canvas, value, dark, true);
   }
+  canvas.DrawWidth = 1;
   Ring(scale, canvas, 1, rim);
   Axis(scale, canvas);
   canvas.ForeColor = colorBlack;
@@ -219,7 +220,7 @@ void DrawSmithGrid(const ChartScale& scale, Canvas& canvas) {
 
 void DrawPolarGrid(const ChartScale& scale, Canvas& canvas) {
   const PenScope pen(canvas);
-  canvas.DrawWidth = 1;
+  canvas.DrawWidth = 0;
   for (int decibels = -20; decibels <= -2; decibels += 2) {
     Ring(scale, canvas, std::pow(10.0, decibels / 20.0), pale);
   }
@@ -228,6 +229,7 @@ void DrawPolarGrid(const ChartScale& scale, Canvas& canvas) {
     const Point end = scale.At(std::cos(t / radian), std::sin(t / radian));
     canvas.Line(center.x, center.y, end.x, end.y, pale);
   }
+  canvas.DrawWidth = 1;
   Ring(scale, canvas, 1, rim);
   canvas.ForeColor = colorBlack;
   canvas.FontSize = labelSize;

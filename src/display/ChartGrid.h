@@ -15,7 +15,7 @@ namespace quilm {
 inline constexpr Point chartCenter{6500, 4000};
 inline constexpr f32 chartRadius = 3000;  // of the unit circle without zoom
 
-// A chart's stretch in x and its zoom about the centre.
+// A chart's stretch in x, in units of the scale, and its zoom about the centre.
 struct ChartScale {
   f32 aspect = 1;
   f32 zoom = 1;

@@ -21,8 +21,13 @@ struct PlotBox {
 
 inline constexpr PlotBox plotFrame{2000, 1000, 9000, 6000};
 
-// What a plot's picture shows around the frame: scales, labels and footers.
-inline constexpr Scale plotScale{700, 380, 11500, 7560};
+// What a plot's picture shows around the frame: scales, labels and footers. It fills the room that it has, from 4:3 to
+// 21:9.
+inline constexpr Scale plotScale{700, 380, 11500, 7560, {1, 4.0F / 3, 21.0F / 9}};
+
+// The same of the charts. A unit of x is 4/3 as long as one of y, on the screen and on paper, so that with the usual
+// aspect of 0.75 a chart is a true circle.
+inline constexpr Scale chartScale{900, 380, 10600, 7560, {4.0F / 3, 0, 0}};
 
 // A vertical scale by its values at the top and the bottom of the frame.
 struct ValueScale {

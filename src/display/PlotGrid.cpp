@@ -74,7 +74,11 @@ FrequencyGrid MakeFrequencyGrid(const HorizontalAxis& axis, i16 intervals) {
   return grid;
 }
 
-std::vector<GridLabel> LabelsOf(const HorizontalAxis& axis, const FrequencyGrid& grid) {
+namespace {
+
+std::string LabelText(f32 frequency) { return Trimmed(FormatFrequency(frequency)); }
+
+std::vector<GridLabel> ToldLabels(const HorizontalAxis& axis, const FrequencyGrid& grid) {
   const bool logarithmic = axis.Settings().logarithmic;
   const f32 distance = logarithmic ? logarithmicDistance : linearDistance;
   std::vector<GridLabel> labels;
@@ -84,7 +88,7 @@ std::vector<GridLabel> LabelsOf(const HorizontalAxis& axis, const FrequencyGrid&
     if (fraction - lastLabelled < distance) continue;
     // Nothing is crowded just before the label at the end of the frame.
     if (fraction > 0.95F && fraction < 0.999F) continue;
-    const std::string text = Trimmed(FormatFrequency(grid.GridFreq[k]));
+    const std::string text = LabelText(grid.GridFreq[k]);
     if (logarithmic && IsUnnamed(axis, text)) continue;
     labels.push_back({fraction, text});
     lastLabelled = fraction;
@@ -92,12 +96,38 @@ std::vector<GridLabel> LabelsOf(const HorizontalAxis& axis, const FrequencyGrid&
   return labels;
 }
 
+// Start and stop, and what stands apart from both.
+std::vector<GridLabel> EndLabels(const HorizontalAxis& axis, const std::vector<GridLabel>& told) {
+  constexpr f32 distance = 0.08F;
+  std::vector<GridLabel> labels = {{0, LabelText(axis.Settings().start)}};
+  for (const GridLabel& label : told) {
+    if (label.fraction > distance && label.fraction < 1 - distance) labels.push_back(label);
+  }
+  labels.push_back({1, LabelText(axis.Settings().stop)});
+  return labels;
+}
+
+}  // namespace
+
+std::vector<GridLabel> LabelsOf(const HorizontalAxis& axis, const FrequencyGrid& grid) {
+  std::vector<GridLabel> labels = ToldLabels(axis, grid);
+  return labels.size() < 2 ? EndLabels(axis, labels) : labels;
+}
+
 f32 HorizontalStep(f32 intervals) {
   if (intervals == 0) throw NumericFault("Division by zero");
   return static_cast<f32>(ToI16(static_cast<f64>(plotFrame.height) / static_cast<f64>(intervals) - 1));
 }
 
+void DrawFrame(Canvas& canvas, const PlotBox& box) {
+  const PenScope pen(canvas);
+  canvas.DrawWidth = 1;
+  canvas.Rectangle(box.left, box.top, box.Right(), box.Bottom(), frameColor, false);
+}
+
 void DrawFrequencyLines(const FrequencyGrid& grid, Canvas& canvas, const PlotBox& box) {
+  const PenScope pen(canvas);
+  canvas.DrawWidth = 0;
   for (int k = 0; k <= grid.GridLast; ++k) {
     const f32 x = box.left + box.width * grid.GridFraction[k];
     canvas.Line(x, box.top, x, box.Bottom(), gridColor);
@@ -117,6 +147,8 @@ void DrawVerticalGrid(const HorizontalAxis& axis, i16 intervals, Canvas& canvas)
 void DrawHorizontalGrid(f32 intervals, Canvas& canvas) {
   const f32 step = HorizontalStep(intervals);
   if (!(step > 0)) throw NumericFault("Division by zero");
+  const PenScope pen(canvas);
+  canvas.DrawWidth = 0;
   for (f32 y = plotFrame.top; y <= plotFrame.Bottom(); y += step) {
     canvas.Line(plotFrame.left, y, plotFrame.Right(), y, gridColor);
   }

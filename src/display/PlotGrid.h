@@ -13,6 +13,7 @@ namespace quilm {
 
 inline constexpr int gridBound = 120;
 inline constexpr Color gridColor = 0x666666;
+inline constexpr Color frameColor = 0x333333;
 
 // The vertical lines from left to right.
 struct FrequencyGrid {
@@ -30,12 +31,17 @@ struct GridLabel {
 };
 
 // The labels that leave one another room, at most 21. On a logarithmic axis the more decades there are the fewer of a
-// decade's lines are named.
+// decade's lines are named. Where that leaves fewer than two, start and stop of the axis are labelled, with the one
+// between them if it has room.
 std::vector<GridLabel> LabelsOf(const HorizontalAxis& axis, const FrequencyGrid& grid);
 
 // The distance between `intervals` + 1 horizontal lines in the frame: one less than an even division, so that rounding
 // never loses the bottom line. Throws NumericFault for no interval.
 f32 HorizontalStep(f32 intervals);
+
+// The four edges of a frame. They are drawn whatever lines the grid has: those of a logarithmic axis need not begin and
+// end with it, and the lowest horizontal one lies a little above the edge.
+void DrawFrame(Canvas& canvas, const PlotBox& box = plotFrame);
 
 // The vertical lines in any frame.
 void DrawFrequencyLines(const FrequencyGrid& grid, Canvas& canvas, const PlotBox& box = plotFrame);

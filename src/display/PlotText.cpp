@@ -1,10 +1,13 @@
 #include "display/PlotText.h"
 
+#include "core/modGeneral.h"
 #include "shell/PenScope.h"
 
 namespace quilm {
 
 void PrintEndingAt(Canvas& canvas, f32 x, f32 y, const std::string& text) {
+  const PenScope pen(canvas);
+  canvas.Fit.anchor = 1;
   canvas.PrintAt(x - canvas.TextWidth(text), y, text);
 }
 
@@ -18,13 +21,35 @@ void PrintAbout(Canvas& canvas, Point middle, const std::string& text) {
   PrintOnPatch(canvas, middle.x - canvas.TextWidth(text) / 2, middle.y - canvas.TextHeight(text) / 2, text);
 }
 
-void DrawFooters(Canvas& canvas) {
+namespace {
+
+// As large as fits below the plot.
+void DrawTitle(const std::string& title, Canvas& canvas) {
+  constexpr f32 largest = 11;  // points
+  constexpr f32 middle = 6500;
+  constexpr f32 widest = 9000;
+  constexpr f32 row = 7400;
+  const PenScope pen(canvas);
+  canvas.ShowOn = Medium::Paper;
+  canvas.FontBold = true;
+  canvas.FontSize = largest;
+  const f32 width = canvas.TextWidth(title);
+  if (width > widest) canvas.FontSize *= widest / width;
+  canvas.PrintAt(middle - canvas.TextWidth(title) / 2, row, title);
+}
+
+}  // namespace
+
+void DrawFooters(const std::string& title, Canvas& canvas) {
   constexpr f32 startLeft = 1400;
   constexpr f32 startRow = 7660;
   const PenScope pen(canvas);
   canvas.FontSize = labelSize;
+  canvas.ShowOn = Medium::Screen;
+  canvas.Fit.anchor = 0;
   canvas.PrintAt(footerLeft, footerRow, "Mousedown for data");
   canvas.PrintAt(startLeft, startRow, "Start");
+  if (!Trimmed(title).empty()) DrawTitle(Trimmed(title), canvas);
 }
 
 }  // namespace quilm

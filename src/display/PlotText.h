@@ -15,7 +15,7 @@ inline constexpr f32 labelRise = 100;  // from the top of a label's line to the 
 inline constexpr f32 footerRow = 7280;
 inline constexpr f32 footerLeft = 1301;
 
-// A text that ends at x, with its top at y.
+// A text that ends at x, with its top at y; it ends there in whatever size it is drawn.
 void PrintEndingAt(Canvas& canvas, f32 x, f32 y, const std::string& text);
 
 // A text on a patch of paper of its own, so that lines below it do not strike it through: with its corner at (x, y), or
@@ -23,7 +23,7 @@ void PrintEndingAt(Canvas& canvas, f32 x, f32 y, const std::string& text);
 void PrintOnPatch(Canvas& canvas, f32 x, f32 y, const std::string& text);
 void PrintAbout(Canvas& canvas, Point middle, const std::string& text);
 
-// The invitation to the readout.
-void DrawFooters(Canvas& canvas);
+// Below the plot: on the screen the invitation to the readout, on paper the title of the design, if it has one.
+void DrawFooters(const std::string& title, Canvas& canvas);
 
 }  // namespace quilm

@@ -33,7 +33,8 @@ void ShowPlotFault(Session& session) {
 
 PlotSetup SetupOf(const Session& session) {
   const DesignRecord& record = session.record;
-  return {HorizontalAxis(record), record, session.plot.colors, session.smithView, record.Rstandard};
+  return {HorizontalAxis(record), record,           session.plot.colors,
+          session.smithView,      record.Rstandard, record.CircuitTitle};
 }
 
 void DrawSheet(const PlotSetup& setup, const ResponseSpans& responses, AxisPlaces& places, Canvas& canvas) {
@@ -67,7 +68,7 @@ void ChoosePlot(Session& session, i16 code) {
 }
 
 void RedrawPlot(Session& session) {
-  session.plot.live.SetScale(plotScale);
+  session.plot.live.SetScale(IsRectangular(session.record.PlotCode) ? plotScale : chartScale);
   session.plot.live.Clear();
   try {
     HoldLossBottom(session.record);

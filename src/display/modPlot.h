@@ -22,11 +22,12 @@ std::vector<Point> TracePoints(const PlotSetup& setup, const ResponseSpans& resp
 // The side of the frame that a scale stands on.
 enum class ScaleSide { Left, Right };
 
-// The title and the labels of a scale in `intervals` steps.
-void DrawScale(const ValueScale& scale, const std::string& title, f32 intervals, ScaleSide side, Canvas& canvas);
+// The title and the labels of a scale in `intervals` steps; the title in the colour of its trace.
+void DrawScale(const ValueScale& scale, const std::string& title, Color titleColor, f32 intervals, ScaleSide side,
+               Canvas& canvas);
 
 // Empties the canvas for a plot and sets its scale and pen.
-void BeginPlot(Canvas& canvas);
+void BeginPlot(const Scale& scale, Canvas& canvas);
 
 // The width of a trace's pen, at least 1 pixel.
 i16 TraceWidth(const PlotScales& scales);

@@ -89,6 +89,7 @@ void DrawReadout(const PlotSetup& setup, const ResponseSpans& responses, std::si
   canvas.Rectangle(stripCorner.x, stripCorner.y, right, stripBottom, colorWhite, true);
   canvas.ForeColor = colorBlack;
   canvas.FontSize = labelSize;
+  canvas.Fit.anchor = 0;
   PrintColumns(headingRow, headings, canvas);
   PrintColumns(headingRow + ReadoutValueRow, ValuesAt(responses, index), canvas);
   try {

@@ -23,7 +23,7 @@ constexpr PlotBox corner{1300, 1000, 2300, 2000};
 constexpr f32 cornerTitleRow = 750;
 constexpr f32 cornerGap = 50;  // between its frame and its labels
 constexpr f32 chartTitleRow = 420;
-constexpr Point noteEnd{12000, 6720};
+constexpr Point noteEnd{11300, 6720};
 constexpr Color cornerAngleColor = 0x111177;
 constexpr Color vswrColor = 0x6666FF;
 constexpr ChartBox smithBounds{0, 0, 12000, 7300};
@@ -110,7 +110,7 @@ void DrawCornerFrame(const PlotSetup& setup, Canvas& canvas) {
   // Its own paper: a chart that is zoomed or stretched goes below it.
   canvas.Rectangle(corner.left, corner.top, corner.Right(), corner.Bottom(), colorWhite, true);
   DrawFrequencyLines(MakeFrequencyGrid(setup.axis, setup.scales.NrXints), canvas, corner);
-  canvas.Rectangle(corner.left, corner.top, corner.Right(), corner.Bottom(), gridColor, false);
+  DrawFrame(canvas, corner);
   PrintCornerLabels(setup, canvas);
 }
 
@@ -120,6 +120,7 @@ void DrawCornerTraces(const PlotSetup& setup, const ResponseSpans& responses, Ax
   const PlotPlane plane{setup.axis, places, corner};
   std::vector<f64> derived;
   for (const CornerTrace& trace : CornerTraces(setup)) {
+    canvas.DrawStyle = trace.quantity == Quantity::Angle ? LineStyle::DashOnPaper : LineStyle::Solid;
     DrawCurve(CurveOf(responses, trace.quantity, derived), ScaleOf(setup.scales, trace.quantity), trace.color, plane,
               canvas);
   }
@@ -163,14 +164,14 @@ Phasor Transmission(const ResponseSpans& responses, std::size_t point) {
 
 void DrawChart(const PlotSetup& setup, const ResponseSpans& responses, AxisPlaces& places, Canvas& canvas) {
   const PenScope pen(canvas);
-  BeginPlot(canvas);
+  BeginPlot(chartScale, canvas);
   DrawRoundGrid(setup, canvas);
   DrawRoundTrace(setup, responses, canvas);
   if (IsSmith(setup) && setup.chart.VSWRCircleOn == 1) DrawVSWRCircle(ScaleFor(setup), setup.chart.VSWRCircle, canvas);
   DrawCornerFrame(setup, canvas);
   DrawCornerTraces(setup, responses, places, canvas);
   PrintNotes(setup, canvas);
-  DrawFooters(canvas);
+  DrawFooters(setup.title, canvas);
 }
 
 void DrawChartTraces(const PlotSetup& setup, const ResponseSpans& responses, AxisPlaces& places, Canvas& canvas) {

@@ -5,11 +5,17 @@ namespace quilm {
 
 namespace {
 
+// Most operations show on the screen and on paper alike.
+void AddMedium(Json& json, Medium medium) {
+  if (medium != Medium::Everywhere) json["on"] = medium == Medium::Screen ? "screen" : "paper";
+}
+
 void AddPen(Json& json, const Pen& pen) {
   json["color"] = pen.color;
   json["DrawWidth"] = pen.width;
   json["DrawStyle"] = static_cast<int>(pen.style);
   json["DrawMode"] = static_cast<int>(pen.mode);
+  AddMedium(json, pen.showOn);
 }
 
 void AddCorners(Json& json, Point from, Point to) {
@@ -72,6 +78,7 @@ Json ToJson(const TextOp& op) {
   json["FontName"] = op.font.name;
   json["FontSize"] = NumberJson(op.font.size);
   json["FontBold"] = op.font.bold;
+  AddMedium(json, op.showOn);
   return json;
 }
 

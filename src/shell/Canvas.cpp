@@ -4,6 +4,11 @@
 
 namespace quilm {
 
+bool Canvas::ShowsHere() const {
+  const Medium here = SurfaceMedium();
+  return ShowOn == Medium::Everywhere || here == Medium::Everywhere || ShowOn == here;
+}
+
 void Canvas::Line(f32 x1, f32 y1, f32 x2, f32 y2, Color color) {
   const std::array<Point, 2> ends{Point{x1, y1}, Point{x2, y2}};
   Polyline(ends, color);
@@ -11,23 +16,25 @@ void Canvas::Line(f32 x1, f32 y1, f32 x2, f32 y2, Color color) {
 
 void Canvas::Polyline(std::span<const Point> points, Color color) {
   if (points.size() < 2) return;
-  DrawPolyline(points, color);
+  if (ShowsHere()) DrawPolyline(points, color);
   CurrentX = points.back().x;
   CurrentY = points.back().y;
 }
 
 void Canvas::Rectangle(f32 x1, f32 y1, f32 x2, f32 y2, Color color, bool filled) {
-  DrawRectangle(Point{x1, y1}, Point{x2, y2}, color, filled);
+  if (ShowsHere()) DrawRectangle(Point{x1, y1}, Point{x2, y2}, color, filled);
 }
 
 void Canvas::Circle(f32 x, f32 y, f32 r, Color color, f32 start, f32 stop, f32 aspect) {
-  DrawCircle(Point{x, y}, r, color, start, stop, aspect);
+  if (ShowsHere()) DrawCircle(Point{x, y}, r, color, start, stop, aspect);
 }
 
-void Canvas::PSet(f32 x, f32 y, Color color) { DrawPoint(Point{x, y}, color); }
+void Canvas::PSet(f32 x, f32 y, Color color) {
+  if (ShowsHere()) DrawPoint(Point{x, y}, color);
+}
 
 void Canvas::Print(std::string_view text) {
-  DrawText(Point{CurrentX, CurrentY}, text);
+  if (ShowsHere()) DrawText(Point{CurrentX, CurrentY}, text);
   CurrentY += TextHeight(text);
 }
 
@@ -38,7 +45,8 @@ void Canvas::PrintAt(f32 x, f32 y, std::string_view text) {
 }
 
 f32 Canvas::TextWidth(std::string_view text) const {
-  return static_cast<f32>(Metrics().WidthInPoints(text, CurrentFont()) * twipsPerPoint);
+  const f64 twips = Metrics().WidthInPoints(text, CurrentFont()) * twipsPerPoint;
+  return static_cast<f32>(twips / static_cast<f64>(ScaleShape.xUnit));
 }
 
 f32 Canvas::TextHeight(std::string_view text) const {
@@ -56,6 +64,7 @@ void Canvas::SetScale(const Scale& scale) {
   ScaleTop = scale.top;
   ScaleWidth = scale.width;
   ScaleHeight = scale.height;
+  ScaleShape = scale.shape;
 }
 
 }  // namespace quilm

@@ -7,8 +7,8 @@
 
 namespace quilm {
 
-// Puts width, style, mode, colour and font back to what they were, however the scope is left. The scale, the background
-// and the position of the next text belong to the sheet and stay as they become.
+// Puts width, style, mode, colour, font, fit and medium back to what they were, however the scope is left. The scale,
+// the background and the position of the next text belong to the sheet and stay as they become.
 class PenScope {
  public:
   explicit PenScope(Canvas& canvas)
@@ -17,7 +17,9 @@ class PenScope {
         style_(canvas.DrawStyle),
         mode_(canvas.DrawMode),
         color_(canvas.ForeColor),
-        font_(canvas.CurrentFont()) {}
+        font_(canvas.CurrentFont()),
+        fit_(canvas.Fit),
+        showOn_(canvas.ShowOn) {}
 
   ~PenScope() {
     canvas_.DrawWidth = width_;
@@ -27,6 +29,8 @@ class PenScope {
     canvas_.FontName = std::move(font_.name);
     canvas_.FontSize = font_.size;
     canvas_.FontBold = font_.bold;
+    canvas_.Fit = fit_;
+    canvas_.ShowOn = showOn_;
   }
 
   PenScope(const PenScope&) = delete;
@@ -39,6 +43,8 @@ class PenScope {
   PenMode mode_;
   Color color_;
   Font font_;
+  TextFit fit_;
+  Medium showOn_;
 };
 
 }  // namespace quilm

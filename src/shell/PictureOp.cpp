@@ -18,6 +18,7 @@ void TakePen(Canvas& canvas, const Pen& pen) {
   canvas.DrawWidth = pen.width;
   canvas.DrawStyle = pen.style;
   canvas.DrawMode = pen.mode;
+  canvas.ShowOn = pen.showOn;
 }
 
 // Most drawings land where they were made, and a trace has thousands of points.
@@ -34,11 +35,22 @@ void DrawLine(const PolylineOp& op, Canvas& canvas, const PicturePlace& place) {
 
 std::ostream& operator<<(std::ostream& out, Point p) { return out << '(' << p.x << ", " << p.y << ')'; }
 
+std::ostream& operator<<(std::ostream& out, Medium medium) {
+  if (medium == Medium::Everywhere) return out;
+  return out << (medium == Medium::Screen ? " on screen" : " on paper");
+}
+
+std::ostream& operator<<(std::ostream& out, const TextFit& fit) {
+  if (fit.anchor != TextFit{}.anchor) out << " anchor " << fit.anchor;
+  if (fit.room != 0) out << " room " << fit.room;
+  return out;
+}
+
 std::ostream& operator<<(std::ostream& out, const Pen& pen) {
   out << " color 0x" << std::hex << pen.color << std::dec << " width " << pen.width;
   if (pen.style != LineStyle::Solid) out << " style " << static_cast<int>(pen.style);
   if (pen.mode != PenMode::Copy) out << " mode " << static_cast<int>(pen.mode);
-  return out;
+  return out << pen.showOn;
 }
 
 }  // namespace
@@ -69,6 +81,8 @@ void DrawOperation(const PictureOp& operation, Canvas& canvas, const PicturePlac
                    canvas.FontName = op.font.name;
                    canvas.FontSize = op.font.size * std::fabs(place.yScale);
                    canvas.FontBold = op.font.bold;
+                   canvas.Fit = {op.fit.anchor, op.fit.room * std::fabs(place.xScale)};
+                   canvas.ShowOn = op.showOn;
                    canvas.CurrentX = at.x;
                    canvas.CurrentY = at.y;
                    canvas.Print(op.text);
@@ -95,7 +109,8 @@ std::string DumpOperation(const PictureOp& operation) {
                  [&](const PointOp& op) { out << "point " << op.at << op.pen; },
                  [&](const TextOp& op) {
                    out << "text " << op.at << " \"" << op.text << "\" color 0x" << std::hex << op.color << std::dec
-                       << ' ' << op.font.name << ' ' << op.font.size << (op.font.bold ? " bold" : "");
+                       << ' ' << op.font.name << ' ' << op.font.size << (op.font.bold ? " bold" : "") << op.fit
+                       << op.showOn;
                  },
              },
              operation);

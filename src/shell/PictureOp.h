@@ -15,6 +15,7 @@ struct Pen {
   i16 width = 1;
   LineStyle style = LineStyle::Solid;
   PenMode mode = PenMode::Copy;
+  Medium showOn = Medium::Everywhere;
   bool operator==(const Pen&) const = default;
 };
 
@@ -53,6 +54,8 @@ struct TextOp {
   std::string text;
   Color color = colorBlack;
   Font font;
+  TextFit fit = {};
+  Medium showOn = Medium::Everywhere;
   bool operator==(const TextOp&) const = default;
 };
 

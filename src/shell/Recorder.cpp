@@ -17,7 +17,7 @@ void Recorder::DrawCircle(Point center, f32 r, Color color, f32 start, f32 stop,
 void Recorder::DrawPoint(Point at, Color color) { Append(PointOp{at, PenOf(color)}); }
 
 void Recorder::DrawText(Point at, std::string_view text) {
-  Append(TextOp{at, std::string(text), ForeColor, CurrentFont()});
+  Append(TextOp{at, std::string(text), ForeColor, CurrentFont(), Fit, ShowOn});
 }
 
 }  // namespace quilm

@@ -17,7 +17,7 @@ class Recorder : public Canvas {
   void DrawText(Point at, std::string_view text) override;
 
  private:
-  Pen PenOf(Color color) const { return Pen{color, DrawWidth, DrawStyle, DrawMode}; }
+  Pen PenOf(Color color) const { return Pen{color, DrawWidth, DrawStyle, DrawMode, ShowOn}; }
 };
 
 }  // namespace quilm

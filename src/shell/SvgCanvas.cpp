@@ -105,17 +105,19 @@ std::string XmlEscaped(std::string_view text) {
 }
 
 std::string SvgCanvas::Text() const {
-  const std::string size = Attribute("width", Pixels(ScaleWidth)) + Attribute("height", Pixels(ScaleHeight));
-  const std::string corner = Number(Pixels(ScaleLeft)) + ' ' + Number(Pixels(ScaleTop));
-  const std::string extent = Number(Pixels(ScaleWidth)) + ' ' + Number(Pixels(ScaleHeight));
+  const std::string size = Attribute("width", XPixels(ScaleWidth)) + Attribute("height", Pixels(ScaleHeight));
+  const std::string corner = Number(XPixels(ScaleLeft)) + ' ' + Number(Pixels(ScaleTop));
+  const std::string extent = Number(XPixels(ScaleWidth)) + ' ' + Number(Pixels(ScaleHeight));
   std::string text = R"(<?xml version="1.0" encoding="UTF-8"?>)"
                      "\n"
                      R"(<svg xmlns="http://www.w3.org/2000/svg" version="1.1")";
   text += size + Attribute("viewBox", corner + ' ' + extent) + ">\n";
-  text += "<rect" + Attribute("x", Pixels(ScaleLeft)) + Attribute("y", Pixels(ScaleTop)) + size +
+  text += "<rect" + Attribute("x", XPixels(ScaleLeft)) + Attribute("y", Pixels(ScaleTop)) + size +
           Attribute("fill", ColorText(BackColor)) + "/>\n";
   return text + body_ + "</svg>\n";
 }
+
+f64 SvgCanvas::XPixels(f32 units) const { return Pixels(units) * static_cast<f64>(ScaleShape.xUnit); }
 
 std::string SvgCanvas::ModeAttribute() const {
   // Difference is the blending that a second drawing in the same place takes back, as exclusive or does.
@@ -123,9 +125,11 @@ std::string SvgCanvas::ModeAttribute() const {
 }
 
 std::string SvgCanvas::Stroke(Color color) const {
-  std::string text = Attribute("stroke", ColorText(color)) + Attribute("stroke-width", std::max<f64>(DrawWidth, 1)) +
+  constexpr f64 thinnest = 0.5;
+  std::string text = Attribute("stroke", ColorText(color)) +
+                     Attribute("stroke-width", DrawWidth > 0 ? static_cast<f64>(DrawWidth) : thinnest) +
                      Attribute("vector-effect", "non-scaling-stroke");
-  if (DrawStyle == LineStyle::Dash) text += Attribute("stroke-dasharray", "6 3");
+  if (DrawStyle == LineStyle::Dash || DrawStyle == LineStyle::DashOnPaper) text += Attribute("stroke-dasharray", "6 3");
   if (DrawStyle == LineStyle::Dot) text += Attribute("stroke-dasharray", "1.5 3");
   if (DrawStyle == LineStyle::Solid) {
     text += Attribute("stroke-linecap", "round") + Attribute("stroke-linejoin", "round");
@@ -147,33 +151,33 @@ void SvgCanvas::DrawPolyline(std::span<const Point> points, Color color) {
 void SvgCanvas::StrokeRun(std::span<const Point> points, Color color) {
   if (points.size() < 2) return;
   if (points.size() == 2) {
-    body_ += "<line" + Attribute("x1", Pixels(points[0].x)) + Attribute("y1", Pixels(points[0].y)) +
-             Attribute("x2", Pixels(points[1].x)) + Attribute("y2", Pixels(points[1].y)) + Stroke(color) + "/>\n";
+    body_ += "<line" + Attribute("x1", XPixels(points[0].x)) + Attribute("y1", Pixels(points[0].y)) +
+             Attribute("x2", XPixels(points[1].x)) + Attribute("y2", Pixels(points[1].y)) + Stroke(color) + "/>\n";
     return;
   }
   std::string places;
   for (const Point p : points) {
     if (!places.empty()) places += ' ';
-    places += Number(Pixels(p.x)) + ',' + Number(Pixels(p.y));
+    places += Number(XPixels(p.x)) + ',' + Number(Pixels(p.y));
   }
   body_ += "<polyline" + Attribute("points", places) + Attribute("fill", "none") + Stroke(color) + "/>\n";
 }
 
 void SvgCanvas::DrawRectangle(Point from, Point to, Color color, bool filled) {
   if (!IsFinite(from) || !IsFinite(to)) return;
-  const f64 left = Pixels(std::min(from.x, to.x));
+  const f64 left = XPixels(std::min(from.x, to.x));
   const f64 top = Pixels(std::min(from.y, to.y));
   body_ += "<rect" + Attribute("x", left) + Attribute("y", top) +
-           Attribute("width", Pixels(std::max(from.x, to.x)) - left) +
+           Attribute("width", XPixels(std::max(from.x, to.x)) - left) +
            Attribute("height", Pixels(std::max(from.y, to.y)) - top) +
            Attribute("fill", filled ? ColorText(color) : "none") + Stroke(color) + "/>\n";
 }
 
 void SvgCanvas::DrawCircle(Point center, f32 r, Color color, f32 start, f32 stop, f32 aspect) {
-  const f64 halfWidth = std::fabs(Pixels(r));
-  const f64 halfHeight = halfWidth * std::fabs(static_cast<f64>(aspect));
+  const f64 halfWidth = std::fabs(XPixels(r));
+  const f64 halfHeight = std::fabs(Pixels(r) * static_cast<f64>(aspect));
   if (!IsFinite(center) || !std::isfinite(halfWidth) || !std::isfinite(halfHeight)) return;
-  const f64 x = Pixels(center.x);
+  const f64 x = XPixels(center.x);
   const f64 y = Pixels(center.y);
   constexpr f64 turn = 2 * std::numbers::pi;
   f64 sweep = static_cast<f64>(stop) - static_cast<f64>(start);
@@ -199,7 +203,7 @@ void SvgCanvas::DrawCircle(Point center, f32 r, Color color, f32 start, f32 stop
 // A line of no length, whose caps are the point: square for a single pixel, round for a wider one.
 void SvgCanvas::DrawPoint(Point at, Color color) {
   if (!IsFinite(at)) return;
-  body_ += "<path" + Attribute("d", "M " + Number(Pixels(at.x)) + ' ' + Number(Pixels(at.y)) + " h0") +
+  body_ += "<path" + Attribute("d", "M " + Number(XPixels(at.x)) + ' ' + Number(Pixels(at.y)) + " h0") +
            Attribute("stroke", ColorText(color)) + Attribute("stroke-width", std::max<f64>(DrawWidth, 1)) +
            Attribute("stroke-linecap", DrawWidth <= 1 ? "square" : "round") +
            Attribute("vector-effect", "non-scaling-stroke") + ModeAttribute() + "/>\n";
@@ -213,7 +217,7 @@ void SvgCanvas::DrawText(Point at, std::string_view text) {
   f64 top = Pixels(at.y);
   while (true) {
     const std::size_t end = text.find('\n');
-    DrawTextLine(Pixels(at.x), top + ascent * em, text.substr(0, end));
+    DrawTextLine(XPixels(at.x), top + ascent * em, text.substr(0, end));
     if (end == std::string_view::npos) return;
     text.remove_prefix(end + 1);
     top += linePitch * em;
@@ -221,7 +225,7 @@ void SvgCanvas::DrawText(Point at, std::string_view text) {
 }
 
 void SvgCanvas::DrawTextLine(f64 x, f64 baseline, std::string_view line) {
-  const f64 width = Pixels(TextWidth(line));
+  const f64 width = XPixels(TextWidth(line));
   if (line.find_first_not_of(" \r") == std::string_view::npos) return;
   body_ += "<text" + Attribute("x", x) + Attribute("y", baseline) + Attribute("font-family", FontFamily(FontName)) +
            Attribute("font-size", EmHeight());

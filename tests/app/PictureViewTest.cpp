@@ -38,6 +38,45 @@ class PictureViewOfASquare : public testing::Test {
 
 TEST_F(PictureViewOfASquare, KeepsItsProportionsInTheMiddle) { EXPECT_EQ(view.Paper(), QRectF(100, 0, 200, 200)); }
 
+// From 4:3 to 21:9.
+TEST(FillingPicture, TakesTheRoomThatItHasAsFarAsItGoes) {
+  PictureView view;
+  view.Show(Picture(Scale{0, 0, 1000, 1000, {1, 4.0F / 3, 21.0F / 9}}), LiveLayer(), Picture());
+  view.resize(400, 200);
+  EXPECT_EQ(view.Paper(), QRectF(0, 0, 400, 200));
+  EXPECT_EQ(view.ToUser({200, 50}), (Point{500, 250}));
+  view.resize(300, 300);
+  EXPECT_EQ(view.Paper(), QRectF(0, 37, 300, 225));
+  view.resize(420, 100);
+  EXPECT_EQ(view.Paper(), QRectF(93, 0, 233, 100));
+}
+
+TEST(PictureWithLongUnits, IsAsMuchWider) {
+  PictureView view;
+  view.Show(Picture(Scale{0, 0, 1500, 1500, {.xUnit = 1.5F}}), LiveLayer(), Picture());
+  EXPECT_EQ(view.sizeHint(), QSize(150, 100));
+  view.resize(600, 200);
+  EXPECT_EQ(view.Paper(), QRectF(150, 0, 300, 200));
+}
+
+// Copies are made on paper: its title is on them, the hint of the screen is not.
+TEST(CopiedPicture, IsOnPaper) {
+  Picture picture(Scale{0, 0, 1500, 1500});
+  picture.ShowOn = Medium::Screen;
+  picture.Rectangle(0, 0, 750, 1500, colorRed, true);
+  picture.ShowOn = Medium::Paper;
+  picture.Rectangle(750, 0, 1500, 1500, colorBlue, true);
+  PictureView view;
+  view.resize(100, 100);
+  view.Show(picture, LiveLayer(), Picture());
+  EXPECT_EQ(QColor(Shot(view).pixel(25, 50)), QColor(Qt::red));
+  EXPECT_EQ(QColor(Shot(view).pixel(75, 50)), QColor(Qt::white));
+  view.Copy();
+  const QImage copy = QApplication::clipboard()->image();
+  EXPECT_EQ(QColor(copy.pixel(50, 100)), QColor(Qt::white));
+  EXPECT_EQ(QColor(copy.pixel(150, 100)), QColor(Qt::blue));
+}
+
 TEST_F(PictureViewOfASquare, MapsPlacesToTheUserScale) {
   EXPECT_EQ(view.ToUser({100, 0}), (Point{0, 0}));
   EXPECT_EQ(view.ToUser({200, 100}), (Point{500, 500}));

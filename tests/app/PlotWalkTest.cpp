@@ -81,9 +81,9 @@ TEST_F(PlotWalk, TheSmithChartIsZoomedByItsButtons) {
   QTest::keyClick(Find("txtAspect"), Qt::Key_Tab);
   EXPECT_FALSE(Find("cmdZoomOut")->isEnabled());
 
-  // A true circle: the rim crosses the paper at the same distance from the centre on both axes.
+  // A true circle at the usual aspect: the rim crosses the paper at the same distance from the centre on both axes.
   const QPoint center = PlaceOf(6500, 4000);
-  EXPECT_NEAR(PlaceOf(9500, 4000).x() - center.x(), PlaceOf(6500, 7000).y() - center.y(), 1);
+  EXPECT_NEAR(PlaceOf(6500 + 0.75F * 3000, 4000).x() - center.x(), PlaceOf(6500, 7000).y() - center.y(), 1);
 
   QImage before = Plot().grab().toImage();
   for (int i = 0; i < 4; ++i) {
@@ -95,6 +95,23 @@ TEST_F(PlotWalk, TheSmithChartIsZoomedByItsButtons) {
   EXPECT_EQ(desktop_.session.smithView.ZoomFactor, 16);
   EXPECT_FALSE(Find("cmdZoomIn")->isEnabled());
   EXPECT_TRUE(Find("cmdZoomOut")->isEnabled());
+}
+
+// The paper of a rectangular plot is as wide as the room; a place of the mouse is the same place of the plot.
+TEST_F(PlotWalk, ARectangularPlotFillsItsRoom) {
+  for (const QSize size : {QSize(1280, 860), QSize(1900, 900), QSize(1000, 800)}) {
+    desktop_.window.resize(size);
+    QApplication::processEvents();
+    const QRectF paper = Plot().Paper();
+    const f64 room = static_cast<f64>(Plot().width()) / Plot().height();
+    ASSERT_GT(room, 4.0 / 3);
+    ASSERT_LT(room, 21.0 / 9);
+    EXPECT_NEAR(paper.width(), Plot().width(), 1);
+    EXPECT_NEAR(paper.height(), Plot().height(), 1);
+    QTest::mousePress(&Plot(), Qt::LeftButton, {}, PlaceOf(3000, 4000));
+    EXPECT_EQ(PixelAt(2995, 1030), QColor(0x00, 0xBB, 0x00));
+    QTest::mouseRelease(&Plot(), Qt::LeftButton, {}, PlaceOf(3000, 4000));
+  }
 }
 
 TEST_F(PlotWalk, AKeyFitsTheSweepToTheBand) {

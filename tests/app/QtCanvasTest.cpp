@@ -73,6 +73,103 @@ TEST_F(DenseQtCanvasTest, PensAreAsManyDevicePixelsWideAsTheScreenIsDense) {
   EXPECT_EQ(At(200, 100), QColor(Qt::black));
 }
 
+TEST_F(DenseQtCanvasTest, TheThinnestLineIsOneDevicePixel) {
+  canvas.DrawWidth = 0;
+  canvas.Line(500, 100, 500, 400, colorBlack);
+  int marked = 0;
+  for (int x = 190; x < 210; ++x) marked += Marked(x, 100) ? 1 : 0;
+  EXPECT_EQ(marked, 1);
+}
+
+// A text at the right end of what it was laid out for, where the surface has half as long units of x: it keeps its
+// shape and reaches twice as far to the left.
+TEST_F(QtCanvasTest, ATextKeepsItsShapeAndTheEndThatItIsAnchoredAt) {
+  const auto columns = [this](f32 anchor) {
+    image.fill(Qt::white);
+    canvas.SetScale({0, 0, 1000, 250});
+    canvas.FontSize = 2.5F;  // 20 pixels
+    canvas.Fit.anchor = anchor;
+    canvas.PrintAt(500, 100, "HHH");
+    int least = image.width();
+    int most = 0;
+    for (int x = 0; x < image.width(); ++x) {
+      for (int y = 0; y < image.height(); ++y) {
+        if (!Marked(x, y)) continue;
+        least = std::min(least, x);
+        most = std::max(most, x);
+      }
+    }
+    return std::pair(least, most);
+  };
+  // Three letters of 0.722 em: 108.3 units laid out, 21.7 pixels; drawn 43.3 pixels.
+  const auto [leftFrom, leftTo] = columns(0);
+  const auto [rightFrom, rightTo] = columns(1);
+  EXPECT_NEAR(leftFrom, 100, 3);
+  EXPECT_NEAR(leftTo, 143, 3);
+  EXPECT_NEAR(rightFrom, 78, 3);
+  EXPECT_NEAR(rightTo, 121, 3);
+}
+
+class EnlargingCanvas : public testing::Test {
+ protected:
+  // The pixels across that a text takes whose letters would be 4 pixels high, where 12 are the least.
+  int Width(const TextFit& fit) {
+    QImage image(200, 100, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    {
+      QPainter painter(&image);
+      QtCanvas canvas(painter, Surface{.target = QRectF(0, 0, 200, 100), .smallestText = 12});
+      canvas.SetScale({0, 0, 1000, 500});
+      canvas.FontSize = 1;
+      canvas.Fit = fit;
+      canvas.PrintAt(100, 100, "HHHH");
+    }
+    int least = image.width();
+    int most = -1;
+    for (int x = 0; x < image.width(); ++x) {
+      for (int y = 0; y < image.height(); ++y) {
+        if (QColor(image.pixel(x, y)) == QColor(Qt::white)) continue;
+        least = std::min(least, x);
+        most = std::max(most, x);
+      }
+    }
+    return most - least + 1;
+  }
+};
+
+// Four letters of 0.722 em of 12 pixels are 34.7 pixels wide, 173 units.
+TEST_F(EnlargingCanvas, ATextIsEnlargedAsFarAsItHasRoom) {
+  EXPECT_NEAR(Width({}), 34, 3);
+  EXPECT_NEAR(Width({.anchor = 0, .room = 500}), 34, 3);
+  EXPECT_NEAR(Width({.anchor = 0, .room = 100}), 20, 3);
+  EXPECT_NEAR(Width({.anchor = 0, .room = 1}), 11, 3);  // never smaller than it was laid out
+}
+
+TEST_F(QtCanvasTest, WhatIsForPaperDoesNotReachTheScreen) {
+  canvas.ShowOn = Medium::Paper;
+  canvas.Rectangle(100, 100, 900, 400, colorBlack, true);
+  canvas.PrintAt(100, 100, "paper");
+  EXPECT_EQ(Count(), 0);
+  canvas.ShowOn = Medium::Screen;
+  canvas.Rectangle(100, 100, 900, 400, colorBlack, true);
+  EXPECT_GT(Count(), 0);
+}
+
+TEST_F(QtCanvasTest, TracesAreDashedOnPaperAlone) {
+  const auto gaps = [this](Medium medium) {
+    image.fill(Qt::white);
+    QtCanvas surface(painter, Surface{.target = QRectF(0, 0, 200, 100), .medium = medium});
+    surface.SetScale({0, 0, 1000, 500});
+    surface.DrawStyle = LineStyle::DashOnPaper;
+    surface.Line(100, 250, 900, 250, colorBlack);
+    int white = 0;
+    for (int x = 25; x < 175; ++x) white += Marked(x, 50) ? 0 : 1;
+    return white;
+  };
+  EXPECT_EQ(gaps(Medium::Screen), 0);
+  EXPECT_GT(gaps(Medium::Paper), 30);
+}
+
 TEST_F(QtCanvasTest, ASlantedLineIsSmooth) {
   canvas.Line(100, 100, 900, 300, colorBlack);
   bool grey = false;

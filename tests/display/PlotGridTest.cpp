@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include "shell/Picture.h"
+
 namespace quilm {
 namespace {
 
@@ -86,6 +88,45 @@ TEST(Labels, OverThreeDecadesLeavesTheDecades) {
 TEST(HorizontalStep, IsOneLessThanAnEvenDivision) {
   EXPECT_EQ(HorizontalStep(7), 856);
   EXPECT_EQ(HorizontalStep(6), 999);
+}
+
+// No line of the grid lies between 1.2 and 1.4 MHz, and the one at 900 kHz has no name.
+TEST(Labels, WhereFewerThanTwoAreLeftStartAndStopAreNamed) {
+  EXPECT_EQ(Labels(Logarithmic(1.2e6F, 1.4e6F)), (Texts{"1.2M", "1.4M"}));
+  EXPECT_EQ(Labels(Logarithmic(0.9e6F, 1.1e6F)), (Texts{"900k", "1M", "1.1M"}));
+  EXPECT_EQ(Labels(Logarithmic(0.999e6F, 1.2e6F)), (Texts{"999k", "1.2M"}));  // 1M would run into the start
+  const HorizontalAxis axis = Logarithmic(1.2e6F, 1.4e6F);
+  const auto labels = LabelsOf(axis, MakeFrequencyGrid(axis, 10));
+  EXPECT_EQ(labels.front().fraction, 0);
+  EXPECT_EQ(labels.back().fraction, 1);
+}
+
+TEST(Labels, TwoToldLabelsAreEnough) { EXPECT_EQ(Labels(Logarithmic(1.9e6F, 3.1e6F)), (Texts{"2M", "3M"})); }
+
+TEST(GridLines, AreOneDevicePixelWide) {
+  Picture picture;
+  DrawHorizontalGrid(6, picture);
+  DrawVerticalGrid(Linear(0, 10), 10, picture);
+  int lines = 0;
+  for (const PictureOp& operation : picture.Operations()) {
+    const auto* line = std::get_if<PolylineOp>(&operation);
+    if (line == nullptr) continue;
+    EXPECT_EQ(line->pen.width, 0);
+    ++lines;
+  }
+  EXPECT_EQ(lines, 7 + 11);
+  EXPECT_EQ(picture.DrawWidth, 1);
+}
+
+TEST(Frame, HasItsFourEdgesInAColourOfItsOwn) {
+  Picture picture;
+  DrawFrame(picture);
+  ASSERT_EQ(picture.Operations().size(), 1U);
+  const auto& frame = std::get<RectangleOp>(picture.Operations()[0]);
+  EXPECT_EQ(frame.from, (Point{2000, 1000}));
+  EXPECT_EQ(frame.to, (Point{11000, 7000}));
+  EXPECT_FALSE(frame.filled);
+  EXPECT_LT(frame.pen.color & 0xFF, gridColor & 0xFF);  // a darker grey
 }
 
 }  // namespace

@@ -47,11 +47,12 @@ class Sheet : public testing::Test {
     return session.plot.picture;
   }
 
+  // On the screen: paper has a sample of each beside.
   static std::vector<PolylineOp> Lines(const Picture& picture, Color color) {
     std::vector<PolylineOp> lines;
     for (const PictureOp& operation : picture.Operations()) {
       const auto* line = std::get_if<PolylineOp>(&operation);
-      if (line != nullptr && line->pen.color == color) lines.push_back(*line);
+      if (line != nullptr && line->pen.color == color && line->pen.showOn != Medium::Paper) lines.push_back(*line);
     }
     return lines;
   }

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <map>
 #include <memory>
 #include <set>
 
@@ -12,6 +13,7 @@
 #include "display/PlotGrid.h"
 #include "display/PlotKinds.h"
 #include "shell/Picture.h"
+#include "shell/SvgCanvas.h"
 
 namespace quilm {
 namespace {
@@ -60,10 +62,13 @@ class Plot : public testing::Test {
     std::vector<PolylineOp> traces;
     for (const PictureOp& operation : picture.Operations()) {
       const auto* line = std::get_if<PolylineOp>(&operation);
-      if (line != nullptr && line->pen.color != gridColor) traces.push_back(*line);
+      if (line != nullptr && line->pen.color != gridColor && !IsSample(*line)) traces.push_back(*line);
     }
     return traces;
   }
+
+  // The pieces beside the titles of the scales.
+  static bool IsSample(const PolylineOp& line) { return line.points.size() == 2 && line.points[0].y < 1000; }
 
   // The texts of a scale from top to bottom.
   static std::vector<std::string> ScaleTexts(const Picture& picture, bool left) {
@@ -89,6 +94,90 @@ TEST_F(Plot, TheTransmissionTraceRidesAlongTheBottom) {
                                        {6500, 5000}, {8750, 7000}, {11000, 7000}};
   EXPECT_EQ(traces[0].points, expected);
   EXPECT_EQ(traces[0].pen.color, colorBlue);
+}
+
+// The title of each scale has the colour of the trace that it belongs to, whichever is drawn first.
+TEST_F(Plot, AxisTitlesHaveTheColourOfTheirTrace) {
+  const std::map<i16, std::vector<std::pair<std::string, Color>>> expected = {
+      {1, {{"Transmission, dB", colorBlue}}},
+      {2, {{"Transmission, dB", colorBlue}, {"Return, dB", colorRed}}},
+      {3, {{"Transmission, dB", colorRed}, {"Angle of Transmission", colorBlue}}},
+      {4, {{"Transmission, dB", colorRed}, {"Envelope Delay", colorBlue}}},
+      {7, {{"Input Impedance", colorBlue}, {"Angle of Input Impedance", colorRed}}},
+      {13, {{"VSWR", colorBlue}, {"Transmission, dB", colorRed}}},
+  };
+  for (const auto& [code, titles] : expected) {
+    std::vector<std::pair<std::string, Color>> found;
+    for (const TextOp& text : Texts(Drawn(code))) {
+      if (text.at.y < 700) found.emplace_back(text.text, text.color);
+    }
+    EXPECT_EQ(found, titles) << code;
+  }
+}
+
+TEST_F(Plot, TheFrameLiesOverTheGridAndBelowTheTraces) {
+  const Picture picture = Drawn(1);
+  std::size_t frame = 0;
+  std::size_t lastLine = 0;
+  std::size_t trace = 0;
+  for (std::size_t i = 0; i < picture.Operations().size(); ++i) {
+    if (std::holds_alternative<RectangleOp>(picture.Operations()[i])) frame = i;
+    const auto* line = std::get_if<PolylineOp>(&picture.Operations()[i]);
+    if (line != nullptr) (line->pen.color == gridColor ? lastLine : trace) = i;
+  }
+  EXPECT_GT(frame, lastLine);
+  EXPECT_GT(trace, frame);
+}
+
+// In print the colours may be gone. Each scale shows a piece of its trace beside its title.
+TEST_F(Plot, TheSecondTraceIsDashedOnPaper) {
+  const auto traces = Traces(Drawn(2));
+  ASSERT_EQ(traces.size(), 2U);
+  EXPECT_EQ(traces[0].pen.style, LineStyle::Solid);
+  EXPECT_EQ(traces[1].pen.style, LineStyle::DashOnPaper);
+  std::vector<Pen> samples;
+  const Picture picture = Drawn(2);
+  for (const PictureOp& operation : picture.Operations()) {
+    const auto* line = std::get_if<PolylineOp>(&operation);
+    if (line != nullptr && line->pen.color != gridColor && IsSample(*line)) samples.push_back(line->pen);
+  }
+  ASSERT_EQ(samples.size(), 2U);
+  for (std::size_t i = 0; i < 2; ++i) {
+    EXPECT_EQ(samples[i].color, traces[i].pen.color);
+    EXPECT_EQ(samples[i].style, traces[i].pen.style);
+    EXPECT_EQ(samples[i].showOn, Medium::Paper);
+  }
+}
+
+TEST_F(Plot, OnPaperItHasTheTitleInPlaceOfTheInvitation) {
+  PlotSetup setup = PlotOf(2);
+  setup.title = "Harmonic filter";
+  Picture picture;
+  DrawPlot(setup, SpansOf(*responses, 4), places, picture);
+  std::map<std::string, Medium> shown;
+  for (const TextOp& text : Texts(picture)) shown[text.text] = text.showOn;
+  EXPECT_EQ(shown.at("Mousedown for data"), Medium::Screen);
+  EXPECT_EQ(shown.at("Start"), Medium::Screen);
+  EXPECT_EQ(shown.at("Harmonic filter"), Medium::Paper);
+  EXPECT_EQ(shown.at("Transmission, dB"), Medium::Everywhere);
+  const std::string file = SvgText(picture);
+  EXPECT_NE(file.find("Harmonic filter"), std::string::npos);
+  EXPECT_EQ(file.find("Mousedown"), std::string::npos);
+}
+
+TEST_F(Plot, ALongTitleIsMadeToFitAndAnEmptyOneIsNone) {
+  PlotSetup setup = PlotOf(1);
+  setup.title = std::string(80, 'W');
+  Picture picture;
+  DrawPlot(setup, SpansOf(*responses, 4), places, picture);
+  const TextOp title = Texts(picture).back();
+  EXPECT_GE(title.at.x, picture.ScaleLeft);
+  // A W is 944/1000 of an em wide in bold.
+  EXPECT_LE(title.at.x + 80 * 0.944F * 20 * title.font.size, picture.ScaleLeft + picture.ScaleWidth);
+  const std::size_t texts = Texts(picture).size();
+  setup.title = "  ";
+  DrawPlot(setup, SpansOf(*responses, 4), places, picture);
+  EXPECT_EQ(Texts(picture).size(), texts - 1);
 }
 
 struct Expected {

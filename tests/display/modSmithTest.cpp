@@ -127,6 +127,16 @@ TEST_F(Chart, TheZoomMultipliesDistancesFromTheCentreAndBreaksTheTrace) {
   ExpectNear(traces[1].points[1], 6500, 4000);
 }
 
+// At the usual aspect of 0.75 the unit circle is as wide as it is high, counted in pixels of a file.
+TEST_F(Chart, IsATrueCircleAtItsUsualAspect) {
+  scales.SmithAspect = 0.75F;
+  const Scale& scale = Drawn(11).CurrentScale();
+  const f32 pixelsAcross = 2 * 0.75F * chartRadius * scale.NaturalWidth() / scale.width;
+  const f32 pixelsUp = 2 * chartRadius * scale.NaturalHeight() / scale.height;
+  EXPECT_NEAR(pixelsAcross, pixelsUp, 0.01);
+  EXPECT_EQ(scale.shape.mostProportion, 0);  // whatever the room
+}
+
 TEST_F(Chart, TheAspectStretchesInXAlone) {
   scales.SmithAspect = 0.5F;
   SetImpedance(0, 1e9, 0);

@@ -43,6 +43,26 @@ TEST(Canvas, NothingElseMovesTheTextPosition) {
   EXPECT_EQ(picture.CurrentY, 8);
 }
 
+TEST(Canvas, ATextIsFewerUnitsWideWhereTheyAreLonger) {
+  Picture picture;
+  const f32 natural = picture.TextWidth("Text");
+  picture.ScaleShape.xUnit = 4;
+  EXPECT_EQ(picture.TextWidth("Text"), natural / 4);
+}
+
+TEST(Canvas, ARecordingKeepsWhatIsForTheScreenOrForPaper) {
+  Picture picture;
+  for (const Medium medium : {Medium::Everywhere, Medium::Screen, Medium::Paper}) {
+    picture.ShowOn = medium;
+    picture.PrintAt(0, 0, "text");
+    picture.PSet(1, 2, colorBlack);
+  }
+  EXPECT_EQ(picture.Operations().size(), 6U);
+  Picture again;
+  picture.Replay(again);
+  EXPECT_EQ(again, picture) << again.Dump();
+}
+
 // 10 points are 200 twips, a line is 1.15 em: 230 units.
 TEST(Canvas, PrintMovesOneLineDownAndNotAside) {
   Picture picture;

@@ -17,6 +17,8 @@ void ChangePen(Canvas& canvas) {
   canvas.FontName = "Courier New";
   canvas.FontSize = 20;
   canvas.FontBold = true;
+  canvas.Fit = {1, 100};
+  canvas.ShowOn = Medium::Paper;
 }
 
 void ExpectPenAsMade(const Canvas& canvas) {
@@ -26,6 +28,8 @@ void ExpectPenAsMade(const Canvas& canvas) {
   EXPECT_EQ(canvas.DrawMode, fresh.DrawMode);
   EXPECT_EQ(canvas.ForeColor, fresh.ForeColor);
   EXPECT_EQ(canvas.CurrentFont(), fresh.CurrentFont());
+  EXPECT_EQ(canvas.Fit, fresh.Fit);
+  EXPECT_EQ(canvas.ShowOn, fresh.ShowOn);
 }
 
 TEST(PenScope, PutsEverythingOfThePenBack) {

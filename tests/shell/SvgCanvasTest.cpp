@@ -56,11 +56,42 @@ TEST(SvgCanvas, PensKeepTheirWidthInPixels) {
   EXPECT_FALSE(line.attributes.contains("style"));
 }
 
-TEST(SvgCanvas, APenIsAtLeastOnePixelWide) {
+TEST(SvgCanvas, TheThinnestPenIsHalfAPixelWide) {
   SvgCanvas canvas;
   canvas.DrawWidth = 0;
   canvas.Line(1, 2, 3, 4, colorRed);
-  EXPECT_EQ(Only(canvas).attributes.at("stroke-width"), "1");
+  EXPECT_EQ(Only(canvas).attributes.at("stroke-width"), "0.5");
+}
+
+// Units of x that are twice as long as those of y: 300 of them are 40 pixels, 300 of y 20.
+TEST(SvgCanvas, AUnitOfXHasItsOwnLength) {
+  SvgCanvas canvas;
+  canvas.SetScale({0, 0, 3000, 3000, {.xUnit = 2}});
+  canvas.Circle(600, 600, 300, colorRed);
+  canvas.FontSize = 10;
+  canvas.PrintAt(150, 0, "XX");
+  const auto all = ReadSvg(canvas.Text());
+  EXPECT_EQ(all[0].Number("width"), 400);
+  EXPECT_EQ(all[0].Number("height"), 200);
+  const auto elements = Drawn(canvas);
+  EXPECT_EQ(elements.at(0).Number("cx"), 80);
+  EXPECT_EQ(elements.at(0).Number("rx"), 40);
+  EXPECT_EQ(elements.at(0).Number("ry"), 20);
+  EXPECT_EQ(elements.at(1).Number("x"), 20);
+  // The text keeps its shape: an X is 667/1000 of its 200 twips wide, 15 twips to the pixel.
+  EXPECT_NEAR(elements.at(1).Number("textLength"), 2 * 0.667 * 200 / 15, 0.001);
+}
+
+TEST(SvgCanvas, IsPaper) {
+  SvgCanvas canvas;
+  canvas.ShowOn = Medium::Screen;
+  canvas.Line(1, 2, 3, 4, colorRed);
+  canvas.PrintAt(0, 0, "on the screen");
+  EXPECT_TRUE(Drawn(canvas).empty());
+  canvas.ShowOn = Medium::Paper;
+  canvas.DrawStyle = LineStyle::DashOnPaper;
+  canvas.Line(1, 2, 3, 4, colorRed);
+  EXPECT_EQ(Only(canvas).attributes.at("stroke-dasharray"), "6 3");
 }
 
 TEST(SvgCanvas, DashesAndDotsDiffer) {

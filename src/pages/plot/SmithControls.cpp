@@ -26,7 +26,7 @@ SmithControls::SmithControls(Page& page, Session& session, std::function<void()>
       cmdVSWR(page, "cmdVSWR", "VSWR", "Show or hide the circle of this VSWR"),
       txtVSWR(page, "txtVSWR", "VSWR of the circle", "1 to 20"),
       lblAspect(page, "lblAspect", "Aspect"),
-      txtAspect(page, "txtAspect", "Aspect of the chart", "Width over height of the chart"),
+      txtAspect(page, "txtAspect", "Aspect of the chart", "Width of the chart, 0.5 to 1.5; at 0.75 it is a circle"),
       UpDown1(page, "UpDown1", "Aspect of the chart in per cent"),
       txtAspectEntry(page, "txtAspectEntry", "0.5 to 1.5"),
       VSWR_(page.entries.Bind({.box = txtVSWR,
