@@ -5,7 +5,9 @@
 #include <QKeyEvent>
 #include <QRadioButton>
 #include <QShortcut>
+#include <QWheelEvent>
 #include <algorithm>
+#include <cstdlib>
 #include <utility>
 
 #include "app/AccessibleControls.h"
@@ -38,6 +40,10 @@ std::vector<WindowKey> WindowKeys() {
           {QKeySequence(Qt::CTRL | Qt::Key_Q), "cmdExit"},
           {QKeySequence(Qt::Key_F1), "cmdHelp"},
           {QKeySequence(Qt::CTRL | Qt::Key_F), "cmdFitSweep"},
+          {QKeySequence(Qt::CTRL | Qt::Key_Plus), "cmdZoomIn"},
+          {QKeySequence(Qt::CTRL | Qt::Key_Equal), "cmdZoomIn"},  // the same key without Shift on many keyboards
+          {QKeySequence(Qt::CTRL | Qt::Key_Minus), "cmdZoomOut"},
+          {QKeySequence(Qt::CTRL | Qt::Key_0), "cmdZoomFit"},
           {QKeySequence(Qt::CTRL | Qt::Key_1), "cmdDesign"},
           {QKeySequence(Qt::CTRL | Qt::Key_2), "cmdSchematic"},
           {QKeySequence(Qt::CTRL | Qt::Key_3), "cmdEdit"},
@@ -257,6 +263,16 @@ bool PageView::PressButton(Button* button) {
   if (button == nullptr || !button->Usable()) return false;
   Press([button](Session& session) { Click(session, *button); });
   return true;
+}
+
+// The wheel over a picture turns the page's zoom, notch by notch.
+void PageView::wheelEvent(QWheelEvent* event) {
+  constexpr int notch = QWheelEvent::DefaultDeltasPerStep;
+  event->ignore();
+  if (qobject_cast<PictureView*>(childAt(event->position().toPoint())) == nullptr) return;
+  for (turned_ += event->angleDelta().y(); std::abs(turned_) >= notch; turned_ -= turned_ > 0 ? notch : -notch) {
+    if (PressNamed(turned_ > 0 ? "cmdZoomIn" : "cmdZoomOut")) event->accept();
+  }
 }
 
 bool PageView::PressNamed(const char* name) {

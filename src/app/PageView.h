@@ -64,6 +64,7 @@ class PageView : public QWidget, public ActSink {
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
+  void wheelEvent(QWheelEvent* event) override;
 
  private:
   ControlView& AddView(Control& control, QWidget* parent);
@@ -88,6 +89,7 @@ class PageView : public QWidget, public ActSink {
   std::map<const ControlView*, QChar> letters_;
   QSet<QChar> takenLetters_;
   SideStack* side_ = nullptr;
+  int turned_ = 0;  // of the wheel over a picture since its last whole notch
 };
 
 }  // namespace quilm

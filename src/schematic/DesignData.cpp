@@ -8,6 +8,7 @@
 #include "core/NumberText.h"
 #include "core/Topology.h"
 #include "core/modGeneral.h"
+#include "shell/PenScope.h"
 
 namespace quilm {
 
@@ -44,23 +45,23 @@ f32 CauerStopband(const DesignRecord& record) {
 }
 
 // Cauer data of the lowpass that the design is made of.
-void AddStopband(std::vector<std::string>& rows, const DesignRecord& record) {
+void AddStopband(std::vector<DataRow>& rows, const DesignRecord& record) {
   if (record.Family != familyCauer) return;
   const f32 edge = CauerStopband(record);
-  if (edge > 0) rows.push_back("Cauer LP stopband freq:  " + Text(edge, FormatFrequency));
-  if (record.Astop > 0) rows.push_back("Cauer LP stopband depth:  " + Text(record.Astop, FormatValue));
+  if (edge > 0) rows.push_back({"Cauer LP stopband freq:  " + Text(edge, FormatFrequency), "Hz"});
+  if (record.Astop > 0) rows.push_back({"Cauer LP stopband depth:  " + Text(record.Astop, FormatValue), "dB"});
 }
 
 DataGroup EntryGroup(const DesignRecord& record) {
-  std::vector<std::string> rows;
-  if (record.Width > 0) rows.push_back("Bandwidth:  " + Text(record.Width, FormatFrequency));
-  if (record.Fcenter > 0) rows.push_back("Center:  " + Text(record.Fcenter, FormatFrequency));
+  std::vector<DataRow> rows;
+  if (record.Width > 0) rows.push_back({"Bandwidth:  " + Text(record.Width, FormatFrequency), "Hz"});
+  if (record.Fcenter > 0) rows.push_back({"Center:  " + Text(record.Fcenter, FormatFrequency), "Hz"});
   const std::string family = FamilyName(record.Family);
-  if (!family.empty()) rows.push_back("Family:  " + family);
+  if (!family.empty()) rows.push_back({"Family:  " + family});
   if (record.Family != familyManual) {
     constexpr int decimals = 7;
     if (record.Apass > 0) {
-      rows.push_back("Passband ripple:  " + ShortText(RoundedTo(record.Apass, decimals), LeadingZero::Drop));
+      rows.push_back({"Passband ripple:  " + ShortText(RoundedTo(record.Apass, decimals), LeadingZero::Drop), "dB"});
     }
     AddStopband(rows, record);
   }
@@ -71,10 +72,10 @@ DataGroup Extremes(const Network& network) {
   const auto capacitors = CapacitorRange(network);
   const auto inductors = InductorRange(network);
   return {"",
-          {"Largest capacitor: " + (capacitors ? Text(capacitors->largest, FormatCapacitance) : none),
-           "Smallest capacitor: " + (capacitors ? Text(capacitors->smallest, FormatCapacitance) : none),
-           "Largest inductor: " + (inductors ? Text(inductors->largest, FormatInductance) : none),
-           "Smallest inductor: " + (inductors ? Text(inductors->smallest, FormatInductance) : none)}};
+          {{"Largest capacitor: " + (capacitors ? Text(capacitors->largest, FormatCapacitance) : none)},
+           {"Smallest capacitor: " + (capacitors ? Text(capacitors->smallest, FormatCapacitance) : none)},
+           {"Largest inductor: " + (inductors ? Text(inductors->largest, FormatInductance) : none)},
+           {"Smallest inductor: " + (inductors ? Text(inductors->smallest, FormatInductance) : none)}}};
 }
 
 }  // namespace
@@ -91,17 +92,17 @@ std::vector<DataGroup> DesignData(const DesignRecord& record) {
   if (!(record.Width > 0 || record.Fcenter > 0 || record.Apass > 0 || record.Family != familyNone)) return {};
   return {EntryGroup(record),
           {"Q values:",
-           {"Inductors: " + Text(record.Qind[1], FormatValue), "Capacitors: " + Text(record.Qcap[1], FormatValue)}},
-          {"Maximum / minimum ratios:", {CapacitorRatioText(record), InductorRatioText(record)}},
+           {{"Inductors: " + Text(record.Qind[1], FormatValue)}, {"Capacitors: " + Text(record.Qcap[1], FormatValue)}}},
+          {"Maximum / minimum ratios:", {{CapacitorRatioText(record)}, {InductorRatioText(record)}}},
           Extremes(record)};
 }
 
 void DrawDesignData(const DesignRecord& record, f32 left, f32 top, Canvas& canvas) {
-  constexpr f32 columnPitches[] = {3600, 2100, 2900, 2900};
-  constexpr f32 rowPitch = 270;
-  constexpr f32 size = 9;  // points
+  constexpr f32 columnPitches[] = {2800, 1700, 2500, 2500};
+  constexpr f32 rowPitch = 240;
+  constexpr f32 unitGap = 15;
+  const PenScope pen(canvas);
   canvas.ForeColor = colorBlack;
-  canvas.FontSize = size;
   f32 x = left;
   std::size_t column = 0;
   for (const DataGroup& group : DesignData(record)) {
@@ -109,7 +110,10 @@ void DrawDesignData(const DesignRecord& record, f32 left, f32 top, Canvas& canva
     if (!group.heading.empty()) canvas.PrintAt(x, top, group.heading);
     canvas.FontBold = false;
     f32 y = top;
-    for (const std::string& row : group.rows) canvas.PrintAt(x, y += rowPitch, row);
+    for (const DataRow& row : group.rows) {
+      canvas.PrintAt(x, y += rowPitch, row.text);
+      if (!row.unit.empty()) canvas.PrintAt(x + canvas.TextWidth(row.text) + unitGap, y, row.unit);
+    }
     x += columnPitches[column++];
   }
 }

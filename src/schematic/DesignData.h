@@ -25,16 +25,21 @@ std::optional<PartRange> InductorRange(const Network& network);
 std::string CapacitorRatioText(const Network& network);
 std::string InductorRatioText(const Network& network);
 
+struct DataRow {
+  std::string text;
+  std::string unit = {};  // where the text has none
+};
+
 // A group of lines, the first of which may be a heading.
 struct DataGroup {
   std::string heading;
-  std::vector<std::string> rows;
+  std::vector<DataRow> rows;
 };
 
 // Entries, Q values, ratios and extremes; none for a record without entries.
 std::vector<DataGroup> DesignData(const DesignRecord& record);
 
-// Prints the groups side by side from (left, top) in user scale.
+// Prints the groups side by side from (left, top) in user scale, in the canvas' size of text.
 void DrawDesignData(const DesignRecord& record, f32 left, f32 top, Canvas& canvas);
 
 }  // namespace quilm

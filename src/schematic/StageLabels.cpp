@@ -14,26 +14,34 @@ namespace {
 
 constexpr f64 highestLoss = 1e7;  // ohms
 
-// What stands around the value of a slot.
+// What stands around the value of a slot, the unit that this lacks, and the letters of its part.
 struct Around {
-  const char* before;
-  const char* after;
+  const char* before = "";
+  const char* after = "";
+  const char* unit = "";
+  const char* designator = "";
 };
 
 Around AroundOf(SlotCode slot) {
   switch (slot) {
+    case SlotCode::Inductance:
+      return {.designator = "L"};
+    case SlotCode::Capacitance:
+      return {.designator = "C"};
+    case SlotCode::Resistance:
+      return {.unit = ohmSign, .designator = "R"};
     case SlotCode::LineLength:
-      return {"", "deg"};
+      return {.after = "deg", .designator = "TL"};
     case SlotCode::LineFrequency:
-      return {"@", ""};
+      return {.before = "@", .unit = "Hz"};
     case SlotCode::LineImpedance:
-      return {"Z=", ""};
+      return {.before = "Z=", .unit = ohmSign};
     case SlotCode::TurnsRatio:
-      return {"N=", ": 1"};
+      return {.before = "N=", .after = ": 1", .designator = "T"};
     case SlotCode::Coupling:
-      return {"K=", ""};
+      return {.before = "K=", .designator = "T"};
     default:
-      return {"", ""};
+      return {};
   }
 }
 
@@ -60,7 +68,8 @@ std::vector<StageLabel> ValueLabels(const Stage& stage, f32 share) {
   for (const Slot& slot : SlotsOf(stage.ElementType)) {
     const f32 value = (IsShared(slot.code) ? share : 1) * slot.value(stage);
     const Around around = AroundOf(slot.code);
-    labels.push_back({around.before + ValueText(slot, value) + around.after, value < 0});
+    labels.push_back(
+        {around.before + ValueText(slot, value) + around.after, value < 0, around.unit, around.designator});
   }
   return labels;
 }

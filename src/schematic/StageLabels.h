@@ -9,9 +9,13 @@
 
 namespace quilm {
 
+inline constexpr const char* ohmSign = "\u03A9";
+
 struct StageLabel {
   std::string text;
-  bool negative = false;  // the value is below 0, which no passive part has
+  bool negative = false;        // the value is below 0, which no passive part has
+  std::string unit = {};        // where the text has none
+  std::string designator = {};  // the letters of the part that the label names first: "L", "C", "R", "TL" or "T"
 };
 
 // The values of the parts that the element type gives meaning to, in display format. `share` is the part of a value
@@ -24,7 +28,7 @@ std::vector<std::string> ToleranceLabels(const Stage& stage);
 // The loss of a part as a resistance.
 struct LossLabel {
   std::string heading;  // "L-rseries:" or "C-rshunt:"
-  std::string value;    // ohms
+  std::string value;    // in `ohmSign`
 };
 
 // Of an inductor 2 Pi Fq L / Qind in series, of a capacitor Qcap / (2 Pi Fq C) across it. Above 10 megohms a

@@ -236,6 +236,28 @@ f32 StageWidth(i16 elementType) { return WidthsOf(elementType).schematic; }
 
 f32 SymbolWidth(i16 elementType) { return WidthsOf(elementType).symbol; }
 
+f32 SymbolDrop(i16 elementType, RailForm form) {
+  constexpr f32 belowOne = 150;
+  constexpr f32 belowTwo = 370;
+  constexpr f32 belowStub = 620;
+  constexpr f32 betweenStubs = 430;
+  const Element* element = FindElement(elementType);
+  if (element == nullptr) return 0;
+  if (element->joint == Joint::Line) return belowOne;
+  if (element->placement != Placement::Series) return 0;
+  switch (element->joint) {
+    case Joint::Chain:
+      return belowOne;
+    case Joint::Parallel:
+      return element->Has(SlotCode::Resistance) ? 0 : belowTwo;
+    case Joint::ShortStub:
+    case Joint::OpenStub:
+      return form == RailForm::Balanced ? betweenStubs : belowStub;
+    default:
+      return 0;
+  }
+}
+
 void DrawStage(Canvas& canvas, i16 elementType, const StageBox& box, Color color, RailForm form) {
   const StageDrawing stage(canvas, box, color, form);
   const Element* element = FindElement(elementType);

@@ -38,6 +38,10 @@ void DrawStage(Canvas& canvas, i16 elementType, const StageBox& box, Color color
 // The same as wide as in the schematic: from x to x + StageWidth.
 void DrawStage(Canvas& canvas, i16 elementType, f32 x, f32 y, f32 gap, Color color);
 
+// How far below the upper rail a stage of the schematic has room for a line of text between its rails, clear of a
+// symbol that stands in the line; 0 where there is none.
+f32 SymbolDrop(i16 elementType, RailForm form);
+
 // Plain rails from x to x + width.
 void DrawRails(Canvas& canvas, const StageBox& box, Color color);
 

@@ -17,8 +17,8 @@ namespace quilm {
 
 namespace {
 
-constexpr Scale pageScale{0, 600, 12000, 8400};
-constexpr f32 pageRight = pageScale.left + pageScale.width;
+constexpr f32 pageTop = 600;
+constexpr f32 pageHeight = 7200;  // holds band and data
 constexpr f32 SchemY = 1500;
 constexpr f32 bandTop = 700;
 constexpr f32 bandBottom = 5400;
@@ -32,7 +32,11 @@ constexpr Color boundaryColor = 0xBBFF66;
 
 constexpr f32 labelSize = 8;  // points
 constexpr f32 labelPitch = 170;
-constexpr f32 labelsRight = 40;       // clear of the stage's boundary
+constexpr f32 labelsRight = 40;  // clear of the stage's boundary, at its other side too
+constexpr f32 unitGap = 20;
+// Labels keep their size among the symbols: what was laid out between two boundaries stays there.
+constexpr TextFit asLaidOut{.anchor = 0, .room = 1e-3F};
+constexpr Color designatorColor = 0x8A4A1A;
 constexpr f32 labelsAbove = -330;     // of the upper rail
 constexpr f32 labelsBelow = 1160;     // of the upper rail: just below the lower one
 constexpr std::size_t mostAbove = 2;  // more would run into the stage number
@@ -47,10 +51,28 @@ constexpr f32 dataTop = 5800;
 
 int StagesToDraw(const Network& network) { return std::min(network.Stages, network.StagesMax); }
 
-void PrintLabel(Canvas& canvas, f32 x, f32 y, const StageLabel& label) {
+// Text and unit within `room` units, smaller where they would be wider.
+void PrintLabel(Canvas& canvas, f32 x, f32 y, f32 room, const StageLabel& label) {
   const PenScope pen(canvas);
+  const f32 width = canvas.TextWidth(label.text) + (label.unit.empty() ? 0 : unitGap + canvas.TextWidth(label.unit));
+  const f32 height = canvas.TextHeight(label.text);
+  if (width > room) canvas.FontSize *= room / width;
+  const f32 onLine = y + (height - canvas.TextHeight(label.text)) * 0.8F;  // about the same base line
   canvas.ForeColor = label.negative ? colorRed : colorBlack;
-  canvas.PrintAt(x, y, label.text);
+  canvas.PrintAt(x, onLine, label.text);
+  if (label.unit.empty()) return;
+  canvas.ForeColor = colorBlack;
+  canvas.PrintAt(x + canvas.TextWidth(label.text) + unitGap, onLine, label.unit);
+}
+
+f32 RoomOf(f32 stageWidth) { return stageWidth - 2 * labelsRight; }
+
+// The page in its scale: as wide as the network at a zoom of 1, and as high as band and data as long as that leaves a
+// picture of useful proportions.
+Scale PageScale(const Network& network, const SchematicView& view) {
+  constexpr f32 leastPart = 0.6F;  // of the width
+  const f32 width = SchematicWidth(network) / view.zoom;
+  return {0, pageTop, width, std::max(pageHeight / view.zoom, std::min(pageHeight, width * leastPart))};
 }
 
 // One drawing of a whole schematic.
@@ -69,7 +91,7 @@ class Drawing {
     for (int s = 1; s <= StagesToDraw(record_); ++s) DrawNext(s, SchemX);
     Boundary(SchemX);
     DrawLoad(SchemX);
-    if (SchemX + loadWidth > pageRight) PrintMore();
+    if (SchemX + loadWidth > canvas_.ScaleLeft + canvas_.ScaleWidth) PrintMore();
   }
 
  private:
@@ -79,7 +101,7 @@ class Drawing {
   f32 Share() const { return view_.mode == SchematicMode::BalancedA ? 0.5F : 1; }
 
   void DrawBand(f32 SchemLeft, f32 SchemRight) {
-    canvas_.Rectangle(1, bandTop, bandEnd, bandBottom, paperColor, true);
+    canvas_.Rectangle(1, bandTop, std::max(bandEnd, canvas_.ScaleWidth), bandBottom, paperColor, true);
     canvas_.Rectangle(SchemLeft, bandTop, SchemRight, bandBottom, stageColor, true);
     for (const f32 y : {bandTop, bandBottom}) canvas_.Line(SchemLeft, y, SchemRight, y, boundaryColor);
   }
@@ -96,14 +118,42 @@ class Drawing {
     canvas_.PrintAt(x + numberRight, SchemY + numberAbove, std::to_string(s));
     DrawStage(canvas_, stage.ElementType, StageBox{x, SchemY, width, railGap}, colorBlack, Form());
     if (stage.ElementType == CoupledInductors) PrintCoupling(x + width / 2);
-    PrintValues(stage, x);
+    PrintValues(s, x);
     if (view_.ShowQ) PrintLosses(stage, x);
     f32 y = SchemY + tolerancesBelow;
     for (const std::string& text : ToleranceLabels(stage)) {
-      canvas_.PrintAt(x + tolerancesRight, y, text);
+      PrintLabel(canvas_, x + tolerancesRight, y, width - tolerancesRight - labelsRight, {.text = text});
       y += labelPitch;
     }
     x += width;
+  }
+
+  // Reference designators, by the number of the stage: of series parts between the rails, below their symbol, of others
+  // below the lower rail. `below` is the first free line there.
+  void PrintDesignators(int s, f32 x, const std::vector<StageLabel>& labels, f32 below) {
+    constexpr f32 gap = 60;
+    std::vector<std::string> texts;
+    for (const StageLabel& label : labels) {
+      if (!label.designator.empty()) texts.push_back(label.designator + std::to_string(s));
+    }
+    if (texts.empty()) return;
+    const i16 type = record_.stage[s].ElementType;
+    const f32 width = StageWidth(type);
+    const PenScope pen(canvas_);
+    canvas_.ForeColor = designatorColor;
+    const auto whole = [&] {
+      f32 sum = gap * static_cast<f32>(texts.size() - 1);
+      for (const std::string& text : texts) sum += canvas_.TextWidth(text);
+      return sum;
+    };
+    if (whole() > RoomOf(width)) canvas_.FontSize *= RoomOf(width) / whole();
+    f32 at = x + (width - whole()) / 2;
+    const f32 drop = SymbolDrop(type, Form());
+    const f32 y = drop > 0 ? SchemY + drop : below;
+    for (const std::string& text : texts) {
+      canvas_.PrintAt(at, y, text);
+      at += canvas_.TextWidth(text) + gap;
+    }
   }
 
   // The letter between the windings.
@@ -114,31 +164,37 @@ class Drawing {
 
   // Above the upper rail one over the other; the third of a stage stands below the lower rail, as does the second
   // rail's share of a balanced series part.
-  void PrintValues(const Stage& stage, f32 x) {
+  void PrintValues(int s, f32 x) {
+    const Stage& stage = record_.stage[s];
+    const f32 room = RoomOf(StageWidth(stage.ElementType));
     const bool bothRails = Balanced() && IsSeriesElement(stage.ElementType);
     const std::vector<StageLabel> labels = ValueLabels(stage, bothRails ? Share() : 1);
     const std::size_t above = std::min(labels.size(), mostAbove);
     for (std::size_t i = 0; i < above; ++i) {
-      PrintLabel(canvas_, x + labelsRight, SchemY + labelsAbove - labelPitch * static_cast<f32>(above - 1 - i),
+      PrintLabel(canvas_, x + labelsRight, SchemY + labelsAbove - labelPitch * static_cast<f32>(above - 1 - i), room,
                  labels[i]);
     }
     f32 y = SchemY + labelsBelow;
     for (std::size_t i = bothRails ? 0 : above; i < labels.size(); ++i) {
-      PrintLabel(canvas_, x + labelsRight, y, labels[i]);
+      PrintLabel(canvas_, x + labelsRight, y, room, labels[i]);
       y += labelPitch;
     }
+    PrintDesignators(s, x, labels, y);
   }
 
   void PrintLosses(const Stage& stage, f32 x) {
+    constexpr f32 left = 60;
     constexpr f32 symbolWidth = 420;
     constexpr f32 symbolSize = 0.6F;
     constexpr f32 textBelow = 60;
     f32 y = SchemY + lossesBelow;
     for (const LossLabel& label : LossLabels(record_, stage, Fq_)) {
       const Part resistor = Part::Resistor;
-      DrawChain(Run(canvas_, {x, y}, Run::Way::Right, colorBlack), {&resistor, 1}, 60, 60 + symbolWidth, symbolSize);
-      canvas_.PrintAt(x + 60, y + textBelow, label.heading);
-      canvas_.PrintAt(x + 60, y + textBelow + labelPitch, label.value);
+      DrawChain(Run(canvas_, {x, y}, Run::Way::Right, colorBlack), {&resistor, 1}, left, left + symbolWidth,
+                symbolSize);
+      const f32 room = StageWidth(stage.ElementType) - left - labelsRight;
+      PrintLabel(canvas_, x + left, y + textBelow, room, {.text = label.heading});
+      PrintLabel(canvas_, x + left, y + textBelow + labelPitch, room, {.text = label.value, .unit = ohmSign});
       y += lossPitch;
     }
   }
@@ -158,9 +214,10 @@ class Drawing {
     } else {
       canvas_.Line(at, SchemY + railGap, x + sourceWidth, SchemY + railGap, colorBlack);
     }
-    const StageLabel label{Trimmed(FormatResistance(Share() * record_.Rsource[1])), record_.Rsource[1] < 0};
-    PrintLabel(canvas_, at + radius, SchemY + labelsAbove, label);
-    if (Balanced()) PrintLabel(canvas_, at + radius, SchemY + labelsBelow, label);
+    const StageLabel label{Trimmed(FormatResistance(Share() * record_.Rsource[1])), record_.Rsource[1] < 0, ohmSign};
+    const f32 room = x + sourceWidth - labelsRight - (at + radius);
+    PrintLabel(canvas_, at + radius, SchemY + labelsAbove, room, label);
+    if (Balanced()) PrintLabel(canvas_, at + radius, SchemY + labelsBelow, room, label);
   }
 
   void SeriesResistance(f32 from, f32 to, f32 y) {
@@ -170,11 +227,12 @@ class Drawing {
 
   void DrawLoad(f32 x) {
     constexpr f32 resistance = 500;  // from the last stage
+    constexpr f32 right = 160;       // of its middle
     DrawRails(canvas_, StageBox{x, SchemY, resistance, railGap}, colorBlack);
     const Part resistor = Part::Resistor;
     DrawChain(Run(canvas_, {x + resistance, SchemY}, Run::Way::Down, colorBlack), {&resistor, 1}, 0, railGap);
-    PrintLabel(canvas_, x + resistance + 160, SchemY + railGap / 2 - labelPitch / 2,
-               {Trimmed(FormatResistance(record_.Rload[1])), record_.Rload[1] < 0});
+    PrintLabel(canvas_, x + resistance + right, SchemY + railGap / 2 - labelPitch / 2, loadWidth - resistance - right,
+               {Trimmed(FormatResistance(record_.Rload[1])), record_.Rload[1] < 0, ohmSign});
   }
 
   // There is more at the right than the page shows.
@@ -183,7 +241,7 @@ class Drawing {
     constexpr f32 rise = 280;
     const PenScope pen(canvas_);
     canvas_.FontBold = true;
-    canvas_.PrintAt(pageRight - edge, bandBottom - rise, " >");
+    canvas_.PrintAt(canvas_.ScaleLeft + canvas_.ScaleWidth - edge, bandBottom - rise, " >");
   }
 
   const DesignRecord& record_;
@@ -228,8 +286,16 @@ std::vector<ArtworkStage> ArtworkStages(const Network& network) {
 
 }  // namespace
 
+f32 SchematicWidth(const Network& network) {
+  f32 width = sourceWidth + loadWidth;
+  for (int s = 1; s <= StagesToDraw(network); ++s) width += StageWidth(network.stage[s].ElementType);
+  return std::max(width, schematicPage);
+}
+
 void DrawSchematic(const DesignRecord& record, const SchematicView& view, Canvas& canvas) {
-  Begin(pageScale, canvas);
+  Begin(PageScale(record, view), canvas);
+  const PenScope pen(canvas);
+  canvas.Fit = asLaidOut;
   if (record.Stages < 1) return;
   Drawing(record, view, canvas).Draw();
   DrawDesignData(record, dataLeft, dataTop, canvas);

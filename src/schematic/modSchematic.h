@@ -1,7 +1,7 @@
 // Draws the stage list as a circuit diagram, in one pass from left to right: nothing about a stage needs another one.
 //
-// User scale: the page is 12000 wide, the upper rail lies at y = 1500, and the band that holds the stages reaches from
-// 700 to 5400.
+// User scale: the page is 9600 wide, or as wide as a longer network needs; the upper rail lies at y = 1500, and the
+// band that holds the stages reaches from 700 to 5400.
 #pragma once
 
 #include "core/RecordFwd.h"
@@ -10,9 +10,14 @@
 
 namespace quilm {
 
+inline constexpr f32 schematicPage = 9600;
+
+// What the page shows at a zoom of 1: source, stages and load, at least `schematicPage`.
+f32 SchematicWidth(const Network& network);
+
 // Draws band, source, stages, load and the design data below them into an emptied canvas. Stages above StagesMax are
 // left out, and with none the canvas stays empty. In both balanced modes series parts stand on both rails; in BalancedA
-// each shows half of its value. A negative value is red.
+// each shows half of its value. A negative value is red. No label reaches over its stage's boundaries.
 void DrawSchematic(const DesignRecord& record, const SchematicView& view, Canvas& canvas);
 
 // Draws the bare ladder: stage numbers and symbols, in as many rows as it needs, and the ratios of its parts below.

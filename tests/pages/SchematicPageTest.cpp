@@ -71,6 +71,33 @@ TEST_F(SchematicPage, TheFourButtonsScroll) {
   EXPECT_EQ(BandLeft(), 1620);
 }
 
+// The page of three stages is 9600 wide, and at least 4000 of it stay in sight.
+TEST_F(SchematicPage, TheZoomGoesInAboutTheMiddleAndBack) {
+  const auto middle = [this] { return Drawing().ScaleWidth / 2 - (BandLeft() - 1620); };
+  EXPECT_EQ(Drawing().ScaleWidth, 9600);
+  EXPECT_FALSE(Get<Button>("cmdZoomOut").Active());
+  Press("cmdZoomIn");
+  EXPECT_EQ(Drawing().ScaleWidth, 6400);
+  EXPECT_EQ(middle(), 4800);
+  Press("cmdZoomIn");
+  Press("cmdZoomIn");
+  EXPECT_FLOAT_EQ(Drawing().ScaleWidth, 4000);
+  EXPECT_NEAR(middle(), 4800, 1);
+  EXPECT_FALSE(Get<Button>("cmdZoomIn").Active());
+  Press("cmdRightRight");
+  EXPECT_NEAR(middle(), 6800, 1);
+  Press("cmdZoomOut");
+  EXPECT_FLOAT_EQ(Drawing().ScaleWidth, 6000);
+  EXPECT_NEAR(middle(), 6600, 1);  // no further than the end
+  for (int i = 0; i < 2; ++i) Press("cmdZoomOut");
+  EXPECT_EQ(Drawing().ScaleWidth, 9600);
+  EXPECT_EQ(BandLeft(), 1620);
+  Press("cmdZoomIn");
+  Press("cmdZoomFit");
+  EXPECT_EQ(Drawing().ScaleWidth, 9600);
+  EXPECT_EQ(BandLeft(), 1620);
+}
+
 TEST_F(SchematicPage, TheSameOptionTwiceIsTheSamePicture) {
   for (const char* option : {"Option1", "Option2", "optYes", "optNo", "Option0"}) {
     Press(option);

@@ -51,6 +51,19 @@ TEST(StageLabels, EachTypeShowsThePartsThatItHas) {
   for (const auto& [type, texts] : expected) EXPECT_EQ(ValuesOf(type), texts) << type;
 }
 
+// The text, the unit that it lacks and the letters of the part.
+TEST(StageLabels, UnitsAndDesignatorsStandBesideTheTexts) {
+  const auto of = [](i16 type) {
+    Texts texts;
+    for (const StageLabel& label : ValueLabels(FullStage(type))) texts.push_back(label.unit + '/' + label.designator);
+    return texts;
+  };
+  EXPECT_EQ(of(SeriesRLC), (Texts{"/L", "/C", "\u03A9/R"}));
+  EXPECT_EQ(of(TransLine), (Texts{"/TL", "Hz/", "\u03A9/"}));
+  EXPECT_EQ(of(Transformer), Texts{"/T"});
+  EXPECT_EQ(of(CoupledInductors), (Texts{"/", "/", "/T"}));
+}
+
 TEST(StageLabels, AShareIsTakenOfEveryValue) {
   EXPECT_EQ(ValuesOf(SeriesL, 0.5F), Texts{"5uH"});
   EXPECT_EQ(ValuesOf(SeriesRLC, 0.5F), (Texts{"5uH", "100pF", "750"}));

@@ -7,6 +7,7 @@
 #include <numeric>
 
 #include "schematic/DesignData.h"
+#include "schematic/StageLabels.h"
 #include "schematic/Symbols.h"
 #include "shell/Picture.h"
 
@@ -228,23 +229,150 @@ TEST_F(Schematic, ARecordWithoutEntriesHasNoData) {
   EXPECT_TRUE(DesignData(DesignRecord{}).empty());
 }
 
-TEST_F(Schematic, ALongNetworkSaysThatThereIsMore) {
+// The source takes 1620, a stage 960 and the load 1300; the data below need 9600.
+TEST_F(Schematic, TheWholeNetworkIsOnThePageHoweverLongItIs) {
+  EXPECT_EQ(Drawn().ScaleWidth, 9600);
+  while (record.Stages < 43) Add(SeriesL);
+  EXPECT_EQ(Drawn().ScaleLeft, 0);
+  EXPECT_EQ(Drawn().ScaleWidth, 1620 + 43 * 960 + 1300);
   EXPECT_FALSE(Shows(" >"));
+}
+
+TEST_F(Schematic, ZoomedInItShowsLessAndSaysThatThereIsMore) {
   while (record.Stages < 12) Add(SeriesL);
+  const Picture whole = Drawn();
+  view.zoom = 2;
+  const Picture half = Drawn();
+  EXPECT_EQ(half.ScaleWidth, whole.ScaleWidth / 2);
+  EXPECT_EQ(half.ScaleTop, whole.ScaleTop);
+  EXPECT_TRUE(Shows(" >"));
+  view.SchemOffset = static_cast<i32>(half.ScaleWidth - whole.ScaleWidth);
+  EXPECT_FALSE(Shows(" >"));
+}
+
+TEST_F(Schematic, TheLoadBelongsToWhatThePageMustHold) {
+  while (record.Stages < 6) Add(SeriesL);
+  EXPECT_FALSE(Shows(" >"));
+  view.SchemOffset = 920;  // 1620 + 6 * 960 + 1300 + 920 = 9600
+  EXPECT_FALSE(Shows(" >"));
+  view.SchemOffset = 921;
+  EXPECT_TRUE(Shows(" >"));
+  view.SchemOffset = 0;
+  Add(SeriesL);  // 9640, and the page with it
+  EXPECT_FALSE(Shows(" >"));
+  view.SchemOffset = 1;
   EXPECT_TRUE(Shows(" >"));
 }
 
-// The page ends at 12000. The source takes 1620, a stage 960 and the load 1300.
-TEST_F(Schematic, TheLoadBelongsToWhatThePageMustHold) {
-  while (record.Stages < 9) Add(SeriesL);
-  EXPECT_FALSE(Shows(" >"));
-  view.SchemOffset = 440;  // 1620 + 9 * 960 + 1300 + 440 = 12000
-  EXPECT_FALSE(Shows(" >"));
-  view.SchemOffset = 441;
-  EXPECT_TRUE(Shows(" >"));
-  view.SchemOffset = 0;
-  Add(SeriesL);  // the stages alone would end at 11220
-  EXPECT_TRUE(Shows(" >"));
+TEST_F(Schematic, PartsAreNamedByTheNumberOfTheirStage) {
+  Add(ShuntSLC);
+  Add(SeriesRLC);
+  Add(TransLine);
+  Add(Transformer);
+  for (const char* name : {"C1", "L2", "C3", "L4", "C4", "L5", "C5", "R5", "TL6", "T7"}) {
+    EXPECT_EQ(Texts(name).size(), 1U) << name;
+  }
+}
+
+// What the told texts lack stands behind them as a text of its own.
+TEST_F(Schematic, UnitsAreTextsOfTheirOwn) {
+  Add(SeriesR);
+  ASSERT_EQ(Texts("1.5k").size(), 1U);
+  const TextOp value = Texts("1.5k")[0];
+  const auto units = Texts(ohmSign);
+  ASSERT_EQ(units.size(), 3U);  // of source, resistor and load
+  EXPECT_TRUE(std::any_of(units.begin(), units.end(), [&value](const TextOp& unit) {
+    return unit.at.y == value.at.y && unit.at.x > value.at.x && unit.at.x < value.at.x + 500;
+  }));
+  EXPECT_EQ(Texts("Hz").size(), 1U);  // of the bandwidth
+  EXPECT_EQ(Texts("dB").size(), 1U);  // of the ripple
+}
+
+TEST_F(Schematic, TheDesignDataAreAsLargeAsTheLabels) {
+  EXPECT_EQ(Texts("Bandwidth:  1M")[0].font.size, Texts("10uH")[0].font.size);
+}
+
+struct Patch {
+  f64 left;
+  f64 top;
+  f64 right;
+  f64 bottom;
+  std::string text;
+};
+
+// What the letters of a text cover: from a tenth of an em below the top of its line down to an em.
+std::vector<Patch> PatchesOf(const Picture& picture) {
+  std::vector<Patch> patches;
+  for (const PictureOp& operation : picture.Operations()) {
+    const auto* op = std::get_if<TextOp>(&operation);
+    if (op == nullptr) continue;
+    const f64 em = static_cast<f64>(op->font.size) * twipsPerPoint;
+    const f64 width = StandardMetrics().WidthInPoints(op->text, op->font) * twipsPerPoint;
+    patches.push_back({op->at.x, op->at.y + 0.1 * em, op->at.x + width, op->at.y + em, op->text});
+  }
+  return patches;
+}
+
+class Labels : public Schematic, public testing::WithParamInterface<SchematicMode> {
+ protected:
+  // Every element type, with values that take much room.
+  Labels() {
+    record.Stages = 0;
+    for (i16 type = SeriesL; type <= SeriesRLC; ++type) {
+      if (StageWidth(type) == 0) continue;
+      Add(type);
+      Stage& stage = record.stage[record.Stages];
+      stage.Lval = {1.23456e-4F, 12.5F};
+      stage.Cval = {1.23456e-10F, 12.5F};
+      stage.Rval = {123456, 12.5F};
+      stage.TLval = {123.456F, 1.23456e8F, 123.456F, 12.5F, 12.5F};
+      stage.XfmrVal = {1.23456F, 12.5F};
+      stage.CoupledVal = {1.23456e-4F, 1.23456e-4F, 0.123456F, 12.5F, 12.5F, 12.5F};
+    }
+    view.mode = GetParam();
+    view.ShowQ = true;
+  }
+};
+
+INSTANTIATE_TEST_SUITE_P(Schematic, Labels,
+                         testing::Values(SchematicMode::Unbalanced, SchematicMode::BalancedB,
+                                         SchematicMode::BalancedA));
+
+TEST_P(Labels, NeverTouchTheDividers) {
+  const Picture picture = Drawn();
+  f32 x = 1620;
+  std::vector<f32> dividers = {x};
+  for (int s = 1; s <= record.Stages; ++s) dividers.push_back(x += StageWidth(record.stage[s].ElementType));
+  int checked = 0;
+  for (const Patch& patch : PatchesOf(picture)) {
+    if (patch.top > 5400) continue;
+    for (const f32 divider : dividers) {
+      EXPECT_FALSE(patch.left < divider && patch.right > divider) << patch.text << " over " << divider;
+    }
+    ++checked;
+  }
+  EXPECT_GT(checked, 60);
+}
+
+TEST_P(Labels, NeverLieOverOneAnother) {
+  const auto patches = PatchesOf(Drawn());
+  for (std::size_t i = 0; i < patches.size(); ++i) {
+    for (std::size_t k = i + 1; k < patches.size(); ++k) {
+      const Patch& a = patches[i];
+      const Patch& b = patches[k];
+      const bool overlap = a.left < b.right && b.left < a.right && a.top < b.bottom && b.top < a.bottom;
+      EXPECT_FALSE(overlap) << a.text << " and " << b.text << " at " << a.left << ' ' << a.top;
+    }
+  }
+}
+
+// Whatever the size of the picture: labels grow with the symbols alone.
+TEST_P(Labels, AreNotEnlarged) {
+  const Picture picture = Drawn();
+  for (const PictureOp& operation : picture.Operations()) {
+    const auto* op = std::get_if<TextOp>(&operation);
+    EXPECT_TRUE(op == nullptr || op->fit.room > 0) << DumpOperation(operation);
+  }
 }
 
 TEST_F(Schematic, TheExtremesOfTheInductorsAreTold) {

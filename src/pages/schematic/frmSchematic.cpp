@@ -1,5 +1,8 @@
 #include "pages/schematic/frmSchematic.h"
 
+#include <algorithm>
+#include <cmath>
+
 #include "core/Fault.h"
 #include "core/Network.h"
 #include "desk/Leaving.h"
@@ -13,6 +16,8 @@ namespace {
 
 constexpr i32 shortScroll = 200;
 constexpr i32 longScroll = 2000;
+constexpr f32 zoomStep = 1.5F;
+constexpr f32 leastShown = 4000;  // units of the width
 
 }  // namespace
 
@@ -28,6 +33,9 @@ frmSchematic::frmSchematic(Session& session)
   cmdLeft_.onClick = [this] { Scroll(shortScroll); };
   cmdRight_.onClick = [this] { Scroll(-shortScroll); };
   cmdRightRight_.onClick = [this] { Scroll(-longScroll); };
+  cmdZoomIn_.onClick = [this] { Zoom(view_.zoom * zoomStep); };
+  cmdZoomOut_.onClick = [this] { Zoom(view_.zoom / zoomStep); };
+  cmdZoomFit_.onClick = [this] { Zoom(1); };
   cmdSimple_.onClick = [&session] { session.pages.ShowModal(PageId::SchematicSimple); };
   Option0_.onClick = [this] { Choose(SchematicMode::Unbalanced); };
   Option1_.onClick = [this] { Choose(SchematicMode::BalancedB); };
@@ -73,10 +81,27 @@ void frmSchematic::Scroll(i32 distance) {
   Draw();
 }
 
+// About the middle of what is on display, and no further over the ends of the network than it takes.
+void frmSchematic::Zoom(f32 zoom) {
+  const f32 whole = SchematicWidth(session_.network);
+  const f32 held = std::clamp(zoom, 1.0F, whole / leastShown);
+  const f32 middle = whole / view_.zoom / 2 - static_cast<f32>(view_.SchemOffset);
+  const f32 shown = whole / held;
+  view_.zoom = held;
+  view_.SchemOffset = static_cast<i32>(std::lround(std::clamp(shown / 2 - middle, shown - whole, 0.0F)));
+  Draw();
+}
+
+void frmSchematic::RefreshZoom() {
+  cmdZoomIn_.enabled = session_.network.Stages > 0 && view_.zoom < SchematicWidth(session_.network) / leastShown;
+  cmdZoomOut_.enabled = view_.zoom > 1;
+}
+
 void frmSchematic::Draw() {
   lblEmptyList_.visible = session_.network.Stages < 1;
   try {
     lblNegativePart_.visible = HasNegativePart(session_.network);
+    RefreshZoom();
     DrawSchematic(session_.record, view_, picSchematic_.picture);
   } catch (const Fault& fault) {
     session_.platform.MessageBox(std::string("Schematic 224\r\n") + fault.what(), Buttons::Ok, Icon::Critical, "");
@@ -84,11 +109,11 @@ void frmSchematic::Draw() {
 }
 
 Layout frmSchematic::MakeLayout() {
-  const Layout tools =
-      Column({Grid(2, {Put(cmdLeftLeft_), Put(cmdRightRight_), Put(cmdLeft_), Put(cmdRight_)}),
-              Grid(1, {Put(cmdSimple_)}), Group(fraMode_, Column({Put(Option0_), Put(Option1_), Put(Option2_)})),
-              Group(fraShowQ_, Row({Put(optYes_), Put(optNo_)})), KeepPlace(Put(lblNegativePart_)),
-              KeepPlace(Put(lblEmptyList_)), Space()});
+  const Layout tools = Column({Grid(2, {Put(cmdLeftLeft_), Put(cmdRightRight_), Put(cmdLeft_), Put(cmdRight_)}),
+                               Grid(1, {Put(cmdZoomIn_), Put(cmdZoomOut_), Put(cmdZoomFit_), Put(cmdSimple_)}),
+                               Group(fraMode_, Column({Put(Option0_), Put(Option1_), Put(Option2_)})),
+                               Group(fraShowQ_, Row({Put(optYes_), Put(optNo_)})), KeepPlace(Put(lblNegativePart_)),
+                               KeepPlace(Put(lblEmptyList_)), Space()});
   return Column({navigation_.MakeLayout(), Fill(Row({Fill(Put(picSchematic_)), tools}))});
 }
 

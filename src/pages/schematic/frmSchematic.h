@@ -18,6 +18,8 @@ class frmSchematic : public Page {
   void Choose(SchematicMode mode);
   void ShowLosses(bool show);
   void Scroll(i32 distance);
+  void Zoom(f32 zoom);
+  void RefreshZoom();
   void CutStages();
   void Draw();
 
@@ -30,6 +32,9 @@ class frmSchematic : public Page {
   Button cmdLeft_{*this, "cmdLeft", "<", "Show a little of what is further left"};
   Button cmdRight_{*this, "cmdRight", ">", "Show a little of what is further right"};
   Button cmdRightRight_{*this, "cmdRightRight", ">>", "Show much of what is further right"};
+  Button cmdZoomIn_{*this, "cmdZoomIn", "Zoom in", "Show less of the network, larger (Ctrl++, wheel)"};
+  Button cmdZoomOut_{*this, "cmdZoomOut", "Zoom out", "Show more of the network, smaller (Ctrl+-, wheel)"};
+  Button cmdZoomFit_{*this, "cmdZoomFit", "Fit width", "Show the whole width of the network (Ctrl+0)"};
   Button cmdSimple_{*this, "cmdSimple", "Artwork only", "The bare network, without values and data"};
   Frame fraMode_{*this, "fraMode", "Unbalanced preview"};
   OptionGroup modes_;
