@@ -28,12 +28,10 @@ void Begin(const Scale& scale, Canvas& canvas) {
   canvas.FontSize = labelSize;
 }
 
-void DrawFrame(const PlotBox& box, Canvas& canvas) {
-  canvas.Rectangle(box.left, box.top, box.Right(), box.Bottom(), gridColor, false);
-}
-
 void DrawGrid(const PlotSetup& setup, const PlotBox& box, Canvas& canvas) {
   DrawFrequencyLines(MakeFrequencyGrid(setup.axis, setup.scales.NrXints), canvas, box);
+  const PenScope pen(canvas);
+  canvas.DrawWidth = 0;
   for (int k = 1; static_cast<f32>(k) < setup.scales.NrYints; ++k) {
     const f32 y = box.top + box.height * static_cast<f32>(k) / setup.scales.NrYints;
     canvas.Line(box.left, y, box.Right(), y, gridColor);
@@ -98,17 +96,18 @@ void DrawPreview(const PlotSetup& setup, const ResponseSpans& responses, AxisPla
   const PlotPlane plane{setup.axis, places, box};
   std::vector<f64> derived;
   for (const PlotTrace& trace : kind.traces) {
+    canvas.DrawStyle = trace.color == 1 ? LineStyle::Solid : LineStyle::DashOnPaper;
     DrawCurve(CurveOf(responses, trace.quantity, derived), ScaleOf(scales, trace.quantity), ColorOf(setup, trace),
               plane, canvas);
   }
-  DrawFrame(box, canvas);
+  DrawFrame(canvas, box);
 }
 
 void DrawNoPreview(const std::string& reason, const Scale& scale, Canvas& canvas) {
   const PenScope pen(canvas);
   Begin(scale, canvas);
   const PlotBox box = PreviewFrame(scale);
-  DrawFrame(box, canvas);
+  DrawFrame(canvas, box);
   const std::vector<std::string> lines = Lines(reason, box.width - 2 * labelGap, canvas);
   const f32 line = canvas.TextHeight("X");
   f32 y = box.top + (box.height - line * static_cast<f32>(lines.size())) / 2;
