@@ -1,5 +1,6 @@
 #include "app/Desktop.h"
 
+#include <QFileInfo>
 #include <utility>
 
 #include "app/PageView.h"
@@ -22,6 +23,7 @@ Desktop::Desktop(PageDirectory directory, const QString& folder)
   };
   window.onUndo = press(Undo);
   window.onRedo = press(Redo);
+  window.onFile = [this](const QString& path) { OpenFile(path); };
   window.onCloseBox = [&stage] { stage.PressCloseBox(); };
 }
 
@@ -30,6 +32,14 @@ Desktop::~Desktop() { platform.Stage().Close(); }
 void Desktop::Start(const std::function<void(Session&)>& start) {
   window.show();
   platform.Stage().Perform([&](Session& started) { RunHandler(started, [&] { start(started); }); });
+}
+
+void Desktop::OpenFile(const QString& path) {
+  PageView* view = TopView();
+  if (view == nullptr) return;
+  platform.GiveFile(QFileInfo(path).absoluteFilePath().toStdString());
+  if (!view->PressNamed("cmdGet")) view->PressNamed("cmdRetrieveOld");
+  platform.GiveFile({});
 }
 
 }  // namespace quilm

@@ -21,6 +21,10 @@ class Desktop {
   // Shows the window and runs the start of the program as a handler.
   void Start(const std::function<void(Session&)>& start);
 
+  // Opens a design file as if it had been chosen in the dialog of the button that gets one. Nothing where the page on
+  // top has no such button, or none that could be pressed just now.
+  void OpenFile(const QString& path);
+
   // The view of the page on top; nullptr before the first.
   PageView* TopView() { return platform.Stage().TopView(); }
 

@@ -1,12 +1,15 @@
 #include "app/EntryView.h"
 
 #include <QApplication>
+#include <QDragEnterEvent>
 #include <QKeyEvent>
+#include <QMimeData>
 #include <QSignalBlocker>
 #include <QStyle>
 #include <QStyleOptionFrame>
 #include <QWheelEvent>
 #include <algorithm>
+#include <utility>
 
 #include "app/HistoryButton.h"
 #include "app/QtText.h"
@@ -47,11 +50,13 @@ void EntryBox::ShowText(const QString& shown) {
   if (!touched_) before_ = shown;
 }
 
-// The toolkit's box forgets its own undo with it.
+// The toolkit's box forgets its own undo with it. What was selected whole stays so.
 void EntryBox::ReplaceText(const QString& shown) {
   const int cursor = cursorPosition();
+  const bool whole = hasSelectedText() && selectedText() == text();
   setText(shown);
   setCursorPosition(std::min(cursor, static_cast<int>(shown.size())));
+  if (whole) selectAll();
 }
 
 // From the program's palette, not from the box's own, which may be warm from a repair just before.
@@ -132,6 +137,15 @@ void EntryBox::keyPressEvent(QKeyEvent* event) {
   }
 }
 
+// A file is for the window; its name would be no entry.
+void EntryBox::dragEnterEvent(QDragEnterEvent* event) {
+  if (event->mimeData()->hasUrls()) {
+    event->ignore();
+  } else {
+    QLineEdit::dragEnterEvent(event);
+  }
+}
+
 void EntryBox::wheelEvent(QWheelEvent* event) {
   if (!hasFocus() || !stepsDigits || isReadOnly()) {
     event->ignore();
@@ -144,17 +158,28 @@ void EntryBox::wheelEvent(QWheelEvent* event) {
   event->accept();
 }
 
+// Whichever way the focus came, what is typed next replaces the text. The first box of a page has it before its window
+// is active and hears of it when the window is; coming back to the window later is not entering the box anew.
 void EntryBox::focusInEvent(QFocusEvent* event) {
-  // Coming back to the window is not entering the box anew.
   const bool returned = event->reason() == Qt::ActiveWindowFocusReason || event->reason() == Qt::PopupFocusReason;
   if (!returned || !touched_) before_ = text();
   QLineEdit::focusInEvent(event);
+  if (std::exchange(entered_, true)) return;
+  selectAll();
+  enteredByPress_ = event->reason() == Qt::MouseFocusReason;
+}
+
+// The press that brought the focus has put the cursor where it was; who has drawn the mouse over a part of the text has
+// chosen that part.
+void EntryBox::mouseReleaseEvent(QMouseEvent* event) {
+  QLineEdit::mouseReleaseEvent(event);
+  if (std::exchange(enteredByPress_, false) && !hasSelectedText()) selectAll();
 }
 
 void EntryBox::focusOutEvent(QFocusEvent* event) {
   QLineEdit::focusOutEvent(event);
   if (event->reason() == Qt::ActiveWindowFocusReason || event->reason() == Qt::PopupFocusReason) return;
-  touched_ = false;
+  touched_ = entered_ = enteredByPress_ = false;
   deselect();
   ForgetTyping();
   if (onLeave) onLeave();

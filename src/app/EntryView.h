@@ -29,7 +29,9 @@ class EntryBox : public QLineEdit {
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
+  void dragEnterEvent(QDragEnterEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
   bool event(QEvent* event) override;
@@ -45,7 +47,9 @@ class EntryBox : public QLineEdit {
   QTimer warmth_;   // runs as long as a repair shows
   QString before_;  // when the box was entered
   bool touched_ = false;
-  int wheelTurned_ = 0;  // eighths of a degree not yet stepped
+  bool entered_ = false;         // it keeps the focus, also while another window or a menu has the keyboard
+  bool enteredByPress_ = false;  // by the mouse button that is still down
+  int wheelTurned_ = 0;          // eighths of a degree not yet stepped
 };
 
 class EntryView : public ControlView {

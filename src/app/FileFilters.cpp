@@ -1,16 +1,22 @@
 #include "app/FileFilters.h"
 
+#include <QFileInfo>
 #include <QRegularExpression>
 
 namespace quilm {
 
 namespace {
 
+// As it is given first: a dialog takes the first for its own endings.
 QString WithBothCases(const QString& pattern) {
-  const QString upper = pattern.toUpper();
-  const QString lower = pattern.toLower();
-  if (upper == lower) return pattern;
-  return upper + QLatin1Char(' ') + lower;
+  const QString other = pattern == pattern.toLower() ? pattern.toUpper() : pattern.toLower();
+  return pattern == other ? pattern : pattern + QLatin1Char(' ') + other;
+}
+
+bool IsPictureEnding(const QString& ending) {
+  static const QStringList endings{"jpg", "jpeg", "png",  "svg",  "pdf", "gif",
+                                   "bmp", "tif",  "tiff", "webp", "eps", "ps"};
+  return endings.contains(ending.toLower());
 }
 
 }  // namespace
@@ -34,6 +40,16 @@ QStringList NameFilters(const QString& filter) {
 QString SuffixOf(const QString& nameFilter) {
   static const QRegularExpression extension(QStringLiteral("\\(\\*\\.([A-Za-z0-9]+)"));
   return extension.match(nameFilter).captured(1);
+}
+
+QString WithRightEnding(const QString& path, const QStringList& nameFilters, const QString& chosen) {
+  if (nameFilters.size() < 2) return path;
+  const QString ending = QFileInfo(path).suffix();
+  for (const QString& filter : nameFilters) {
+    if (!ending.isEmpty() && SuffixOf(filter).compare(ending, Qt::CaseInsensitive) == 0) return path;
+  }
+  const QString stem = IsPictureEnding(ending) ? path.chopped(ending.size() + 1) : path;
+  return stem + QLatin1Char('.') + SuffixOf(chosen);
 }
 
 }  // namespace quilm

@@ -13,4 +13,10 @@ QStringList NameFilters(const QString& filter);
 // The extension that such a filter stands for, "QLM"; empty for "*" and "*.*".
 QString SuffixOf(const QString& nameFilter);
 
+// The path with an ending that tells what will be written. Where the filters offer several kinds, one of their endings
+// decides, in capitals or not; any other is put right for the chosen filter: the ending of a picture that is none of
+// them is replaced, and what may be a part of the name ("at 1.5 GHz") is kept. A single filter leaves the path as it
+// is.
+QString WithRightEnding(const QString& path, const QStringList& nameFilters, const QString& chosen);
+
 }  // namespace quilm

@@ -1,14 +1,20 @@
 #include "app/MainWindow.h"
 
 #include <QCloseEvent>
+#include <QDragEnterEvent>
+#include <QDropEvent>
 #include <QGuiApplication>
+#include <QMimeData>
 #include <QPainter>
 #include <QScreen>
 #include <QScrollArea>
 #include <QSettings>
+#include <QTimer>
+#include <QUrl>
 #include <QVBoxLayout>
 #include <utility>
 
+#include "app/FirstPlace.h"
 #include "app/HistoryButton.h"
 #include "app/PageView.h"
 #include "app/QtText.h"
@@ -23,6 +29,12 @@ namespace {
 constexpr QSize usualSize(1280, 860);
 constexpr QSize smallestSize(800, 560);  // below the size that pages are made for they scroll
 constexpr int margin = 8;
+
+// The one file of this machine that is dragged; empty for anything else.
+QString DroppedFile(const QMimeData& dragged) {
+  const QList<QUrl> urls = dragged.urls();
+  return urls.size() == 1 ? urls.front().toLocalFile() : QString();
+}
 
 }  // namespace
 
@@ -60,6 +72,7 @@ MainWindow::MainWindow(Session& session, QString settingsPath)
       right_(new StatusText(Qt::AlignRight)) {
   setWindowTitle(QStringLiteral("Quilm"));
   setMinimumSize(smallestSize);
+  setAcceptDrops(true);
   auto* whole = new QWidget;
   auto* column = new QVBoxLayout(whole);
   column->setContentsMargins(0, 0, 0, 0);
@@ -92,9 +105,10 @@ MainWindow::~MainWindow() = default;
 void MainWindow::RestorePlace() {
   const QSettings settings(settingsPath_, QSettings::IniFormat);
   if (restoreGeometry(settings.value(QStringLiteral("window/geometry")).toByteArray())) return;
-  QSize size = usualSize;
-  if (const QScreen* primary = QGuiApplication::primaryScreen()) size = size.boundedTo(primary->availableSize());
-  resize(size);
+  resize(usualSize);
+  if (const QScreen* primary = QGuiApplication::primaryScreen()) {
+    setGeometry(FirstPlace(primary->availableGeometry(), usualSize));
+  }
 }
 
 void MainWindow::KeepPlace() const {
@@ -151,6 +165,19 @@ void MainWindow::SyncStatus() {
   redo_->Show(CanRedo(session_), session_.history.RedoText());
   left_->Show(summary ? ToQt(summary()) : QString());
   right_->Show(ToQt(session_.note));
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
+  if (onFile && !DroppedFile(*event->mimeData()).isEmpty()) event->acceptProposedAction();
+}
+
+// The file is read when the drop is over: a message that it leads to must not keep the program that it comes from.
+void MainWindow::dropEvent(QDropEvent* event) {
+  const QString path = DroppedFile(*event->mimeData());
+  if (path.isEmpty()) return;
+  event->acceptProposedAction();
+  activateWindow();
+  QTimer::singleShot(0, this, [this, path] { onFile(path); });
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {

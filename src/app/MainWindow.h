@@ -45,6 +45,8 @@ class MainWindow : public QMainWindow {
   std::function<std::string()> designName;
   // The window's close box.
   std::function<void()> onCloseBox;
+  // A file was dropped on the window.
+  std::function<void(const QString& path)> onFile;
   // The buttons at the left of the status line.
   std::function<void()> onUndo;
   std::function<void()> onRedo;
@@ -61,6 +63,8 @@ class MainWindow : public QMainWindow {
 
  protected:
   void closeEvent(QCloseEvent* event) override;
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
 
  private:
   void RestorePlace();

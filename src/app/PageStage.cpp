@@ -10,10 +10,27 @@
 #include "app/MainWindow.h"
 #include "app/QtText.h"
 #include "app/SideStack.h"
+#include "shell/Acts.h"
 #include "shell/Page.h"
 #include "shell/Session.h"
 
 namespace quilm {
+
+namespace {
+
+// Counts those who wait, however the waiting ends.
+class Waiting {
+ public:
+  explicit Waiting(int& count) : count_(count) { ++count_; }
+  ~Waiting() { --count_; }
+  Waiting(const Waiting&) = delete;
+  Waiting& operator=(const Waiting&) = delete;
+
+ private:
+  int& count_;
+};
+
+}  // namespace
 
 ModalWindow::ModalWindow(PageView& view, QWidget* parent) : QDialog(parent), view_(view) {
   setWindowModality(Qt::ApplicationModal);
@@ -157,7 +174,12 @@ void PageStage::Close() {
   standing_.clear();
 }
 
+// A press can still be on its way when a dialog opens; the handler that waits for its answer knows of no other act.
 void PageStage::Perform(const std::function<void(Session&)>& act) {
+  if (waiting_ == 0) Do(act);
+}
+
+void PageStage::Do(const std::function<void(Session&)>& act) {
   if (session_->ended) return;
   try {
     act(*session_);
@@ -202,17 +224,19 @@ void PageStage::RunEvents(QEventLoop::ProcessEventsFlags flags) {
 }
 
 void PageStage::Wait(int milliseconds) {
+  if (unattended_) return;
   Sync();
   QEventLoop loop;
   QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
+  const Waiting waiting(waiting_);
   Run(loop, QEventLoop::ExcludeUserInputEvents);
 }
 
 int PageStage::RunDialog(QDialog& dialog) {
+  if (unattended_) return QDialog::Rejected;
   Sync();
-  dialogs_.push_back(&dialog);
+  const Waiting waiting(waiting_);
   const int result = dialog.exec();
-  dialogs_.pop_back();
   ThrowIfEnded();
   return result;
 }
@@ -228,9 +252,31 @@ void PageStage::PressCloseBox() {
   End();
 }
 
-// Ends all nested loops, the innermost first.
+void PageStage::EndBySystem(const std::function<void(Session&)>& last) {
+  unattended_ = true;
+  Do([&last](Session& session) { RunHandler(session, [&] { last(session); }); });
+  if (session_->ended) return;
+  session_->ended = true;  // it ends, whatever kept `last` from its own end
+  End();
+}
+
+void PageStage::EndWithoutDisplay(const std::function<void(Session&)>& last) noexcept {
+  if (session_->ended) return;
+  unattended_ = true;
+  try {
+    RunHandler(*session_, [&] { last(*session_); });
+  } catch (...) {
+    // ProgramEnd, or a fault that nobody can be told of.
+  }
+}
+
+// Ends all nested loops: those of dialogs, also of the ones that a dialog has opened in its turn, and our own, the
+// innermost first.
 void PageStage::End() {
-  for (auto dialog = dialogs_.rbegin(); dialog != dialogs_.rend(); ++dialog) (*dialog)->reject();
+  for (QWidget* window : QApplication::topLevelWidgets()) {
+    auto* dialog = qobject_cast<QDialog*>(window);
+    if (dialog != nullptr && dialog->isVisible() && qobject_cast<ModalWindow*>(dialog) == nullptr) dialog->reject();
+  }
   for (auto loop = loops_.rbegin(); loop != loops_.rend(); ++loop) (*loop)->quit();
   if (endTold_) return;
   endTold_ = true;

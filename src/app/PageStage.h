@@ -51,12 +51,20 @@ class PageStage : public ActHost {
 
   // Lets pending events run, those of the user or not.
   void RunEvents(QEventLoop::ProcessEventsFlags flags = QEventLoop::AllEvents);
+  // Waits; no act of the user is taken meanwhile.
   void Wait(int milliseconds);
-  // Runs a dialog of the toolkit to its result.
+  // Runs a dialog to its result; nothing else is acted on meanwhile. Rejected at once when nobody is there to answer.
   int RunDialog(QDialog& dialog);
 
-  // The close box of the main window, wherever the request comes from.
+  // The close box of the main window.
   void PressCloseBox();
+
+  // The system ends the program in the middle of whatever is open: runs `last` as a handler and ends. From now on
+  // nobody is asked or told anything, since nobody would answer.
+  void EndBySystem(const std::function<void(Session&)>& last);
+  // The same when the display is gone: no widget is touched any more.
+  void EndWithoutDisplay(const std::function<void(Session&)>& last) noexcept;
+  bool IsUnattended() const { return unattended_; }
 
   // Before the window goes: from now on no event reaches a page.
   void Close();
@@ -86,6 +94,7 @@ class PageStage : public ActHost {
   void Run(QEventLoop& loop, QEventLoop::ProcessEventsFlags flags = QEventLoop::AllEvents);
   void Forget(const QEventLoop& loop);
   void ThrowIfEnded() const;
+  void Do(const std::function<void(Session&)>& act);
   void End();
   void ShowTopMainPage();
 
@@ -93,7 +102,8 @@ class PageStage : public ActHost {
   MainWindow* window_ = nullptr;
   std::vector<Standing> standing_;  // bottom to top
   std::vector<QEventLoop*> loops_;
-  std::vector<QDialog*> dialogs_;
+  int waiting_ = 0;  // handlers that wait for a dialog or for time to pass
+  bool unattended_ = false;
   bool endTold_ = false;
 };
 

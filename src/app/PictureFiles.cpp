@@ -40,4 +40,9 @@ bool SavePictureAsPdf(const Picture& picture, const QString& path) {
   return file.commit();
 }
 
+bool SaveImageAsPng(const QImage& image, const QString& path) {
+  QSaveFile file(path);
+  return file.open(QIODevice::WriteOnly) && image.save(&file, "PNG") && file.commit();
+}
+
 }  // namespace quilm

@@ -1,6 +1,7 @@
 // Pictures as files of their own.
 #pragma once
 
+#include <QImage>
 #include <QString>
 
 #include "shell/Picture.h"
@@ -11,5 +12,7 @@ namespace quilm {
 // cannot be written.
 bool SavePictureAsSvg(const Picture& picture, const QString& path);
 bool SavePictureAsPdf(const Picture& picture, const QString& path);
+// The same for one that is painted already.
+bool SaveImageAsPng(const QImage& image, const QString& path);
 
 }  // namespace quilm

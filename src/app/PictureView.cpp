@@ -135,10 +135,12 @@ void PictureView::ReleaseForMenu(QPointF place) {
 
 void PictureView::contextMenuEvent(QContextMenuEvent* event) {
   ReleaseForMenu(event->pos());
-  QMenu menu(this);
-  menu.addAction(tr("&Copy picture"), QKeySequence::Copy, this, [this] { Copy(); });
-  menu.addAction(tr("&Save picture as..."), this, [this] { emit SaveRequested(); });
-  menu.exec(event->globalPos());
+  // A child on the heap, in no loop of its own: the page can go while it is open, and takes it along.
+  auto* menu = new QMenu(this);
+  menu->setAttribute(Qt::WA_DeleteOnClose);
+  menu->addAction(tr("&Copy picture"), QKeySequence::Copy, this, [this] { Copy(); });
+  menu->addAction(tr("&Save picture as..."), this, [this] { emit SaveRequested(); });
+  menu->popup(event->globalPos());
 }
 
 // In its natural size, twice as dense as the screen: for documents that are printed.
@@ -163,7 +165,7 @@ bool PictureView::SaveAs(const QString& path) const {
   const QString kind = QFileInfo(path).suffix().toLower();
   if (kind == QLatin1String("svg")) return SavePictureAsSvg(sheet_.Whole(), path);
   if (kind == QLatin1String("pdf")) return SavePictureAsPdf(sheet_.Whole(), path);
-  return Render().save(path, "PNG");
+  return kind == QLatin1String("png") && SaveImageAsPng(Render(), path);
 }
 
 }  // namespace quilm

@@ -27,7 +27,7 @@ class PictureView : public QWidget {
   // Puts the picture on the clipboard, on white paper.
   void Copy() const;
 
-  // Writes it to a file: PNG, SVG or PDF by the extension. False when that cannot be done.
+  // Writes it to a file: PNG, SVG or PDF by the ending. False for any other ending, and when that cannot be done.
   bool SaveAs(const QString& path) const;
 
   // The paper within the widget.

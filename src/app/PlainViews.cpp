@@ -4,6 +4,8 @@
 #include <QFontDatabase>
 
 #include "app/QtText.h"
+#include "shell/Page.h"
+#include "shell/PictureName.h"
 #include "shell/Session.h"
 
 namespace quilm {
@@ -116,11 +118,14 @@ PictureBoxView::PictureBoxView(PictureBox& box, ActSink& sink, QWidget* parent)
     sink.Press([this, name](Session& session) { PressArea(session, box_, name); });
   };
   QObject::connect(view_, &PictureView::SaveRequested, view_, [this, &sink] {
-    sink.Perform([view = view_](Session& session) {
+    sink.Perform([view = view_, page = box_.Owner().title](Session& session) {
       RunHandler(session, [&] {
         const auto path = session.platform.SaveDialog(
-            "Save picture", "PNG picture (*.PNG)|*.PNG|SVG drawing (*.SVG)|*.SVG|PDF document (*.PDF)|*.PDF", "");
-        if (path && !view->SaveAs(QString::fromStdString(*path))) throw Fault("The picture could not be written.");
+            "Save picture", "PNG picture (*.png)|*.png|SVG drawing (*.svg)|*.svg|PDF document (*.pdf)|*.pdf",
+            PictureName(session.identity, page) + ".png");
+        if (!path) return;
+        if (!view->SaveAs(ToQt(*path))) throw Fault("The picture could not be written to " + *path);
+        session.note = "Wrote " + *path;
       });
     });
   });

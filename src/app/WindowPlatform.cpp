@@ -6,15 +6,17 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QMessageBox>
 #include <QPrintDialog>
 #include <QProcess>
 #include <QSettings>
 #include <QStandardPaths>
 #include <QUrl>
 #include <cmath>
+#include <utility>
 
 #include "app/FileFilters.h"
+#include "app/HelpPlace.h"
+#include "app/MessageWindow.h"
 #include "app/PrinterCanvas.h"
 #include "app/QtText.h"
 #include "core/Fault.h"
@@ -24,22 +26,6 @@ namespace quilm {
 namespace {
 
 const QString lastFolderKey = QStringLiteral("files/folder");
-
-QMessageBox::Icon BoxIcon(Icon icon) {
-  switch (icon) {
-    case Icon::None:
-      return QMessageBox::NoIcon;
-    case Icon::Information:
-      return QMessageBox::Information;
-    case Icon::Question:
-      return QMessageBox::Question;
-    case Icon::Exclamation:
-      return QMessageBox::Warning;
-    case Icon::Critical:
-      return QMessageBox::Critical;
-  }
-  return QMessageBox::NoIcon;
-}
 
 QString TitleOf(const std::string& title) { return title.empty() ? QStringLiteral("Quilm") : ToQt(title); }
 
@@ -59,16 +45,13 @@ WindowPlatform::WindowPlatform(const QString& folder) : folder_(folder.isEmpty()
 WindowPlatform::~WindowPlatform() = default;
 
 Answer WindowPlatform::MessageBox(const std::string& text, Buttons buttons, Icon icon, const std::string& title) {
-  QMessageBox box(stage_.FrontWindow());
-  box.setIcon(BoxIcon(icon));
-  box.setWindowTitle(TitleOf(title));
-  box.setTextFormat(Qt::PlainText);
-  box.setText(ToQt(text));
-  box.setStandardButtons(buttons == Buttons::YesNo ? QMessageBox::Yes | QMessageBox::No
-                                                   : QMessageBox::StandardButtons(QMessageBox::Ok));
-  const int answer = stage_.RunDialog(box);
+  int answer = QDialog::Rejected;
+  if (!stage_.IsUnattended()) {
+    MessageWindow box(TitleOf(title), ToQt(text), buttons, icon, stage_.FrontWindow());
+    answer = stage_.RunDialog(box);
+  }
   if (buttons == Buttons::Ok) return Answer::Ok;
-  return answer == QMessageBox::Yes ? Answer::Yes : Answer::No;
+  return answer == QDialog::Accepted ? Answer::Yes : Answer::No;
 }
 
 std::optional<std::string> WindowPlatform::AskFile(QFileDialog& dialog) {
@@ -79,6 +62,7 @@ std::optional<std::string> WindowPlatform::AskFile(QFileDialog& dialog) {
 }
 
 std::optional<std::string> WindowPlatform::OpenDialog(const std::string& title, const std::string& filter) {
+  if (!given_.empty()) return std::exchange(given_, {});
   QFileDialog dialog(stage_.FrontWindow(), TitleOf(title),
                      QSettings(SettingsPath(), QSettings::IniFormat).value(lastFolderKey).toString());
   dialog.setFileMode(QFileDialog::ExistingFile);
@@ -97,7 +81,19 @@ std::optional<std::string> WindowPlatform::SaveDialog(const std::string& title, 
   QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog,
                    [&dialog](const QString& chosen) { dialog.setDefaultSuffix(SuffixOf(chosen)); });
   if (!defaultName.empty()) dialog.selectFile(ToQt(defaultName));
-  return AskFile(dialog);
+  while (const auto chosen = AskFile(dialog)) {
+    const QString path = WithRightEnding(ToQt(*chosen), dialog.nameFilters(), dialog.selectedNameFilter());
+    if (path == ToQt(*chosen) || MayReplace(path, title)) return path.toStdString();
+    dialog.selectFile(QFileInfo(path).fileName());
+  }
+  return std::nullopt;
+}
+
+// The dialog has asked for the name that it saw; another one that the ending makes of it needs the same question.
+bool WindowPlatform::MayReplace(const QString& path, const std::string& title) {
+  if (!QFileInfo::exists(path)) return true;
+  const std::string question = path.toStdString() + " already exists.\r\nDo you want to replace it?";
+  return MessageBox(question, Buttons::YesNo, Icon::Question, title) == Answer::Yes;
 }
 
 Canvas* WindowPlatform::PrintDialog() {
@@ -110,13 +106,15 @@ Canvas* WindowPlatform::PrintDialog() {
   return printer_.get();
 }
 
-void WindowPlatform::Beep() { QApplication::beep(); }
+void WindowPlatform::Beep() {
+  if (!stage_.IsUnattended()) QApplication::beep();
+}
 
-void WindowPlatform::ShellOpen(const std::string& path) {
+bool WindowPlatform::ShellOpen(const std::string& path) {
   const QString document = ToQt(path);
   const bool file = QFileInfo::exists(document);
-  QDesktopServices::openUrl(file ? QUrl::fromLocalFile(QFileInfo(document).absoluteFilePath())
-                                 : QUrl::fromUserInput(document));
+  return QDesktopServices::openUrl(file ? QUrl::fromLocalFile(QFileInfo(document).absoluteFilePath())
+                                        : QUrl::fromUserInput(document));
 }
 
 bool WindowPlatform::ShowSystemInformation() {
@@ -132,17 +130,8 @@ void WindowPlatform::Pause(f64 seconds) {
   stage_.Wait(static_cast<int>(std::lround(seconds * millisecondsPerSecond)));
 }
 
-// Installed data first; a program that runs from its build folder finds the help beside its sources.
 std::string WindowPlatform::HelpFolder() {
-  const QString installed = QStringLiteral(QUILM_DATA_DIR "/help");
-  if (QFileInfo(installed).isDir()) return installed.toStdString();
-  QDir folder(QCoreApplication::applicationDirPath());
-  for (const char* place :
-       {"help", "../share/quilm/help", "../help", "../../help", "../../../help", "../../../../help"}) {
-    const QString candidate = QDir::cleanPath(folder.filePath(QString::fromLatin1(place)));
-    if (QFileInfo(candidate).isDir()) return candidate.toStdString();
-  }
-  return installed.toStdString();
+  return FindHelp(QCoreApplication::applicationDirPath(), OtherHelpPlaces()).toStdString();
 }
 
 DateTime WindowPlatform::Now() {

@@ -4,6 +4,7 @@
 #include <QPrinter>
 #include <QString>
 #include <memory>
+#include <utility>
 
 #include "app/PageStage.h"
 #include "shell/Platform.h"
@@ -26,7 +27,7 @@ class WindowPlatform : public Platform {
                                         const std::string& defaultName) override;
   Canvas* PrintDialog() override;
   void Beep() override;
-  void ShellOpen(const std::string& path) override;
+  bool ShellOpen(const std::string& path) override;
   bool ShowSystemInformation() override;
   void Yield() override { stage_.RunEvents(); }
   f64 YieldInterval() const override { return 0.01; }
@@ -39,13 +40,18 @@ class WindowPlatform : public Platform {
   void RunModal(Page& page) override { stage_.RunModal(page); }
   void RunBeside(Page& tool, Page& main) override { stage_.RunBeside(tool, main); }
 
+  // The answer of the next OpenDialog, for a file that the user has named in another way; an empty one takes it back.
+  void GiveFile(std::string path) { given_ = std::move(path); }
+
   // The file that keeps the window's place.
   QString SettingsPath() const { return folder_ + QStringLiteral("/window.ini"); }
 
  private:
   std::optional<std::string> AskFile(QFileDialog& dialog);
+  bool MayReplace(const QString& path, const std::string& title);
 
   QString folder_;
+  std::string given_;
   PageStage stage_;
   std::unique_ptr<Canvas> printer_;
 };

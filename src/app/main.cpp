@@ -2,11 +2,18 @@
 #include <QApplication>
 #include <QSessionManager>
 #include <QTimer>
-#include <cstdio>
+#include <iostream>
+#include <memory>
+#include <optional>
 
+#include "app/CommandLine.h"
 #include "app/Desktop.h"
+#include "app/DisplayCheck.h"
 #include "app/EndSignal.h"
 #include "app/Palettes.h"
+#include "app/ProgramIcon.h"
+#include "app/SuddenEnd.h"
+#include "desk/Leaving.h"
 #include "desk/StartUp.h"
 #include "pages/PageDirectory.h"
 #include "shell/History.h"
@@ -14,23 +21,24 @@
 
 namespace {
 
-// The toolkit aborts when it finds no display; a person should read why instead.
-bool HasDisplay() {
-  const QByteArray platform = qgetenv("QT_QPA_PLATFORM");
-  if (!platform.isEmpty() && !platform.startsWith("xcb") && !platform.startsWith("wayland")) return true;
-  return !qgetenv("DISPLAY").isEmpty() || !qgetenv("WAYLAND_DISPLAY").isEmpty();
+using namespace quilm;
+
+// The toolkit takes its own options out of argc and argv.
+std::unique_ptr<QApplication> MakeApplication(int& argc, char** argv) {
+  const DisplayCheck check;
+  return std::make_unique<QApplication>(argc, argv);
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
-  using namespace quilm;
-  if (!HasDisplay()) {
-    std::fputs("quilm: there is no display to open a window on; quilm-script runs designs without one\n", stderr);
-    return 1;
-  }
-  QApplication app(argc, argv);
+  const CommandLine line = ReadCommandLine(argc, argv, std::cout, std::cerr);
+  if (line.status) return *line.status;
+  const std::unique_ptr<QApplication> app = MakeApplication(argc, argv);
+  if (line.onlyLooks) return 0;
   QApplication::setApplicationName(QStringLiteral("Quilm"));
+  QApplication::setWindowIcon(ProgramIcon());
+  QGuiApplication::setDesktopFileName(QStringLiteral("quilm"));
   SetAppearance(qEnvironmentVariable("QUILM_PALETTE"));
 
   Desktop desktop(AllPages());
@@ -39,11 +47,18 @@ int main(int argc, char** argv) {
   desktop.window.designName = [&] { return DesignName(desktop.session.record, saved()); };
   desktop.onEnded = [] { QCoreApplication::exit(0); };
 
-  // The system's own end of the session is the close box: what was designed is kept.
-  const auto close = [&desktop] { desktop.platform.Stage().PressCloseBox(); };
-  const EndSignal endSignal(close);
-  QObject::connect(&app, &QGuiApplication::commitDataRequest, &app, [&close](QSessionManager&) { close(); });
-
-  QTimer::singleShot(0, &app, [&desktop] { desktop.Start(StartProgram); });
+  // However the system ends the program, what was designed is kept; not before the preferences were read, which would
+  // be written over.
+  const auto leave = [&desktop] { desktop.platform.Stage().EndBySystem(LeaveBySystem); };
+  std::optional<EndSignal> endSignal;
+  std::optional<SuddenEnd> suddenEnd;
+  QTimer::singleShot(0, app.get(), [&] {
+    desktop.Start(StartProgram);
+    endSignal.emplace(leave);
+    suddenEnd.emplace([&desktop] { desktop.platform.Stage().EndWithoutDisplay(LeaveBySystem); });
+    QObject::connect(app.get(), &QGuiApplication::commitDataRequest, app.get(),
+                     [&leave](QSessionManager&) { leave(); });
+    if (!line.file.empty()) desktop.OpenFile(QString::fromStdString(line.file));
+  });
   return QApplication::exec();
 }

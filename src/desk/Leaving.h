@@ -9,4 +9,9 @@ class Session;
 // session, then ends the program at once.
 [[noreturn]] void LeaveByCloseBox(Session& session);
 
+// The system ends the program: leaves like the close box. In the middle of an act that has taken the network away, a
+// file that could not be read say, the design that the act found is the one to keep. The opening page has no
+// preferences.
+[[noreturn]] void LeaveBySystem(Session& session);
+
 }  // namespace quilm

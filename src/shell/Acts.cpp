@@ -9,7 +9,14 @@ namespace quilm {
 
 namespace {
 
-void Require(const Control& control) {
+void RequireOnTop(const Session& session, const Page& page, const std::string& what) {
+  if (!session.pages.TakesActs(page)) throw ActRefused(what + " is not on the page on top");
+}
+
+// What lies below another page is out of the user's reach, but a press that was on its way when that page opened still
+// comes.
+void Require(const Session& session, const Control& control) {
+  RequireOnTop(session, control.Owner(), control.name);
   if (!control.Shown()) throw ActRefused(control.name + " is hidden");
   if (!control.Active()) throw ActRefused(control.name + " is disabled");
 }
@@ -141,7 +148,7 @@ void Redo(Session& session) {
 }
 
 void Click(Session& session, Control& control) {
-  Require(control);
+  Require(session, control);
   if (auto* option = dynamic_cast<OptionButton*>(&control)) {
     option->Set();
     RunAct(session, {NameOf(control)}, option->onClick);
@@ -155,7 +162,7 @@ void Click(Session& session, Control& control) {
 }
 
 void Type(Session& session, TextBox& box, const std::string& text) {
-  Require(box);
+  Require(session, box);
   if (box.readOnly) throw ActRefused(box.name + " cannot be typed in");
   box.text = FirstCharacters(text, static_cast<std::size_t>(box.maxLength));
   RunAct(session, {NameOf(box), box.name, false}, box.onChange);
@@ -168,18 +175,18 @@ void Leave(Session& session, TextBox& box) {
 }
 
 void Step(Session& session, Spin& spin, int direction) {
-  Require(spin);
+  Require(session, spin);
   RunAct(session, {NameOf(spin)}, direction > 0 ? spin.onUp : spin.onDown);
 }
 
 void SetNumber(Session& session, Spin& spin, i32 number) {
-  Require(spin);
+  Require(session, spin);
   if (!spin.onSet) throw ActRefused(spin.name + " takes no number");
   RunAct(session, {NameOf(spin), spin.name, false}, [&spin, number] { spin.onSet(number); });
 }
 
 void Choose(Session& session, ListBox& list, int line) {
-  Require(list);
+  Require(session, list);
   if (line < 1 || line > static_cast<int>(list.items.size())) {
     throw ActRefused(list.name + " has no line " + std::to_string(line));
   }
@@ -192,11 +199,12 @@ void Tick(Session& session, Timer& timer) {
 }
 
 void PressCloseBox(Session& session, Page& page) {
+  RequireOnTop(session, page, "The close box");
   RunAct(session, {page.title}, [&page] { page.CloseBox(); });
 }
 
 void Mouse(Session& session, PictureBox& box, MouseAct act, f32 x, f32 y, MouseButton button) {
-  Require(box);
+  Require(session, box);
   if (const HitArea* area = AreaThatTakes(box, act, x, y, button)) {
     if (area->enabled) RunAct(session, {area->SpokenName()}, std::function<void()>(area->onPress));
     return;
@@ -211,7 +219,7 @@ bool HearsMouse(const PictureBox& box, MouseAct act, f32 x, f32 y, MouseButton b
 }
 
 void PressArea(Session& session, PictureBox& box, std::string_view name) {
-  Require(box);
+  Require(session, box);
   const HitArea* area = box.FindArea(name);
   if (area == nullptr) throw ActRefused(box.name + " has no area " + std::string(name));
   if (!area->enabled) throw ActRefused(area->name + " is disabled");

@@ -13,7 +13,8 @@ namespace quilm {
 
 class Session;
 
-// The user could not have done that: the control is hidden or disabled, or takes no such act. what() says which.
+// The user could not have done that: the control is hidden or disabled, lies below the page on top, or takes no such
+// act. what() says which.
 class ActRefused : public Fault {
  public:
   using Fault::Fault;

@@ -46,6 +46,9 @@ class Control {
   // The name that assistive tools speak: accessibleName, else the caption, else the tool tip, else the name.
   std::string SpokenName() const;
 
+  // The page that it stands on.
+  const Page& Owner() const { return page_; }
+
  private:
   bool EnabledWithContainer() const;
 

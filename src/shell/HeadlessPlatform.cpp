@@ -73,9 +73,10 @@ void HeadlessPlatform::Beep() {
   if (onBeep) onBeep();
 }
 
-void HeadlessPlatform::ShellOpen(const std::string& path) {
+bool HeadlessPlatform::ShellOpen(const std::string& path) {
   opened.push_back(path);
   if (onShellOpen) onShellOpen(path);
+  return hasBrowser;
 }
 
 bool HeadlessPlatform::ShowSystemInformation() {

@@ -88,6 +88,7 @@ class HeadlessPlatform : public Platform {
   std::function<void(const std::string&)> onShellOpen;
   std::function<void(const SheetPrinter&)> onPrinted;
 
+  bool hasBrowser = true;         // whether ShellOpen finds a program
   std::optional<DateTime> clock;  // the machine's own when not set
 
   // What happened.
@@ -105,7 +106,7 @@ class HeadlessPlatform : public Platform {
                                         const std::string& defaultName) override;
   Canvas* PrintDialog() override;
   void Beep() override;
-  void ShellOpen(const std::string& path) override;
+  bool ShellOpen(const std::string& path) override;
   bool ShowSystemInformation() override;
   void Yield() override;
   f64 YieldInterval() const override { return yieldInterval; }

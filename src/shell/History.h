@@ -163,6 +163,9 @@ class History {
     std::optional<OpenTool> outerTool_;
   };
 
+  // The record as the running act found it; nullptr when none runs.
+  const DesignRecord* FoundByAct() const { return act_.acting ? &act_.found : nullptr; }
+
   // Whether such a tool is open.
   bool HasTool() const { return tool_.has_value(); }
 

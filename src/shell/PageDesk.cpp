@@ -69,7 +69,13 @@ void PageDesk::Show(PageId id, void (Page::*load)()) {
   if (Top() == &page) session_.platform.PageShown(page);
 }
 
+// A second press of the button that opens it must not run the page's loop twice.
+void PageDesk::RequireClosed(PageId id) const {
+  if (Find(id) != nullptr) throw ActRefused(std::string(FormName(id)) + " is open");
+}
+
 void PageDesk::ShowModal(PageId id) {
+  RequireClosed(id);
   Page& page = Open(id, &Page::Load);
   if (Find(id) == &page) session_.platform.RunModal(page);
 }
@@ -80,6 +86,8 @@ Page* PageDesk::BesideOf(const Page& tool) const {
   return at == beside_.end() ? nullptr : at->page;
 }
 
+bool PageDesk::TakesActs(const Page& page) const { return Top() == &page || Beside() == &page; }
+
 Page* PageDesk::Beside() const { return open_.empty() ? nullptr : BesideOf(*open_.back()); }
 
 void PageDesk::ShowBeside(PageId id, std::vector<const Control*> free) {
@@ -87,6 +95,7 @@ void PageDesk::ShowBeside(PageId id, std::vector<const Control*> free) {
   if (opener == nullptr) throw Fault("There is no page to stand beside");
   Page* main = BesideOf(*opener) == nullptr ? opener : BesideOf(*opener);
   if (!HasSidePlace(main->MakeLayout())) throw Fault(std::string(main->Name()) + " has no place beside its picture");
+  RequireClosed(id);
   Page& tool = Open(id, &Page::Load);
   if (Find(id) != &tool) return;
   const PageLock mainLock(*main, std::move(free));

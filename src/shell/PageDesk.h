@@ -35,7 +35,8 @@ class PageDesk {
   // The same with the page's Reload in place of its load step: it shows the session as it stands.
   void ShowAnew(PageId id);
 
-  // As ShowPage, and returns when the page has closed.
+  // As ShowPage, and returns when the page has closed. A page that is open is not opened again, here or beside another
+  // one: whoever asks for it is refused (ActRefused, Acts.h).
   void ShowModal(PageId id);
 
   // The same for a tool that works on the page on top, which stays in sight and is shown anew after each handler: the
@@ -46,6 +47,9 @@ class PageDesk {
 
   // The page that the one on top stands beside; nullptr when it stands alone.
   Page* Beside() const;
+
+  // Whether the user can act on the page: it is on top, or the one on top stands beside it.
+  bool TakesActs(const Page& page) const;
 
   // Closes the page, with what stands beside it; nothing when it is not open. The page object lives on until the
   // handler that runs has returned.
@@ -67,6 +71,7 @@ class PageDesk {
 
   void Show(PageId id, void (Page::*load)());
   Page& Open(PageId id, void (Page::*load)());
+  void RequireClosed(PageId id) const;
   Page* BesideOf(const Page& tool) const;
 
   Session& session_;

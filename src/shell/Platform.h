@@ -43,7 +43,8 @@ class Platform {
   virtual Canvas* PrintDialog() = 0;
 
   virtual void Beep() = 0;
-  virtual void ShellOpen(const std::string& path) = 0;
+  // Opens a document or an address with the program that the desktop has for it; false when there is none.
+  virtual bool ShellOpen(const std::string& path) = 0;
 
   // Starts the operating system's own system information tool; false when there is none.
   virtual bool ShowSystemInformation() = 0;

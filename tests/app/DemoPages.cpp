@@ -75,6 +75,7 @@ OtherPage::OtherPage(Session& session) : Page(session, PageId::Plotted, "Other")
 }
 
 DemoForm::DemoForm(Session& session) : Page(session, PageId::EnterWidth, "Enter width") {
+  txtValue.text = session.note;
   cmdOk.onClick = [this] {
     session_.note = "ok " + txtValue.text;
     session_.pages.UnloadPage(Id());

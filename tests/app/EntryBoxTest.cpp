@@ -1,6 +1,7 @@
 // Typing in real entry boxes.
 #include <QLineEdit>
 #include <QMenu>
+#include <QMouseEvent>
 #include <QWheelEvent>
 
 #include "DemoPages.h"
@@ -39,6 +40,60 @@ TEST_F(EntryBoxInWindow, ReachingABoxByTabSelectsItsText) {
   Enter("100");
   QTest::keyClicks(Box(), "5");
   EXPECT_EQ(Demo().txtWidth.text, "5");
+}
+
+TEST_F(EntryBoxInWindow, AClickThatBringsTheFocusSelectsItsText) {
+  Enter("100");
+  Widget("txtRipple")->setFocus();
+  Demo().txtWidth.text = "100";
+  desktop.platform.Stage().Sync();
+  QTest::mouseClick(Box(), Qt::LeftButton, {}, QPoint(6, Box()->height() / 2));
+  EXPECT_EQ(Box()->selectedText(), "100");
+  QTest::keyClicks(Box(), "5");
+  EXPECT_EQ(Demo().txtWidth.text, "5");
+}
+
+TEST_F(EntryBoxInWindow, AClickInTheBoxPutsTheCursorThere) {
+  Enter("100");
+  QTest::qWait(QApplication::doubleClickInterval() + 50);
+  QTest::mouseClick(Box(), Qt::LeftButton, {}, QPoint(6, Box()->height() / 2));
+  EXPECT_FALSE(Box()->hasSelectedText());
+  EXPECT_EQ(Box()->cursorPosition(), 0);
+}
+
+TEST_F(EntryBoxInWindow, DrawingTheMouseOverAPartSelectsThatPart) {
+  Demo().txtWidth.text = "100";
+  desktop.platform.Stage().Sync();
+  const int y = Box()->height() / 2;
+  QTest::mousePress(Box(), Qt::LeftButton, {}, QPoint(1, y));
+  const int twoDigits = 6 + Box()->fontMetrics().horizontalAdvance(QStringLiteral("10"));
+  QMouseEvent move(QEvent::MouseMove, QPointF(twoDigits, y), Box()->mapToGlobal(QPointF(twoDigits, y)), Qt::NoButton,
+                   Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(Box(), &move);
+  QTest::mouseRelease(Box(), Qt::LeftButton, {}, QPoint(twoDigits, y));
+  EXPECT_EQ(Box()->selectedText(), "10");
+}
+
+TEST_F(EntryBoxInWindow, AFocusFromTheProgramSelectsItsText) {
+  Demo().txtWidth.text = "100";
+  Demo().SetFocus(Demo().txtWidth);
+  desktop.platform.Stage().Sync();
+  EXPECT_EQ(Box()->selectedText(), "100");
+  Demo().txtWidth.text = "250";  // a rule has changed it meanwhile
+  desktop.platform.Stage().Sync();
+  EXPECT_EQ(Box()->selectedText(), "250");
+}
+
+TEST_F(EntryBoxInWindow, ComingBackToTheWindowIsNoEnteringOfTheBox) {
+  Enter("100");
+  QTest::keyClicks(Box(), "77");
+  QFocusEvent away(QEvent::FocusOut, Qt::ActiveWindowFocusReason);
+  QApplication::sendEvent(Box(), &away);
+  QFocusEvent back(QEvent::FocusIn, Qt::ActiveWindowFocusReason);
+  QApplication::sendEvent(Box(), &back);
+  EXPECT_FALSE(Box()->hasSelectedText());
+  QTest::keyClicks(Box(), "7");
+  EXPECT_EQ(Demo().txtWidth.text, "777");
 }
 
 TEST_F(EntryBoxInWindow, LeavingEchoesWhatWasUnderstood) {

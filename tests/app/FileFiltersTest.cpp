@@ -11,11 +11,33 @@ TEST(NameFilters, PatternsStandInBothCases) {
 
 TEST(NameFilters, SeveralPairsFollowOneAnother) {
   EXPECT_EQ(NameFilters("Touchstone (*.s2p)|*.s2p;*.snp|All files (*.*)|*.*"),
-            (QStringList{"Touchstone (*.S2P *.s2p *.SNP *.snp)", "All files (*.*)"}));
+            (QStringList{"Touchstone (*.s2p *.S2P *.snp *.SNP)", "All files (*.*)"}));
 }
 
 TEST(NameFilters, ANameWithoutPatternsIsEnough) {
   EXPECT_EQ(NameFilters("Netlists|*.CIR"), QStringList{"Netlists (*.CIR *.cir)"});
+}
+
+const QStringList pictures{"PNG picture (*.png *.PNG)", "SVG drawing (*.svg *.SVG)", "PDF document (*.pdf *.PDF)"};
+
+TEST(RightEnding, AnEndingOfTheFiltersDecides) {
+  EXPECT_EQ(WithRightEnding("/a/plot.svg", pictures, pictures[0]), "/a/plot.svg");
+  EXPECT_EQ(WithRightEnding("/a/plot.PDF", pictures, pictures[0]), "/a/plot.PDF");
+}
+
+TEST(RightEnding, AnEndingOfAnotherPictureIsReplaced) {
+  EXPECT_EQ(WithRightEnding("/a/plot.jpg", pictures, pictures[0]), "/a/plot.png");
+  EXPECT_EQ(WithRightEnding("/a/plot.JPEG", pictures, pictures[1]), "/a/plot.svg");
+}
+
+TEST(RightEnding, WhatMayBeAPartOfTheNameIsKept) {
+  EXPECT_EQ(WithRightEnding("/a/plot", pictures, pictures[0]), "/a/plot.png");
+  EXPECT_EQ(WithRightEnding("/a/at 1.5 GHz", pictures, pictures[2]), "/a/at 1.5 GHz.pdf");
+}
+
+TEST(RightEnding, WhereThereIsOneKindTheNameIsFree) {
+  EXPECT_EQ(WithRightEnding("/a/design.txt", {"Quilm files (*.QLM *.qlm)"}, "Quilm files (*.QLM *.qlm)"),
+            "/a/design.txt");
 }
 
 TEST(SuffixOf, IsTheFirstExtension) {

@@ -1,4 +1,5 @@
 // Modal pages in nested event loops, and the end of the program from inside them.
+#include <QAbstractButton>
 #include <QElapsedTimer>
 #include <QTimer>
 
@@ -37,6 +38,15 @@ TEST_F(ModalPage, ItsFirstBoxHasTheFocus) {
     EXPECT_EQ(desktop.TopView()->focusWidget(), Widget("txtValue"));
     ClickOn("cmdOk");
   });
+}
+
+TEST_F(ModalPage, ItsFirstBoxHasItsTextSelected) {
+  desktop.session.note = "0.01";
+  WithForm([this] {
+    QTest::keyClicks(Widget("txtValue"), "50");
+    ClickOn("cmdOk");
+  });
+  EXPECT_EQ(desktop.session.note, "ok 50");
 }
 
 TEST_F(ModalPage, ReturnPressesTheAcceptButton) {
@@ -82,11 +92,26 @@ TEST_F(ModalPage, TheEndOfTheProgramUnwindsEverything) {
   EXPECT_THAT(Demo().log, Not(Contains("asked")));
 }
 
-TEST_F(ModalPage, TheMainCloseBoxEndsTheProgramFromUnderIt) {
-  WithForm([this] { desktop.platform.Stage().PressCloseBox(); });
-  EXPECT_TRUE(desktop.session.ended);
-  EXPECT_EQ(desktop.session.note, "stored");
-  EXPECT_THAT(Demo().log, Not(Contains("asked")));
+TEST_F(ModalPage, TheMainCloseBoxIsOutOfReachUnderIt) {
+  WithForm([this] {
+    desktop.platform.Stage().PressCloseBox();
+    EXPECT_FALSE(desktop.session.ended);
+    ClickOn("cmdIgnore");
+  });
+  EXPECT_THAT(Demo().log, Contains("asked"));
+}
+
+// A letter and a screen reader press a button a tenth of a second later.
+TEST_F(ModalPage, APressThatComesWhenThePageHasOpenedIsRefused) {
+  constexpr int untilItComes = 200;
+  auto* ask = Widget<QAbstractButton>("cmdAsk");
+  auto* get = Widget<QAbstractButton>("cmdGet");
+  ask->animateClick();
+  get->animateClick();
+  QTimer::singleShot(untilItComes, qApp, [this] { ClickOn("cmdIgnore"); });
+  ask->click();
+  EXPECT_THAT(Demo().log, testing::ElementsAre("asked"));
+  EXPECT_EQ(desktop.session.handlerDepth, 0);
 }
 
 TEST_F(ModalPage, AHandlerInsideYieldMayEndTheProgram) {

@@ -1,17 +1,23 @@
 #include "app/PictureView.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QClipboard>
 #include <QContextMenuEvent>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QFileDialog>
 #include <QFileInfo>
+#include <QLineEdit>
 #include <QMenu>
+#include <QPointer>
 #include <cmath>
 #include <ctime>
 #include <memory>
 
 #include "DemoPages.h"
+#include "app/MessageWindow.h"
+#include "core/Identity.h"
 
 namespace quilm {
 namespace {
@@ -412,6 +418,14 @@ TEST_F(PictureViewOfASquare, SavesEachKindOfFile) {
   }
 }
 
+TEST_F(PictureViewOfASquare, NoFileIsWrittenThatItsNameBelies) {
+  const QTemporaryDir folder;
+  for (const char* name : {"p.jpg", "p.txt", "p"}) {
+    EXPECT_FALSE(view.SaveAs(folder.filePath(name))) << name;
+    EXPECT_FALSE(QFile::exists(folder.filePath(name))) << name;
+  }
+}
+
 TEST_F(PictureViewOfASquare, AFileThatCannotBeWrittenIsTold) {
   for (const char* name : {"/nowhere/p.PNG", "/nowhere/p.SVG", "/nowhere/p.PDF"})
     EXPECT_FALSE(view.SaveAs(name)) << name;
@@ -498,6 +512,85 @@ TEST_F(MenuOverThePlot, ASecondMenuReleasesNothing) {
   OpenMenu();
   OpenMenu();
   EXPECT_THAT(Demo().log, ElementsAre("down 65 40", "up left"));
+}
+
+// In no loop of its own, so that the page can go while it is open.
+TEST_F(MenuOverThePlot, ItGoesWithThePage) {
+  const QPoint place = View().Paper().center().toPoint();
+  QContextMenuEvent event(QContextMenuEvent::Mouse, place, View().mapToGlobal(place));
+  QApplication::sendEvent(&View(), &event);
+  const QPointer<QWidget> menu = QApplication::activePopupWidget();
+  ASSERT_FALSE(menu.isNull());
+  Widget<QAbstractButton>("cmdPlot")->click();  // a key that was pressed before acts now
+  QTest::qWait(5);
+  EXPECT_EQ(desktop.session.pages.Top()->Id(), PageId::Plotted);
+  EXPECT_TRUE(menu.isNull());
+  EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+}
+
+// Chooses "Save picture as..." and gives the dialog a name; what stands there is offered.
+class SavingThePlot : public MenuOverThePlot {
+ protected:
+  void SetUp() override { QApplication::setAttribute(Qt::AA_DontUseNativeDialogs); }
+  static QLineEdit* NameBox() {
+    auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+    return dialog == nullptr ? nullptr : dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+  }
+  void SaveAs(
+      const char* name, const std::function<void()>& afterwards = [] {}) {
+    Soon([this, name, afterwards] {
+      ASSERT_NE(NameBox(), nullptr);
+      offered = NameBox()->text();
+      if (*name == 0) {
+        qobject_cast<QDialog*>(QApplication::activeModalWidget())->reject();
+        return;
+      }
+      Soon(afterwards);
+      NameBox()->setText(folder.filePath(QString::fromLatin1(name)));
+      QTest::keyClick(NameBox(), Qt::Key_Return);
+    });
+    emit View().SaveRequested();
+  }
+  bool IsPng(const char* name) const {
+    QFile file(folder.filePath(QString::fromLatin1(name)));
+    return file.open(QIODevice::ReadOnly) && file.readAll().startsWith("\x89PNG");
+  }
+  QString offered;
+};
+
+TEST_F(SavingThePlot, ANameIsOfferedAndTheStatusLineTellsWhatWasWritten) {
+  desktop.session.identity.CircuitTitle = "My first filter";
+  SaveAs("a.png");
+  EXPECT_EQ(offered, "My first filter demo.png");
+  EXPECT_TRUE(IsPng("a.png"));
+  EXPECT_EQ(desktop.window.StatusRight(), "Wrote " + folder.filePath("a.png"));
+}
+
+TEST_F(SavingThePlot, APngIsNeverCalledJpg) {
+  SaveAs("a.jpg");
+  EXPECT_FALSE(QFile::exists(folder.filePath("a.jpg")));
+  EXPECT_TRUE(IsPng("a.png"));
+  EXPECT_EQ(desktop.window.StatusRight(), "Wrote " + folder.filePath("a.png"));
+}
+
+TEST_F(SavingThePlot, ANameThatWasPutRightReplacesNothingUnasked) {
+  QFile there(folder.filePath("a.png"));
+  ASSERT_TRUE(there.open(QIODevice::WriteOnly));
+  there.write("kept");
+  there.close();
+  SaveAs("a.jpg", [this] {
+    auto* question = qobject_cast<MessageWindow*>(QApplication::activeModalWidget());
+    ASSERT_NE(question, nullptr);
+    EXPECT_TRUE(question->Text().contains("a.png already exists"));
+    Soon([] { qobject_cast<QDialog*>(QApplication::activeModalWidget())->reject(); });  // the dialog, asked again
+    question->reject();
+  });
+  EXPECT_FALSE(IsPng("a.png"));
+}
+
+TEST_F(SavingThePlot, ACancelledDialogTellsNothing) {
+  SaveAs("");
+  EXPECT_EQ(desktop.session.note, "");
 }
 
 TEST_F(DemoProgram, APictureTakesTheRoomThatIsLeft) {

@@ -45,6 +45,22 @@ TEST_F(ActsTest, EveryActOnADisabledControlIsRefused) {
   EXPECT_EQ(page.txtValue.text, "");
 }
 
+TEST_F(ActsTest, EveryActBelowThePageOnTopIsRefused) {
+  page.lstLines.items = {"one"};
+  bench.Show(PageId::EnterWidth);
+  EXPECT_EQ(Refusal([&] { Click(session, page.cmdGo); }), "cmdGo is not on the page on top");
+  EXPECT_EQ(Refusal([&] { Click(session, page.optOne); }), "optOne is not on the page on top");
+  EXPECT_EQ(Refusal([&] { Type(session, page.txtValue, "1"); }), "txtValue is not on the page on top");
+  EXPECT_EQ(Refusal([&] { Step(session, page.UpDown1, 1); }), "UpDown1 is not on the page on top");
+  EXPECT_EQ(Refusal([&] { Choose(session, page.lstLines, 1); }), "lstLines is not on the page on top");
+  EXPECT_EQ(Refusal([&] { Mouse(session, page.picPlot, MouseAct::Down, 0, 0, MouseButton::Left); }),
+            "picPlot is not on the page on top");
+  EXPECT_EQ(Refusal([&] { PressCloseBox(session, page); }), "The close box is not on the page on top");
+  EXPECT_FALSE(page.optOne.Value());
+  EXPECT_EQ(page.txtValue.text, "");
+  EXPECT_TRUE(page.IsOpen());
+}
+
 TEST_F(ActsTest, AFrameHidesAndDisablesWhatItHolds) {
   page.fraBox.Hold({&page.cmdGo});
   page.fraBox.enabled = false;

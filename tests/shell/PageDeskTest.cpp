@@ -64,6 +64,26 @@ TEST(PageDesk, TheTargetIsShownBeforeThePageIsUnloaded) {
   EXPECT_EQ(bench.session.pages.Top()->Id(), PageId::Plotted);
 }
 
+TEST(PageDesk, APageThatIsOpenIsNotOpenedAgain) {
+  ShellBench bench;
+  BenchPage& page = bench.Show();
+  int asked = 0;
+  page.cmdGo.onClick = [&] {
+    ++asked;
+    bench.session.pages.ShowModal(PageId::EnterWidth);
+  };
+  bench.platform.modalActs.push_back([&](Page& form) {
+    EXPECT_THROW(Click(bench.session, page.cmdGo), ActRefused);  // the second press was on its way
+    EXPECT_THROW(bench.session.pages.ShowModal(PageId::EnterWidth), ActRefused);
+    EXPECT_EQ(bench.session.pages.Top(), &form);
+  });
+  Click(bench.session, page.cmdGo);
+  EXPECT_EQ(asked, 1);
+  EXPECT_THAT(bench.platform.pageEvents, ElementsAre("show frmDesign", "modal frmEnterWidth", "unload frmEnterWidth"));
+  EXPECT_THAT(bench.log, ElementsAre("load frmDesign", "load frmEnterWidth", "destroyed frmEnterWidth"));
+  EXPECT_EQ(bench.session.handlerDepth, 0);
+}
+
 TEST(PageDesk, APageOutlivesItsOwnHandler) {
   ShellBench bench;
   BenchPage& page = bench.Show();

@@ -3,6 +3,7 @@
 #include <filesystem>
 
 #include "core/Identity.h"
+#include "desk/HelpPages.h"
 #include "files/modReadQuilmFiles.h"
 #include "files/modWriteQuilmFile.h"
 #include "schematic/LadderPicture.h"
@@ -16,7 +17,7 @@ frmOpening::frmOpening(Session& session) : Page(session, PageId::Opening, "Quilm
   lblTitle.emphasised = true;
   cmdDesignNew.onClick = [this] { GoTo(PageId::Design); };
   cmdManualEntry.onClick = [this] { GoTo(PageId::ManualEntry); };
-  cmdGoTo.onClick = [this] { session_.platform.ShellOpen(session_.platform.HelpFolder() + "/updates.htm"); };
+  cmdGoTo.onClick = [this] { OpenHelp(session_, "updates.htm"); };
   cmdExitOpening.onClick = [this] { Leave(); };
   cmdLastSession.onClick = [this] { ContinueLastSession(); };
   cmdRetrieveOld.onClick = [this] { GoOn(GetDesign(session_, "Get Quilm File")); };
