@@ -181,6 +181,17 @@ TEST_F(UndoOfDesigns, ThePlotIsDrawnOfTheDesignThatCameBack) {
   EXPECT_EQ(Get<PictureBox>("picPlot").picture, wide);
 }
 
+// The Analysis page fills what is missing when it is opened, and not when an undo or a redo brings it back.
+TEST_F(UndoOfDesigns, AStartThatIsNoneComesBackAsItWas) {
+  Press("cmdAnalysis");
+  Enter("txtFstart", "-3");
+  Press("cmdDesign");
+  Undo(session);
+  Redo(session);
+  EXPECT_EQ(Top().Id(), PageId::Analyze);
+  EXPECT_EQ(Record().Fstart, -3);
+}
+
 // Each load of the plot is a sweep.
 class CountedPlot : public frmPlotted {
  public:

@@ -94,11 +94,16 @@ void frmAnalyze::ConnectSpins() {
   UpDown3_.onDown = [this] { StepLineWidth(-1); };
 }
 
-void frmAnalyze::Load() {
+void frmAnalyze::Load() { Show(Missing::AreFilled); }
+
+// A sweep without a start that an undo brings back keeps none.
+void frmAnalyze::Reload() { Show(Missing::Stay); }
+
+void frmAnalyze::Show(Missing missing) {
   navigation_.Load();
   cmdAssistance_.enabled = session_.pages.Has(PageId::EntryAssistance);
   try {
-    FillMissingEntries(session_.record, session_.configuration);
+    if (missing == Missing::AreFilled) FillMissingEntries(session_.record, session_.configuration);
     entries.Fill();
     ShowOptions();
     ShowLabels();

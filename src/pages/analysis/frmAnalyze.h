@@ -12,6 +12,7 @@ class frmAnalyze : public Page {
   explicit frmAnalyze(Session& session);
   void Load() override;
   void CatchUp() override;
+  void Reload() override;
   void CloseBox() override;
   Layout MakeLayout() override;
 
@@ -31,6 +32,8 @@ class frmAnalyze : public Page {
   bool MayGoTo(PageId target);
   void ScaleToResponse();
   void FitToBand();
+  enum class Missing { AreFilled, Stay };
+  void Show(Missing missing);
   void ShowOptions();
   void ShowLabels();
   Layout SweepGroup();
