@@ -19,6 +19,12 @@ class Focus {
 
   void Give(Page& page, TextBox& box) { boxes_[&page] = &box; }
 
+  // Whether the box has it on its page.
+  bool Has(const Page& page, const TextBox& box) const {
+    const auto at = boxes_.find(&page);
+    return at != boxes_.end() && at->second == &box;
+  }
+
   // Obeys where the code of the page on top wants the focus.
   void FollowWish();
 

@@ -30,6 +30,7 @@ struct ScriptError {
   int line = 0;
   std::string command;
   std::string reason;
+  bool fault = false;  // an exception that came out of the program; else the command asked for what cannot be done
 };
 Json ErrorEvent(const ScriptError& error);
 

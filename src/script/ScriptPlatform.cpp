@@ -2,6 +2,10 @@
 
 namespace quilm {
 
+void ScriptPlatform::Ask(Asks what) const {
+  if (onAsked) onAsked(what);
+}
+
 void ScriptPlatform::RequireAnswer(const std::string& text, Buttons buttons) const {
   if (answers.empty()) {
     if (buttons == Buttons::YesNo) throw CommandFailure{"no answer is queued for the question: " + text};
@@ -24,19 +28,27 @@ void ScriptPlatform::RequireFile(const std::string& title, bool save) const {
 }
 
 Answer ScriptPlatform::MessageBox(const std::string& text, Buttons buttons, Icon icon, const std::string& title) {
+  Ask(buttons == Buttons::YesNo ? Asks::Question : Asks::Message);
   RequireAnswer(text, buttons);
   return HeadlessPlatform::MessageBox(text, buttons, icon, title);
 }
 
 std::optional<std::string> ScriptPlatform::OpenDialog(const std::string& title, const std::string& filter) {
+  Ask(Asks::OpenFile);
   RequireFile(title, false);
   return HeadlessPlatform::OpenDialog(title, filter);
 }
 
 std::optional<std::string> ScriptPlatform::SaveDialog(const std::string& title, const std::string& filter,
                                                       const std::string& defaultName) {
+  Ask(Asks::SaveFile);
   RequireFile(title, true);
   return HeadlessPlatform::SaveDialog(title, filter, defaultName);
+}
+
+Canvas* ScriptPlatform::PrintDialog() {
+  Ask(Asks::Printer);
+  return HeadlessPlatform::PrintDialog();
 }
 
 void ScriptPlatform::RunModal(Page& page) {

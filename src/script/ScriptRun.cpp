@@ -74,11 +74,17 @@ void ScriptRun::Execute(const Command& command) {
     RunCommand(*this, command);
     focus.FollowWish();
   } catch (const CommandFailure& failure) {
-    throw ScriptError{command.line, command.text, failure.reason};
+    Fail({command.line, command.text, failure.reason});
+  } catch (const ActRefused& refused) {
+    Fail({command.line, command.text, refused.what()});
   } catch (const std::exception& fault) {
-    throw ScriptError{command.line, command.text, fault.what()};
+    Fail({command.line, command.text, fault.what(), true});
   }
   present_ = outer;
+}
+
+void ScriptRun::Fail(const ScriptError& error) const {
+  if (!goesOn || !goesOn(error)) throw error;
 }
 
 void ScriptRun::RunModal(Page& page) {

@@ -32,6 +32,10 @@ class ScriptRun {
   // The command that is being done, outermost or inside a modal page or a yield.
   const Command& Present() const { return *present_; }
 
+  // Asked when a command fails: true goes on with the next one, as a user would who has found a button grey. Without it
+  // the run ends.
+  std::function<bool(const ScriptError&)> goesOn;
+
   ScriptPlatform platform;
   Session session;
   Focus focus;
@@ -44,6 +48,7 @@ class ScriptRun {
 
   void Connect();
   void Execute(const Command& command);
+  void Fail(const ScriptError& error) const;
   void RunModal(Page& page);
   void Yielded();
 

@@ -56,13 +56,15 @@ class Entry {
   // Shows what a rule put into the field: the box as repaired, and a note.
   void Repair();
 
+  // What the box shows of the field when it is filled.
+  std::string Shown() const;
+
   // Whether the box says what the field holds.
   bool Agrees() const;
 
   std::string Refusal() const { return binding_.refusal ? binding_.refusal(binding_.field) : std::string(); }
 
  private:
-  std::string Shown() const;
   f32 Typed() const;  // what the parser makes of the box
   void Note(const std::string& typed);
 
