@@ -240,7 +240,8 @@ int main(int argc, char** argv) {
   if (percent.isEmpty()) return RunAllDensities(QApplication::applicationFilePath(), folder);
 
   for (const char* palette : {"light", "dark"}) {
-    SetAppearance(QString::fromLatin1(palette));
+    // What users see: the palette that the program starts with where the system gives none, and its dark one.
+    SetAppearance(QLatin1String(palette) == QLatin1String("dark") ? QStringLiteral("dark") : QString());
     for (const QSize size : {QSize(1024, 700), QSize(1280, 860), QSize(1920, 1080)}) {
       const QString name = QStringLiteral("%1/%2-%3-%4x%5")
                                .arg(folder, QString::fromLatin1(palette), percent)

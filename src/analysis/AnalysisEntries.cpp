@@ -28,6 +28,14 @@ f32 ReferenceOf(const DesignRecord& record) {
   return 50;
 }
 
+std::string Trimmed(std::string figure) {
+  while (!figure.empty() && figure.back() == ' ') figure.pop_back();
+  return figure;
+}
+
+// One blank between a figure and its unit, whether its format ends in one or not.
+std::string WithUnit(const std::string& figure, const char* unit) { return Trimmed(figure) + ' ' + unit; }
+
 }  // namespace
 
 void FillMissingQualities(Network& network, const Configuration& configuration) {
@@ -73,27 +81,27 @@ void HoldAnalysisEntries(DesignRecord& record, const Configuration& configuratio
 }
 
 std::string SpanText(const DesignRecord& record) {
-  return "Span: " + FormatFrequency(record.Fstop - record.Fstart) + "Hz";
+  return "Span: " + WithUnit(FormatFrequency(record.Fstop - record.Fstart), "Hz");
 }
 
 std::string FrequencyPerIntervalText(const DesignRecord& record) {
-  return FormatFrequency((record.Fstop - record.Fstart) / record.NrXints) + "Hz per interval";
+  return WithUnit(FormatFrequency((record.Fstop - record.Fstart) / record.NrXints), "Hz") + " per interval";
 }
 
 std::string LossPerIntervalText(const DesignRecord& record) {
-  return "per interval: " + FormatValue(std::fabs(record.LossBottom / record.NrYints)) + " dB";
+  return "per interval: " + WithUnit(FormatValue(std::fabs(record.LossBottom / record.NrYints)), "dB");
 }
 
 std::string DelayPerIntervalText(const DesignRecord& record) {
-  return "per interval: " + FormatTime(std::fabs(record.DelayTop / record.NrYints)) + "secs";
+  return "per interval: " + WithUnit(FormatTime(std::fabs(record.DelayTop / record.NrYints)), "secs");
 }
 
 std::string ImpedancePerIntervalText(const DesignRecord& record) {
-  return "per interval: " + FormatResistance(std::fabs(record.ImpedanceTop / record.NrYints)) + " ohms";
+  return "per interval: " + WithUnit(FormatResistance(std::fabs(record.ImpedanceTop / record.NrYints)), "ohms");
 }
 
 std::string VSWRPerIntervalText(const DesignRecord& record) {
-  return "per interval: " + FormatValue((record.VSWRTop - 1) / record.NrYints);
+  return "per interval: " + Trimmed(FormatValue((record.VSWRTop - 1) / record.NrYints));
 }
 
 }  // namespace quilm

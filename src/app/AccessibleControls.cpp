@@ -1,6 +1,7 @@
 #include "app/AccessibleControls.h"
 
 #include <QAccessibleWidget>
+#include <QRadioButton>
 
 #include "app/GroupBox.h"
 #include "app/SpinBox.h"
@@ -54,9 +55,36 @@ class AccessibleSpin : public QAccessibleWidget, public QAccessibleValueInterfac
   SpinBox& box_;
 };
 
+// The toolkit takes an option whose group is not its own for a check box.
+class AccessibleOption : public QAccessibleWidget {
+ public:
+  explicit AccessibleOption(QRadioButton& option)
+      : QAccessibleWidget(&option, QAccessible::RadioButton), option_(option) {}
+
+  QAccessible::State state() const override {
+    QAccessible::State state = QAccessibleWidget::state();
+    state.checkable = true;
+    state.checked = option_.isChecked();
+    return state;
+  }
+
+  QStringList actionNames() const override { return {pressAction(), setFocusAction()}; }
+  void doAction(const QString& action) override {
+    if (action == pressAction()) {
+      option_.click();
+    } else {
+      QAccessibleWidget::doAction(action);
+    }
+  }
+
+ private:
+  QRadioButton& option_;
+};
+
 QAccessibleInterface* MakeAccessible(const QString& /*className*/, QObject* object) {
   if (auto* spin = qobject_cast<SpinBox*>(object)) return new AccessibleSpin(*spin);
   if (auto* group = qobject_cast<GroupBox*>(object)) return new AccessibleGroup(*group);
+  if (auto* option = qobject_cast<QRadioButton*>(object)) return new AccessibleOption(*option);
   return nullptr;
 }
 

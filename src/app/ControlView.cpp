@@ -5,6 +5,7 @@
 #include "app/ListView.h"
 #include "app/PlainViews.h"
 #include "app/QtText.h"
+#include "app/TableView.h"
 
 namespace quilm {
 
@@ -50,6 +51,9 @@ std::unique_ptr<ControlView> MakeControlView(Control& control, ActSink& sink, QW
     case ControlKind::Frame:
       return std::make_unique<FrameView>(static_cast<Frame&>(control), parent);
     case ControlKind::List:
+      if (!static_cast<ListBox&>(control).columns.empty()) {
+        return std::make_unique<TableView>(static_cast<ListBox&>(control), sink, parent);
+      }
       return std::make_unique<ListView>(static_cast<ListBox&>(control), sink, parent);
     case ControlKind::Spin:
       return std::make_unique<SpinView>(static_cast<Spin&>(control), sink, parent);

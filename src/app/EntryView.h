@@ -24,6 +24,8 @@ class EntryBox : public QLineEdit {
   void ShowText(const QString& text);
   // Shows briefly that a limit has replaced the text.
   void ShowRepair();
+  // Whether anything was typed since it was entered or left last.
+  bool IsTouched() const { return touched_; }
   // Leaves the box in the program's eyes while it keeps the focus; nothing when nothing was typed since.
   void LeaveIfTouched();
 

@@ -233,8 +233,12 @@ QWidget* PageView::FirstContent() const {
 }
 
 void PageView::FocusFirst() {
+  // When a page comes up, the toolkit puts the focus on what stands first of all.
   QWidget* wished = focusWidget();
-  if (wished == nullptr || wished == this) wished = FirstContent();
+  const bool navigates = std::any_of(views_.begin(), views_.end(), [this, wished](const auto& view) {
+    return view->Widget() == wished && wished != nullptr && !IsContent(*view);
+  });
+  if (wished == nullptr || wished == this || navigates) wished = FirstContent();
   if (wished != nullptr) {
     wished->setFocus(Qt::TabFocusReason);
   } else {
@@ -288,12 +292,25 @@ bool PageView::PressFocused() {
   return true;
 }
 
+// Where there are several boxes, Return in one that was typed in shows what was understood and keeps the page: the
+// other boxes may still be waiting.
+bool PageView::TakeEntry() {
+  const auto* box = qobject_cast<EntryBox*>(QApplication::focusWidget());
+  if (box == nullptr || !isAncestorOf(box) || !box->IsTouched()) return false;
+  const auto boxes = std::count_if(views_.begin(), views_.end(), [](const auto& view) {
+    return view->Shows().kind == ControlKind::Text && view->Shows().Usable();
+  });
+  if (boxes < 2) return false;
+  LeaveBox();
+  return true;
+}
+
 bool PageView::TakeKey(const QKeyEvent& event) {
   if (page_ == nullptr) return false;
   switch (event.key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
-      if (PressFocused() || PressButton(page_->acceptButton)) return true;
+      if (PressFocused() || TakeEntry() || PressButton(page_->acceptButton)) return true;
       LeaveBox();
       return true;
     case Qt::Key_Escape:

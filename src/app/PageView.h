@@ -77,6 +77,7 @@ class PageView : public QWidget, public ActSink {
   void LeaveBox();
   bool PressButton(Button* button);
   bool PressFocused();
+  bool TakeEntry();
   PictureView* PictureToCopy() const;
   bool HasTool() const;
 

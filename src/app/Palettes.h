@@ -1,4 +1,4 @@
-// The two palettes by hand, for systems that give none and for pictures of the program.
+// The look of the program: its style, the two palettes by hand, and what is mended in the system's.
 #pragma once
 
 #include <QPalette>
@@ -8,6 +8,17 @@ namespace quilm {
 
 QPalette LightPalette();
 QPalette DarkPalette();
+
+// The system's palette with captions of what is disabled, and quiet ones, dark enough or light enough to be read. Only
+// these are its own; all other colours go on following the system.
+QPalette Legible(const QPalette& system);
+
+// The ring of an option's mark: seen on the window and on a card.
+QColor RingColor(const QPalette& palette, QPalette::ColorGroup group);
+
+// How far two opaque colours are apart, from 1 to 21: (L1 + 0.05) / (L2 + 0.05) of their relative luminances, as the
+// Web Content Accessibility Guidelines define it.
+double Contrast(const QColor& one, const QColor& other);
 
 // Sets the style of the program, and the palette that is asked for: "light", "dark", or anything else for the system's.
 void SetAppearance(const QString& palette);

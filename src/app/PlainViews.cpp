@@ -1,7 +1,6 @@
 #include "app/PlainViews.h"
 
 #include <QAccessible>
-#include <QFontDatabase>
 
 #include "app/QtText.h"
 #include "shell/Page.h"
@@ -27,12 +26,6 @@ bool HasLongLine(const QString& text) {
 LabelView::LabelView(Label& label, QWidget* parent) : ControlView(label), label_(label), widget_(new QLabel(parent)) {
   widget_->setTextFormat(Qt::PlainText);
   widget_->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
-  if (label.fixedPitch) {
-    // Above the rows of a table, in their font and at their distance from the edge.
-    constexpr int listEdge = 4;
-    widget_->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
-    widget_->setIndent(listEdge);
-  }
   if (label.emphasised) {
     QFont font = widget_->font();
     constexpr f64 larger = 1.25;

@@ -12,7 +12,7 @@ namespace {
 
 constexpr int arrowsWidth = 20;
 constexpr int textMargin = 5;
-constexpr int digits = 4;  // room for the number
+constexpr int digits = 5;  // room for the number
 constexpr int pauseMilliseconds = 2000;
 constexpr int firstRepeat = 300;
 constexpr int nextRepeat = 75;

@@ -14,6 +14,12 @@ constexpr f32 lowestPrinted = -120;  // dB
 
 std::string Decibels(f32 value) { return value < lowestPrinted ? "<-120" : FormatValue(value); }
 
+// A heading of the print without its blanks, comma and colon.
+std::string Bare(const std::string& heading) {
+  const std::size_t from = heading.find_first_not_of(' ');
+  return from == std::string::npos ? std::string() : heading.substr(from, heading.find_first_of(",:", from) - from);
+}
+
 std::string Justified(const TableRow& texts) {
   std::string row;
   for (const std::string& text : texts) {
@@ -43,8 +49,15 @@ std::vector<std::string> TabulatedRows(const DesignRecord& record, const Respons
   return rows;
 }
 
-std::string TabulatedHeadings() { return Justified(TableHeadings()); }
-
-std::string TabulatedUnits() { return Justified(TableUnits()); }
+std::vector<std::string> TableCaptions() {
+  const TableRow headings = TableHeadings();
+  const TableRow units = TableUnits();
+  std::vector<std::string> captions;
+  for (std::size_t column = 0; column < headings.size(); ++column) {
+    const std::string unit = Bare(units[column]);
+    captions.push_back(Bare(headings[column]) + (unit.empty() ? "" : " (" + unit + ")"));
+  }
+  return captions;
+}
 
 }  // namespace quilm

@@ -21,8 +21,7 @@ TableRow TableFields(const Responses& responses, int i);
 // One row a sweep point, each text right-justified in ten characters (longer ones take what they need).
 std::vector<std::string> TabulatedRows(const DesignRecord& record, const Responses& responses);
 
-// The headings over the rows, in the same fields.
-std::string TabulatedHeadings();
-std::string TabulatedUnits();
+// What stands over the columns on the screen: "Delay (seconds)".
+std::vector<std::string> TableCaptions();
 
 }  // namespace quilm

@@ -125,7 +125,6 @@ class Label : public Control {
  public:
   Label(Page& page, std::string name, std::string caption);
   bool emphasised = false;
-  bool fixedPitch = false;  // stands over the columns of a table
 };
 
 class Frame : public Control {
@@ -140,6 +139,8 @@ class ListBox : public Control {
   std::vector<std::string> items;
   i32 selected = 0;    // 1-based, 0 for none
   bool table = false;  // rows of columns: a font of fixed pitch, and many rows can be marked and copied
+  // The headings of a table whose rows are cells: the fields of an item are set apart by blanks, one for each heading.
+  std::vector<std::string> columns;
   std::function<void()> onClick;
 };
 

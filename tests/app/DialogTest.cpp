@@ -112,6 +112,16 @@ TEST_F(Dialogs, AShortMessageIsShownWhole) {
   }
 }
 
+// Return, and nothing else, as one presses it who goes on typing.
+TEST_F(Dialogs, ReturnAnswersAQuestionWithNo) {
+  Soon([] {
+    QWidget* box = QApplication::activeModalWidget();
+    QWidget* focused = box->focusWidget();
+    QTest::keyClick(focused == nullptr ? box : focused, Qt::Key_Return);
+  });
+  EXPECT_EQ(desktop.platform.MessageBox("Sure?", Buttons::YesNo, Icon::Question, ""), Answer::No);
+}
+
 TEST_F(Dialogs, AFaultInAHandlerIsToldAndTheProgramGoesOn) {
   Demo().cmdGet.onClick = [] { throw Fault("No reason"); };
   Soon([] {

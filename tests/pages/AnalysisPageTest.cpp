@@ -33,9 +33,9 @@ TEST_F(AnalysisPage, ShowsTheSettings) {
   EXPECT_EQ(Text("txtDelayTop"), "100u");
   EXPECT_TRUE(Get<OptionButton>("optLog").Value());
   EXPECT_TRUE(Get<OptionButton>("optAbsolute").Value());
-  EXPECT_EQ(Caption("lbldBper"), "per interval: 10  dB");
-  EXPECT_EQ(Caption("lblOhmsPer"), "per interval: 200  ohms");
-  EXPECT_EQ(Caption("lblVSWRPer"), "per interval: 0.2 ");
+  EXPECT_EQ(Caption("lbldBper"), "per interval: 10 dB");
+  EXPECT_EQ(Caption("lblOhmsPer"), "per interval: 200 ohms");
+  EXPECT_EQ(Caption("lblVSWRPer"), "per interval: 0.2");
 }
 
 TEST_F(AnalysisPage, TheGridAcrossBelongsToALinearSweep) {

@@ -44,6 +44,10 @@ frmAnalyze::frmAnalyze(Session& session)
   cmdAutoScale_.onClick = [this] { ScaleToResponse(); };
   cmdFitSweep_.onClick = [this] { FitToBand(); };
   cmdAssistance_.onClick = [this] { session_.pages.ShowModal(PageId::EntryAssistance); };
+  for (Button* tool : {&cmdAutoScale_, &cmdFitSweep_, &cmdStepsize_, &cmdModulation_, &cmdPhase_, &cmdNoise_,
+                       &cmdTransient_, &cmdAssistance_}) {
+    tool->role = ButtonRole::Tool;
+  }
   // Their pages are still to come.
   for (Button* tool : {&cmdStepsize_, &cmdModulation_, &cmdPhase_, &cmdNoise_, &cmdTransient_}) tool->enabled = false;
 }
@@ -86,12 +90,23 @@ void frmAnalyze::ConnectOptions() {
 }
 
 void frmAnalyze::ConnectSpins() {
-  UpDown1_.onUp = [this] { StepXints(1); };
-  UpDown1_.onDown = [this] { StepXints(-1); };
-  UpDown2_.onUp = [this] { StepYints(1); };
-  UpDown2_.onDown = [this] { StepYints(-1); };
-  UpDown3_.onUp = [this] { StepLineWidth(1); };
-  UpDown3_.onDown = [this] { StepLineWidth(-1); };
+  DesignRecord& r = session_.record;
+  UpDown1_.Count(lblNrXints_, [this](i32 intervals) { SetXints(intervals); });
+  UpDown1_.onUp = [this, &r] { SetXints(r.NrXints + 1); };
+  UpDown1_.onDown = [this, &r] { SetXints(r.NrXints - 1); };
+  UpDown2_.Count(lblNrYints_, [this](i32 intervals) { SetYints(static_cast<f32>(intervals)); });
+  UpDown2_.onUp = [this, &r] { SetYints(r.NrYints + 1); };
+  UpDown2_.onDown = [this, &r] { SetYints(r.NrYints - 1); };
+  UpDown3_.Count(lblLineWidthInput_, [this](i32 width) { SetLineWidth(width); });
+  UpDown3_.onUp = [this, &r] { SetLineWidth(r.PlotLineWidth + 1); };
+  UpDown3_.onDown = [this, &r] { SetLineWidth(r.PlotLineWidth - 1); };
+  const auto range = [](Spin& spin, const EntryLimits& limits) {
+    spin.lowest = static_cast<i32>(limits.lowest);
+    spin.highest = static_cast<i32>(limits.highest);
+  };
+  range(UpDown1_, limitsOf::NrXints);
+  range(UpDown2_, limitsOf::NrYintsAtSpin);
+  range(UpDown3_, limitsOf::PlotLineWidth);
 }
 
 void frmAnalyze::Load() { Show(Missing::AreFilled); }
@@ -140,22 +155,19 @@ void frmAnalyze::SetRelative(bool relative) {
   ForgetResponses(session_.record);
 }
 
-void frmAnalyze::StepXints(int direction) {
-  i16& intervals = session_.record.NrXints;
-  intervals = static_cast<i16>(limitsOf::NrXints.Held(static_cast<f32>(intervals + direction)));
+void frmAnalyze::SetXints(i32 intervals) {
+  session_.record.NrXints = static_cast<i16>(limitsOf::NrXints.Held(static_cast<f32>(intervals)));
   ForgetResponses(session_.record);
   ShowLabels();
 }
 
-void frmAnalyze::StepYints(int direction) {
-  f32& intervals = session_.record.NrYints;
-  intervals = limitsOf::NrYintsAtSpin.Held(intervals + static_cast<f32>(direction));
+void frmAnalyze::SetYints(f32 intervals) {
+  session_.record.NrYints = limitsOf::NrYintsAtSpin.Held(intervals);
   ShowLabels();
 }
 
-void frmAnalyze::StepLineWidth(int direction) {
-  i16& width = session_.record.PlotLineWidth;
-  width = static_cast<i16>(limitsOf::PlotLineWidth.Held(static_cast<f32>(width + direction)));
+void frmAnalyze::SetLineWidth(i32 width) {
+  session_.record.PlotLineWidth = static_cast<i16>(limitsOf::PlotLineWidth.Held(static_cast<f32>(width)));
   ShowLabels();
 }
 
@@ -220,22 +232,27 @@ void frmAnalyze::ShowLabels() {
 }
 
 Layout frmAnalyze::SweepGroup() {
-  return Group("Sweep", Column({Form({{Put(lblFstart_), Put(txtFstart_)},
-                                      {Put(lblFstop_), Column({Put(txtFstop_), Put(lblSpanValue_)})},
-                                      {Put(lblNrIntervals_), Put(txtNrIntervals_)}}),
-                                Row({Put(optLinear_), Put(optLog_), Space()}),
-                                KeepPlace(Row({KeepPlace(Put(lblXints_)), KeepPlace(Put(lblNrXints_)),
-                                               KeepPlace(Put(UpDown1_)), Space()})),
-                                KeepPlace(Put(lblPerInterval_)), Put(lblSweepFault_), Space()}));
+  return Group("Sweep",
+               Column({Form({{Put(lblFstart_), Put(txtFstart_), Word("Hz", txtFstart_)},
+                             {Put(lblFstop_), Put(txtFstop_), Word("Hz", txtFstop_)},
+                             Under(Put(lblSpanValue_)),
+                             {Put(lblNrIntervals_), Put(txtNrIntervals_)},
+                             {KeepPlace(Put(lblXints_)), KeepPlace(Number(lblNrXints_, UpDown1_))},
+                             Under(KeepPlace(Put(lblPerInterval_)))}),
+                       Group("Spacing", Row({Put(optLinear_), Put(optLog_), Space()})), Put(lblSweepFault_), Space()}));
 }
 
 Layout frmAnalyze::ScaleGroup() {
-  return Group("Scales", Column({Form({{Put(lblLossBottom_), Column({Put(txtLossBottom_), Put(lbldBper_)})},
-                                       {Put(lblDelayTop_), Column({Put(txtDelayTop_), Put(lblDelayPer_)})},
-                                       {Put(lblVSWRTop_), Column({Put(txtVSWRTop_), Put(lblVSWRPer_)})},
-                                       {Put(lblImpedanceTop_), Column({Put(txtImpedanceTop_), Put(lblOhmsPer_)})},
-                                       {Put(lblYints_), Row({Put(lblNrYints_), Put(UpDown2_), Space()})},
-                                       {Put(lblLineWidth_), Row({Put(lblLineWidthInput_), Put(UpDown3_), Space()})}}),
+  return Group("Scales", Column({Form({{Put(lblLossBottom_), Put(txtLossBottom_), Word("dB", txtLossBottom_)},
+                                       Under(Put(lbldBper_)),
+                                       {Put(lblDelayTop_), Put(txtDelayTop_), Word("s", txtDelayTop_)},
+                                       Under(Put(lblDelayPer_)),
+                                       {Put(lblVSWRTop_), Put(txtVSWRTop_)},
+                                       Under(Put(lblVSWRPer_)),
+                                       {Put(lblImpedanceTop_), Put(txtImpedanceTop_), Word("ohms", txtImpedanceTop_)},
+                                       Under(Put(lblOhmsPer_)),
+                                       {Put(lblYints_), Number(lblNrYints_, UpDown2_)},
+                                       {Put(lblLineWidth_), Number(lblLineWidthInput_, UpDown3_)}}),
                                  Space()}));
 }
 
@@ -246,10 +263,12 @@ Layout frmAnalyze::QualityGroup() {
 }
 
 Layout frmAnalyze::ReferenceGroup() {
-  return Group("Reference", Column({Form({{Put(lblRetLossRef_), Put(txtRetLossRef_)}}), Put(optAbsolute_),
-                                    Put(optRelative_), Put(optNormal_), Put(optMagnify_), Space()}));
+  return Group("Reference", Column({Form({{Put(lblRetLossRef_), Put(txtRetLossRef_), Word("ohms", txtRetLossRef_)}}),
+                                    Group("Level", Column({Put(optAbsolute_), Put(optRelative_)})),
+                                    Group("Magnification", Column({Put(optNormal_), Put(optMagnify_)})), Space()}));
 }
 
+// Between the groups and the tools stands what is left of the window's height.
 Layout frmAnalyze::MakeLayout() {
   return Column({navigation_.MakeLayout(), Row({SweepGroup(), ScaleGroup(), QualityGroup(), ReferenceGroup(), Space()}),
                  Space(), Row({Space(), Put(preview_.picPreview), Space()}), Space(),

@@ -25,9 +25,9 @@ class frmAnalyze : public Page {
   void FollowWithSweep();
   void SetSweepMode(i16 mode);
   void SetRelative(bool relative);
-  void StepXints(int direction);
-  void StepYints(int direction);
-  void StepLineWidth(int direction);
+  void SetXints(i32 intervals);
+  void SetYints(f32 intervals);
+  void SetLineWidth(i32 width);
   bool CheckAll();
   bool MayGoTo(PageId target);
   void ScaleToResponse();

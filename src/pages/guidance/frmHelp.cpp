@@ -31,6 +31,7 @@ void frmHelp::Load() {
 }
 
 void frmHelp::Draw() {
+  picTopology.description = lstTopology.items[static_cast<std::size_t>(lstTopology.selected - 1)];
   picTopology.picture = TopologyPicture(std::string(1, static_cast<char>('A' + lstTopology.selected - 1)));
 }
 

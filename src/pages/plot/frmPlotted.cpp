@@ -11,6 +11,7 @@
 #include "files/modWriteQuilmFile.h"
 #include "schematic/Icons.h"
 #include "shell/Session.h"
+#include "synthesis/DesignSummary.h"
 
 namespace quilm {
 
@@ -47,6 +48,10 @@ frmPlotted::frmPlotted(Session& session)
                        &cmdTuneApass, &cmdGetOverlay, &cmdSaveOverlay}) {
     tool->enabled = false;
   }
+  for (Button* tool : {&cmdAutoScale, &cmdFitSweep, &cmdLimits, &cmdMarkers, &cmdStepSize, &cmdTunePart, &cmdTuneWidth,
+                       &cmdTuneApass, &cmdOptimize, &cmdMonteCarlo, &cmdGetOverlay, &cmdSaveOverlay}) {
+    tool->role = ButtonRole::Tool;
+  }
   for (Button* stop : {&cmdEnd, &cmdExtremes}) stop->visible = stop->enabled = false;
 }
 
@@ -66,7 +71,11 @@ void frmPlotted::Choose(i16 code) {
   TellOfSweep(session_);
   AnalyzeSweep(session_);
   if (session_.record.ResponsesValid != 1) return;
-  for (std::size_t i = 0; i < plotButtons.size(); ++i) plotButtons[i]->pressed = PlotButtons()[i].code == code;
+  for (std::size_t i = 0; i < plotButtons.size(); ++i) {
+    plotButtons[i]->pressed = PlotButtons()[i].code == code;
+    if (!plotButtons[i]->pressed) continue;
+    picPlot.description = std::string(PlotButtons()[i].toolTip) + "  |  " + DesignSummary(session_.record, true);
+  }
   cmdLimits.visible = IsRectangular(code);
   smithControls.ShowFor(code);
   ChoosePlot(session_, code);

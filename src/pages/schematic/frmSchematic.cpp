@@ -9,6 +9,7 @@
 #include "files/modReadQuilmFiles.h"
 #include "files/modWriteQuilmFile.h"
 #include "shell/Session.h"
+#include "synthesis/DesignSummary.h"
 
 namespace quilm {
 
@@ -99,6 +100,8 @@ void frmSchematic::RefreshZoom() {
 
 void frmSchematic::Draw() {
   lblEmptyList_.visible = session_.network.Stages < 1;
+  picSchematic_.description =
+      std::to_string(session_.network.Stages) + " stages  |  " + DesignSummary(session_.record, true);
   try {
     lblNegativePart_.visible = HasNegativePart(session_.network);
     RefreshZoom();

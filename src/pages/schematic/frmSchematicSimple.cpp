@@ -1,5 +1,6 @@
 #include "pages/schematic/frmSchematicSimple.h"
 
+#include "core/Network.h"
 #include "shell/Session.h"
 
 namespace quilm {
@@ -12,6 +13,7 @@ frmSchematicSimple::frmSchematicSimple(Session& session) : Page(session, PageId:
 
 void frmSchematicSimple::Load() {
   DrawArtwork(session_.network, session_.schematicView.mode, picArtwork_.picture);
+  picArtwork_.description = std::to_string(session_.network.Stages) + " stages";
   SetFocus(cmdExit_);
 }
 

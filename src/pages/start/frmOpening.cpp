@@ -31,6 +31,7 @@ void frmOpening::Load() {
   cmdManualEntry.enabled = session_.pages.Has(PageId::ManualEntry);
   lblVersion.caption = ProgramVersion();
   imgOpening.picture = TopologyPicture("A");
+  imgOpening.description = "A lowpass of three parts, the sign of the program";
   SetFocus(cmdDesignNew);
 }
 

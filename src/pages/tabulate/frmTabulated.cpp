@@ -24,9 +24,7 @@ frmTabulated::frmTabulated(Session& session)
   navigation_.onSave = [&session] { SaveDesign(session, "Save Quilm File"); };
   navigation_.onPrint = [this] { PrintResponses(); };
   lstTabulatedOutput_.table = true;
-  lblHeadings_.fixedPitch = lblUnits_.fixedPitch = true;
-  lblHeadings_.caption = TabulatedHeadings();
-  lblUnits_.caption = TabulatedUnits();
+  lstTabulatedOutput_.columns = TableCaptions();
   SetFocus(lstTabulatedOutput_);
 }
 
@@ -66,8 +64,6 @@ void frmTabulated::PrintResponses() {
               [this](Canvas& printer) { PrintTable(session_.record, session_.responses, printer); });
 }
 
-Layout frmTabulated::MakeLayout() {
-  return Column({navigation_.MakeLayout(), Put(lblHeadings_), Put(lblUnits_), quilm::Fill(Put(lstTabulatedOutput_))});
-}
+Layout frmTabulated::MakeLayout() { return Column({navigation_.MakeLayout(), quilm::Fill(Put(lstTabulatedOutput_))}); }
 
 }  // namespace quilm

@@ -19,8 +19,6 @@ class frmTabulated : public Page {
   bool PaperIsWanted();
 
   NavigationRow navigation_;
-  Label lblHeadings_{*this, "lblHeadings", ""};
-  Label lblUnits_{*this, "lblUnits", ""};
   ListBox lstTabulatedOutput_{*this, "lstTabulatedOutput", "Tabulated responses"};
 };
 
