@@ -87,6 +87,11 @@ MessageWindow::MessageWindow(const QString& title, const QString& text, Buttons 
   grid->addWidget(area_, 0, 1);
   grid->addWidget(row, 1, 0, 1, 2);
   grid->setColumnStretch(1, 1);
+  // Who types on and presses Return by chance has agreed to nothing.
+  if (QPushButton* no = row->button(QDialogButtonBox::No)) {
+    no->setDefault(true);
+    no->setFocus();
+  }
   FitToScreen();
 }
 

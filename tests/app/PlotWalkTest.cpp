@@ -99,7 +99,7 @@ TEST_F(PlotWalk, TheSmithChartIsZoomedByItsButtons) {
 
 // The paper of a rectangular plot is as wide as the room; a place of the mouse is the same place of the plot.
 TEST_F(PlotWalk, ARectangularPlotFillsItsRoom) {
-  for (const QSize size : {QSize(1280, 860), QSize(1900, 900), QSize(1000, 800)}) {
+  for (const QSize size : {QSize(1280, 860), QSize(1900, 900), QSize(1100, 760)}) {
     desktop_.window.resize(size);
     QApplication::processEvents();
     const QRectF paper = Plot().Paper();

@@ -1,4 +1,6 @@
 // Looking at the schematic: zoom by wheel, keys and buttons.
+#include <QtTest/qtestspontaneevent.h>
+
 #include "app/WalkBench.h"
 
 namespace quilm {
@@ -21,7 +23,9 @@ class SchematicWalk : public Walk {
     const QPoint place = over.rect().center();
     QWheelEvent turn(place, over.mapToGlobal(place), QPoint(), QPoint(0, delta), Qt::NoButton, Qt::NoModifier,
                      Qt::NoScrollPhase, false);
-    QApplication::sendEvent(&over, &turn);
+    // As if it came from the mouse: the toolkit hands on to parents nothing else.
+    QSpontaneKeyEvent::setSpontaneous(&turn);
+    QCoreApplication::instance()->notify(&over, &turn);
     QApplication::processEvents();
   }
 };
