@@ -204,7 +204,7 @@ WriteOutcome Replace(const fs::path& path, const struct stat* old, std::string_v
   const bool stored = (old == nullptr || TakeOver(*old, file.Get())) && file.Write(text) && file.Flush() &&
                       rename(temporary.c_str(), path.c_str()) == 0;
   if (!stored) {
-    const WriteOutcome failed = Failed(errno);
+    WriteOutcome failed = Failed(errno);
     unlink(temporary.c_str());
     return failed;
   }

@@ -44,7 +44,8 @@ std::optional<std::string> HeadlessPlatform::AskFile(FileAsked asked) {
   if (files.empty() || !files.front().Answers(asked.save)) {
     throw Fault("No answer is queued for the file dialog: " + asked.title);
   }
-  asked.answer = TakeFirst(files)->path;
+  asked.answer = files.front().path;
+  files.pop_front();
   fileDialogs.push_back(asked);
   if (onFile) onFile(asked);
   return asked.answer;

@@ -11,7 +11,7 @@ namespace quilm {
 namespace {
 
 std::string DesignName(const Identity& identity) {
-  const std::string stem = std::filesystem::path(identity.DesignFileName).stem().string();
+  std::string stem = std::filesystem::path(identity.DesignFileName).stem().string();
   if (!stem.empty() && stem != "LASTSESSION" && stem != "QuilmConfiguration") return stem;
   const std::string& title = identity.CircuitTitle;
   const std::size_t first = title.find_first_not_of(' ');

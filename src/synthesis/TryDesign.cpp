@@ -59,7 +59,7 @@ std::string WhatIsMissing(DesignRecord& design, const Configuration& configurati
   if (NeedsCenter(design.Topology) && !IsEntered(design.Fcenter)) return "Please enter a center frequency";
   if (!IsEntered(design.Rsource[1])) return "Please enter an input termination";
   HoldEntries(design);
-  if (const std::string fault = FaultOfStopband(design); !fault.empty()) return fault;
+  if (std::string fault = FaultOfStopband(design); !fault.empty()) return fault;
   const EntryReport report = ExamineEntries(design, configuration);
   if (report.Passed()) return {};
   std::string text = report.findings.back().text;
