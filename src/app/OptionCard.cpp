@@ -40,7 +40,8 @@ QSize OptionCard::minimumSizeHint() const {
 
 QRect OptionCard::PictureRect() const {
   constexpr int below = 2;
-  return rect().adjusted(inside, inside + TitleSize().height(), -inside, -below);
+  constexpr int aside = 28;  // the question mark in the corner, and as much at the other side
+  return rect().adjusted(aside, inside + TitleSize().height(), -aside, -below);
 }
 
 void OptionCard::paintEvent(QPaintEvent* /*event*/) {

@@ -160,6 +160,17 @@ TEST_F(DesignLayout, AClickOnTheLadderChoosesItsOption) {
   EXPECT_TRUE(card.isChecked());
 }
 
+TEST_F(DesignLayout, TheQuestionMarkLiesBesideTheLadder) {
+  for (const QSize size : {QSize(1024, 700), QSize(1280, 860), QSize(1920, 1080)}) {
+    Resize(size);
+    for (const char* topology : topologies) {
+      const QWidget* mark = Find((std::string("cmd") + topology).c_str());
+      const QRect ladder = Card(topology).PictureRect().translated(PlaceIn(Card(topology)).topLeft());
+      EXPECT_GT(PlaceIn(*mark).left(), ladder.right()) << topology << ' ' << size.width();
+    }
+  }
+}
+
 TEST_F(DesignLayout, TheQuestionMarkOfACardThatCannotBeChosenLeadsToItsGuide) {
   ASSERT_FALSE(Find("optCauerBandpass")->isEnabled());
   auto* mark = qobject_cast<QAbstractButton*>(Find("cmdCauerBandpass"));
