@@ -96,8 +96,8 @@ BUGS = [
     ),
     Bug(
         "src/schematic/modSchematic.cpp",
-        "if (SchemX + loadWidth > pageRight) PrintMore();",
-        "if (SchemX > pageRight) PrintMore();",
+        "if (SchemX + loadWidth > canvas_.ScaleLeft",
+        "if (SchemX > canvas_.ScaleLeft",
         "the load does not count for the room at the right",
         ("test-schematic",),
     ),

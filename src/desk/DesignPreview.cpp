@@ -46,10 +46,22 @@ void DesignPreview::CatchUp() {
   if (shown_ && *shown_ == session_.record) return;
   shown_ = std::make_unique<DesignRecord>(session_.record);
   DesignRecord design = session_.record;
-  std::string reason = Prepare(design);
-  if (reason.empty()) reason = Sweep(design);
+  const std::string reason = Show(design);
   if (!reason.empty()) DrawNoPreview(reason, scale_, picPreview.picture);
   picPreview.description = reason.empty() ? Spoken(design) : reason;
+}
+
+// A fault here concerns nobody but the preview: it comes after each act, and must not end the one that it follows.
+std::string DesignPreview::Show(DesignRecord& design) {
+  constexpr const char* failure = "The network cannot be analysed with these values";
+  try {
+    if (std::string reason = Prepare(design); !reason.empty()) return reason;
+    if (!SweepLadder(design, *responses_).empty()) return failure;
+    Draw(design);
+  } catch (const Fault&) {
+    return failure;
+  }
+  return {};
 }
 
 std::string DesignPreview::Prepare(DesignRecord& design) const {
@@ -66,17 +78,6 @@ std::string DesignPreview::Prepare(DesignRecord& design) const {
   }
   design.NrIntervals = pointsAcross;
   return SweepFault(design);
-}
-
-std::string DesignPreview::Sweep(DesignRecord& design) {
-  constexpr const char* failure = "The network cannot be analysed with these values";
-  if (!SweepLadder(design, *responses_).empty()) return failure;
-  try {
-    Draw(design);
-  } catch (const Fault&) {
-    return failure;
-  }
-  return {};
 }
 
 void DesignPreview::Draw(const DesignRecord& design) {

@@ -31,9 +31,10 @@ class DesignPreview {
   PictureBox picPreview;
 
  private:
-  // What is shown: the design as its plot would have it. Why there is none; empty when there is one.
+  // Each returns why there is nothing to show; empty when there is something. Prepare makes of the design what its plot
+  // would have.
+  std::string Show(DesignRecord& design);
   std::string Prepare(DesignRecord& design) const;
-  std::string Sweep(DesignRecord& design);
   void Draw(const DesignRecord& design);
 
   Session& session_;

@@ -578,7 +578,7 @@ TEST_F(SavingThePlot, ANameThatWasPutRightReplacesNothingUnasked) {
   ASSERT_TRUE(there.open(QIODevice::WriteOnly));
   there.write("kept");
   there.close();
-  SaveAs("a.jpg", [this] {
+  SaveAs("a.jpg", [] {
     auto* question = qobject_cast<MessageWindow*>(QApplication::activeModalWidget());
     ASSERT_NE(question, nullptr);
     EXPECT_TRUE(question->Text().contains("a.png already exists"));
