@@ -7,6 +7,7 @@
 #include <algorithm>
 
 #include "app/GroupBox.h"
+#include "app/OptionCard.h"
 #include "app/QtText.h"
 #include "app/SideStack.h"
 
@@ -101,6 +102,14 @@ const Control* EntryOf(const Layout& node) {
   return nullptr;
 }
 
+// Cards of all rows stand one below the other: the widest caption decides for them all.
+void ShareCardWidth(const QWidget& root) {
+  const QList<OptionCard*> cards = root.findChildren<OptionCard*>();
+  int widest = 0;
+  for (const OptionCard* card : cards) widest = std::max(widest, card->minimumSizeHint().width());
+  for (OptionCard* card : cards) card->setMinimumWidth(widest);
+}
+
 }  // namespace
 
 void LayoutBuilder::Build(const Layout& layout) {
@@ -110,6 +119,7 @@ void LayoutBuilder::Build(const Layout& layout) {
   AddToBox(*frame, layout, {&root_, false, false}, false);
   if (!TakesRoom(layout, false)) frame->addStretch(1);
   for (const auto& [control, word] : words_) built_.at(control)->Accompany(*word);
+  ShareCardWidth(root_);
 }
 
 void LayoutBuilder::AddToBox(QBoxLayout& box, const Layout& item, const Place& place, bool horizontal) {

@@ -9,8 +9,8 @@ namespace quilm {
 
 namespace {
 
-constexpr int inside = 6;        // between the frame and what stands in it
-constexpr int markGap = 6;       // between the mark and the caption
+constexpr int inside = 4;        // between the frame and what stands in it
+constexpr int markGap = 4;       // between the mark and the caption
 constexpr int usualHeight = 48;  // of the picture
 constexpr int leastHeight = 32;
 

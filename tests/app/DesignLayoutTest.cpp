@@ -63,6 +63,8 @@ TEST_F(DesignLayout, CardsFillTheirColumnWithGapsOfAtMost24Pixels) {
       const QRect left = PlaceIn(Card(topologies[2 * row]));
       const QRect right = PlaceIn(Card(topologies[2 * row + 1]));
       EXPECT_EQ(left.top(), right.top());
+      EXPECT_EQ(left.left(), PlaceIn(Card(topologies[0])).left());
+      EXPECT_EQ(right.left(), PlaceIn(Card(topologies[1])).left()) << row << ' ' << size.width();
       EXPECT_LE(right.left() - left.right(), largestGap);
       EXPECT_GT(right.left(), left.right());
       if (row == 0) continue;

@@ -71,6 +71,18 @@ TEST_F(PageLayout, EachPairOfOptionsHasAHeadingOfItsOwn) {
   EXPECT_NE(groups[0], groups[1]);
 }
 
+TEST_F(PageLayout, TheGroupsOfTheAnalysisPageStandTogetherInAWideWindow) {
+  ClickOn("cmdAnalysis");
+  desktop_.window.resize(1900, 1000);
+  QTest::qWait(20);
+  // None takes the room that others do not need.
+  const QWidget* sweep = Find("txtFstart")->parentWidget();
+  const QWidget* scales = Find("txtLossBottom")->parentWidget();
+  ASSERT_NE(sweep, scales);
+  EXPECT_LE(sweep->width(), sweep->sizeHint().width());
+  EXPECT_LE(scales->geometry().left() - sweep->geometry().right(), 24);
+}
+
 TEST_F(PageLayout, NothingOfTheAnalysisPageMovesBetweenLinearAndLogarithmic) {
   ClickOn("cmdAnalysis");
   ClickOn("optLinear");

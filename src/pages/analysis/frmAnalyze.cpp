@@ -239,7 +239,7 @@ Layout frmAnalyze::SweepGroup() {
                              {Put(lblNrIntervals_), Put(txtNrIntervals_)},
                              {KeepPlace(Put(lblXints_)), KeepPlace(Number(lblNrXints_, UpDown1_))},
                              Under(KeepPlace(Put(lblPerInterval_)))}),
-                       Group("Spacing", Row({Put(optLinear_), Put(optLog_), Space()})), Put(lblSweepFault_), Space()}));
+                       Group("Spacing", Row({Put(optLinear_), Put(optLog_)})), Put(lblSweepFault_), Space()}));
 }
 
 Layout frmAnalyze::ScaleGroup() {
