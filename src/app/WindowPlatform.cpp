@@ -81,7 +81,7 @@ std::optional<std::string> WindowPlatform::SaveDialog(const std::string& title, 
   QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog,
                    [&dialog](const QString& chosen) { dialog.setDefaultSuffix(SuffixOf(chosen)); });
   if (!defaultName.empty()) dialog.selectFile(ToQt(defaultName));
-  while (const auto chosen = AskFile(dialog)) {
+  for (auto chosen = AskFile(dialog); chosen.has_value(); chosen = AskFile(dialog)) {
     const QString path = WithRightEnding(ToQt(*chosen), dialog.nameFilters(), dialog.selectedNameFilter());
     if (path == ToQt(*chosen) || MayReplace(path, title)) return path.toStdString();
     dialog.selectFile(QFileInfo(path).fileName());
