@@ -67,11 +67,6 @@ MessageWindow::MessageWindow(const QString& title, const QString& text, Buttons 
   area_->setWidget(text_);
   auto* row = new QDialogButtonBox(buttons == Buttons::YesNo ? QDialogButtonBox::Yes | QDialogButtonBox::No
                                                              : QDialogButtonBox::StandardButtons(QDialogButtonBox::Ok));
-  // What a key pressed by the way answers does no harm.
-  if (QPushButton* no = row->button(QDialogButtonBox::No)) {
-    no->setDefault(true);
-    no->setFocus();
-  }
   connect(row, &QDialogButtonBox::accepted, this, &QDialog::accept);
   connect(row, &QDialogButtonBox::rejected, this, &QDialog::reject);
   auto* grid = new QGridLayout(this);
