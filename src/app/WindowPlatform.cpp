@@ -81,12 +81,13 @@ std::optional<std::string> WindowPlatform::SaveDialog(const std::string& title, 
   QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog,
                    [&dialog](const QString& chosen) { dialog.setDefaultSuffix(SuffixOf(chosen)); });
   if (!defaultName.empty()) dialog.selectFile(ToQt(defaultName));
-  for (auto chosen = AskFile(dialog); chosen.has_value(); chosen = AskFile(dialog)) {
+  while (true) {
+    const std::optional<std::string> chosen = AskFile(dialog);
+    if (!chosen) return std::nullopt;
     const QString path = WithRightEnding(ToQt(*chosen), dialog.nameFilters(), dialog.selectedNameFilter());
     if (path == ToQt(*chosen) || MayReplace(path, title)) return path.toStdString();
     dialog.selectFile(QFileInfo(path).fileName());
   }
-  return std::nullopt;
 }
 
 // The dialog has asked for the name that it saw; another one that the ending makes of it needs the same question.

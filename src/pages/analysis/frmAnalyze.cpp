@@ -232,14 +232,13 @@ void frmAnalyze::ShowLabels() {
 }
 
 Layout frmAnalyze::SweepGroup() {
-  return Group("Sweep",
-               Column({Form({{Put(lblFstart_), Put(txtFstart_), Word("Hz", txtFstart_)},
-                             {Put(lblFstop_), Put(txtFstop_), Word("Hz", txtFstop_)},
-                             Under(Put(lblSpanValue_)),
-                             {Put(lblNrIntervals_), Put(txtNrIntervals_)},
-                             {KeepPlace(Put(lblXints_)), KeepPlace(Number(lblNrXints_, UpDown1_))},
-                             Under(KeepPlace(Put(lblPerInterval_)))}),
-                       Group("Spacing", Row({Put(optLinear_), Put(optLog_)})), Put(lblSweepFault_), Space()}));
+  return Group("Sweep", Column({Form({{Put(lblFstart_), Put(txtFstart_), Word("Hz", txtFstart_)},
+                                      {Put(lblFstop_), Put(txtFstop_), Word("Hz", txtFstop_)},
+                                      Under(Put(lblSpanValue_)),
+                                      {Put(lblNrIntervals_), Put(txtNrIntervals_)},
+                                      {KeepPlace(Put(lblXints_)), KeepPlace(Number(lblNrXints_, UpDown1_))},
+                                      Under(KeepPlace(Put(lblPerInterval_)))}),
+                                Group("Spacing", Row({Put(optLinear_), Put(optLog_)})), Put(lblSweepFault_), Space()}));
 }
 
 Layout frmAnalyze::ScaleGroup() {
