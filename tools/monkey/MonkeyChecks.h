@@ -20,7 +20,8 @@ std::string CheckBoxes(ScriptRun& run);
 // No number of the record is infinite or none.
 std::string CheckNumbers(ScriptRun& run);
 
-// The design file at `path` can be read, and what was read is written as it stands there.
+// The design file at `path` can be read, and what was read is written as it stands there, but for the numbers that
+// reading does not keep by its own rules.
 std::string CheckSavedFile(const std::string& path);
 
 // An undo and the redo that follows it give the record back. Told of the record before each act and after it.
