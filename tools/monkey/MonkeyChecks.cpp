@@ -54,9 +54,11 @@ std::string FirstNull(const Json& json, const std::string& path) {
   return {};
 }
 
-// What is only known after a sweep, or differs with the page.
+// What is only known after a sweep, and how the design is looked at: the history makes no steps of these.
 DesignRecord WithoutNotes(DesignRecord record) {
   record.ResponsesValid = 0;
+  record.PlotCode = 0;
+  record.LimitsShown = record.MarkersShown = 0;
   return record;
 }
 
