@@ -151,10 +151,8 @@ void EntryBox::wheelEvent(QWheelEvent* event) {
     event->ignore();
     return;
   }
-  constexpr int notch = QWheelEvent::DefaultDeltasPerStep;
-  wheelTurned_ += event->angleDelta().y();
-  for (; wheelTurned_ >= notch; wheelTurned_ -= notch) StepAtCursor(+1);
-  for (; wheelTurned_ <= -notch; wheelTurned_ += notch) StepAtCursor(-1);
+  const int notches = wheel_.Take(*event);
+  for (int n = 0; n < std::abs(notches); ++n) StepAtCursor(notches > 0 ? +1 : -1);
   event->accept();
 }
 

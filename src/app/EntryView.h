@@ -7,6 +7,7 @@
 #include <functional>
 
 #include "app/ControlView.h"
+#include "app/WheelNotches.h"
 
 namespace quilm {
 
@@ -51,7 +52,7 @@ class EntryBox : public QLineEdit {
   bool touched_ = false;
   bool entered_ = false;         // it keeps the focus, also while another window or a menu has the keyboard
   bool enteredByPress_ = false;  // by the mouse button that is still down
-  int wheelTurned_ = 0;          // eighths of a degree not yet stepped
+  WheelNotches wheel_;
 };
 
 class EntryView : public ControlView {

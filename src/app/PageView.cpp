@@ -271,11 +271,11 @@ bool PageView::PressButton(Button* button) {
 
 // The wheel over a picture turns the page's zoom, notch by notch.
 void PageView::wheelEvent(QWheelEvent* event) {
-  constexpr int notch = QWheelEvent::DefaultDeltasPerStep;
   event->ignore();
   if (qobject_cast<PictureView*>(childAt(event->position().toPoint())) == nullptr) return;
-  for (turned_ += event->angleDelta().y(); std::abs(turned_) >= notch; turned_ -= turned_ > 0 ? notch : -notch) {
-    if (PressNamed(turned_ > 0 ? "cmdZoomIn" : "cmdZoomOut")) event->accept();
+  const int notches = wheel_.Take(*event);
+  for (int n = 0; n < std::abs(notches); ++n) {
+    if (PressNamed(notches > 0 ? "cmdZoomIn" : "cmdZoomOut")) event->accept();
   }
 }
 

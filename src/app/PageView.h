@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "app/ControlView.h"
+#include "app/WheelNotches.h"
 
 class QShortcut;
 
@@ -90,7 +91,7 @@ class PageView : public QWidget, public ActSink {
   std::map<const ControlView*, QChar> letters_;
   QSet<QChar> takenLetters_;
   SideStack* side_ = nullptr;
-  int turned_ = 0;  // of the wheel over a picture since its last whole notch
+  WheelNotches wheel_;  // over a picture
 };
 
 }  // namespace quilm

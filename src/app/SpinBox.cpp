@@ -125,10 +125,8 @@ void SpinBox::wheelEvent(QWheelEvent* event) {
     event->ignore();
     return;
   }
-  constexpr int notch = QWheelEvent::DefaultDeltasPerStep;
-  wheelTurned_ += event->angleDelta().y();
-  for (; wheelTurned_ >= notch; wheelTurned_ -= notch) Step(+1);
-  for (; wheelTurned_ <= -notch; wheelTurned_ += notch) Step(-1);
+  const int notches = wheel_.Take(*event);
+  for (int n = 0; n < std::abs(notches); ++n) Step(notches > 0 ? +1 : -1);
   event->accept();
 }
 

@@ -7,6 +7,8 @@
 #include <QWidget>
 #include <functional>
 
+#include "app/WheelNotches.h"
+
 class QStyleOptionSpinBox;
 
 namespace quilm {
@@ -52,7 +54,7 @@ class SpinBox : public QWidget {
   QTimer pause_;   // runs as long as a further digit belongs to the number
   QString typed_;  // the digits of the number so far
   int pressed_ = 0;
-  int wheelTurned_ = 0;  // eighths of a degree not yet stepped
+  WheelNotches wheel_;
 };
 
 }  // namespace quilm

@@ -22,6 +22,8 @@ std::string_view FormName(PageId id) {
       return "frmTabulated";
     case PageId::ManualEntry:
       return "frmManualEntry";
+    case PageId::ManualEntryOptions:
+      return "frmManualEntryOptions";
     case PageId::WriteFiles:
       return "frmWriteFiles";
     case PageId::Exit:
@@ -56,6 +58,26 @@ std::string_view FormName(PageId id) {
       return "frmHelpFamily";
     case PageId::EntryAssistance:
       return "frmEntryAssistance";
+    case PageId::Limits:
+      return "frmLimits";
+    case PageId::EditLimits:
+      return "frmEditLimits";
+    case PageId::Marker:
+      return "frmMarker";
+    case PageId::OverlaySaveList:
+      return "frmOverlaySaveList";
+    case PageId::OverlayGetList:
+      return "frmOverlayGetList";
+    case PageId::TunePart:
+      return "frmTunePart";
+    case PageId::TuneWidthCenter:
+      return "frmTuneWidthCenter";
+    case PageId::TuneApass:
+      return "frmTuneApass";
+    case PageId::MonteCarloSetup:
+      return "frmMonteCarloSetup";
+    case PageId::Nearest5:
+      return "frmNearest5";
     case PageId::Blank:
       return "frmBlank";
   }

@@ -16,18 +16,6 @@ class DesignFiles : public PageBench {
  protected:
   DesignFiles() : PageBench(AllPages()) { StartProgram(session); }
 
-  void MakeLowpass() {
-    Press("cmdDesignNew");
-    Press("optButterworth");
-    Press("optCapInLowpass");
-    Enter("txtBandwidth", "1M");
-    Enter("txtInputTerm", "50");
-    Press("cmdPlot");
-  }
-
-  std::string Path(const std::string& name) { return platform.ProgramFolder() + "/" + name; }
-  bool Exists(const std::string& name) { return std::filesystem::exists(Path(name)); }
-
   void Write(const std::string& name, const std::string& text) { std::ofstream(Path(name), std::ios::binary) << text; }
 };
 

@@ -14,18 +14,6 @@ class LeavingTest : public PageBench {
  protected:
   LeavingTest() : PageBench(AllPages()) { StartProgram(session); }
 
-  void MakeLowpass() {
-    Press("cmdDesignNew");
-    Press("optButterworth");
-    Press("optCapInLowpass");
-    Enter("txtBandwidth", "1M");
-    Enter("txtInputTerm", "50");
-    Press("cmdPlot");
-  }
-
-  std::string Path(const std::string& name) { return platform.ProgramFolder() + "/" + name; }
-  bool Exists(const std::string& name) { return std::filesystem::exists(Path(name)); }
-
   // The system's wish, as it comes within a handler or without.
   void EndBySystem() {
     RunHandler(session, [this] { LeaveBySystem(session); });

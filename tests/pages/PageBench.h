@@ -39,8 +39,22 @@ class PageBench : public testing::Test {
     Leave(session, Get<TextBox>(name));
   }
 
+  // From the opening page to a Butterworth lowpass of 1 MHz between 50 ohms on the plot.
+  void MakeLowpass() {
+    Press("cmdDesignNew");
+    Press("optButterworth");
+    Press("optCapInLowpass");
+    Enter("txtBandwidth", "1M");
+    Enter("txtInputTerm", "50");
+    Press("cmdPlot");
+  }
+
+  // Files of the program's folder.
+  std::string Path(const std::string& name) { return platform.ProgramFolder() + "/" + name; }
+  bool Exists(const std::string& name) { return std::filesystem::exists(Path(name)); }
+
   std::string File(const std::string& name) {
-    std::ifstream in(platform.ProgramFolder() + "/" + name, std::ios::binary);
+    std::ifstream in(Path(name), std::ios::binary);
     std::ostringstream text;
     text << in.rdbuf();
     return text.str();

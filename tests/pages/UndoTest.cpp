@@ -220,12 +220,7 @@ class UndoWithCountedPlots : public PageBench {
 };
 
 TEST_F(UndoWithCountedPlots, APlotThatComesBackSweepsOnce) {
-  Press("cmdDesignNew");
-  Press("optButterworth");
-  Press("optCapInLowpass");
-  Enter("txtBandwidth", "1M");
-  Enter("txtInputTerm", "50");
-  Press("cmdPlot");
+  MakeLowpass();
   Press("cmdAutoScale");
   Press("cmdDesign");
   ASSERT_EQ(session.history.UndoText(), "AutoScale");
