@@ -118,8 +118,9 @@ class Walk {
     Press("optConstantK");
     Press("optCapInLowpass");
     Modal("cmdSeeNorms", "normalized");
-    Tool("Command4", "singly-terminated");
-    Tool("Command11", "end-sections");
+    Tool("Command1", "nearest-5", "cmdExit");
+    Tool("Command4", "singly-terminated", "cmdIgnore");
+    Tool("Command11", "end-sections", "cmdIgnore");
     Modal("optMderived", "m-derived");
   }
 
@@ -180,11 +181,11 @@ class Walk {
     if (Press(button)) Save(name);
   }
 
-  // A tool that takes the place of the Design page.
-  void Tool(const char* button, const char* name) {
+  // A tool that takes the place of the Design page, and the button that leads back.
+  void Tool(const char* button, const char* name, const char* back) {
     if (!Press(button)) return;
     Save(name);
-    Press("cmdIgnore");
+    Press(back);
   }
 
   // A modal page waits in its own event loop: it is looked at and closed from a timer.

@@ -72,7 +72,9 @@ ListView::ListView(ListBox& list, ActSink& sink, QWidget* parent)
   widget_->setModel(lines_);
   widget_->setUniformItemSizes(true);
   widget_->setEditTriggers(QAbstractItemView::NoEditTriggers);
-  widget_->setMinimumHeight(widget_->fontMetrics().lineSpacing() * listLines);
+  const int lines = list.mostRows > 0 ? list.mostRows : listLines;
+  widget_->setMinimumHeight(widget_->fontMetrics().lineSpacing() * lines + 2 * widget_->frameWidth());
+  if (list.mostRows > 0) widget_->setMaximumHeight(widget_->minimumHeight());
   SetWidget(widget_);
   QObject::connect(widget_, &QListView::clicked, widget_, [this, &sink](const QModelIndex& line) {
     sink.Press([this, chosen = line.row() + 1](Session& session) { Choose(session, list_, chosen); });

@@ -1,6 +1,7 @@
 #include "app/PlainViews.h"
 
 #include <QAccessible>
+#include <QFontDatabase>
 
 #include "app/QtText.h"
 #include "shell/Page.h"
@@ -33,6 +34,7 @@ LabelView::LabelView(Label& label, QWidget* parent) : ControlView(label), label_
     font.setBold(true);
     widget_->setFont(font);
   }
+  if (label.fixedPitch) widget_->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
   SetWidget(widget_);
 }
 

@@ -8,6 +8,7 @@
 #include "pages/design/frmDesign.h"
 #include "pages/design/frmEndSections.h"
 #include "pages/design/frmMderived.h"
+#include "pages/design/frmNearest5.h"
 #include "pages/design/frmSeeNormalized.h"
 #include "pages/design/frmSinglyTermCheby.h"
 #include "pages/guidance/frmHelp.h"
@@ -48,6 +49,7 @@ PageDirectory AllPages() {
       {PageId::Help, Make<frmHelp>},
       {PageId::Bailout, Make<frmBailout>},
       {PageId::Mderived, Make<frmMderived>},
+      {PageId::Nearest5, Make<frmNearest5>},
       {PageId::SinglyTermCheby, Make<frmSinglyTermCheby>},
       {PageId::EndSections, Make<frmEndSections>},
       {PageId::SeeNormalized, Make<frmSeeNormalized>},

@@ -30,7 +30,7 @@ void PrintTable(const DesignRecord& record, const Responses& responses, Canvas& 
   Report report(printer, {.left = leftMargin, .top = firstRow, .pitch = rowPitch, .lines = rowsPerSheet});
   printer.PrintAt(leftMargin, titleRow, "Tabulated Responses");
   report.SetHead(PrintHeadings);
-  report.SetFoot(record.DesignFileName);
+  report.SetFoot({record.DesignFileName});
   const int last = LastPoint(record);
   for (int i = 0; i <= last; ++i) report.Line(TableFields(responses, i), columnPitch);
   report.End();

@@ -63,8 +63,11 @@ void Report::Line(std::span<const std::string> columns, f32 columnPitch) {
 }
 
 void Report::PrintFoot() {
-  const f32 lastLine = printer_.ScaleTop + printer_.ScaleHeight - footAboveEdge;
-  if (!foot_.empty()) printer_.PrintAt(grid_.left, lastLine, foot_);
+  f32 y = printer_.ScaleTop + printer_.ScaleHeight - footAboveEdge;
+  for (auto line = foot_.rbegin(); line != foot_.rend(); ++line) {
+    if (!line->empty()) printer_.PrintAt(grid_.left, y, *line);
+    y -= grid_.pitch;
+  }
 }
 
 void Report::End() {
@@ -80,13 +83,20 @@ void PrintColumns(Canvas& printer, f32 left, f32 y, f32 columnPitch, std::span<c
   }
 }
 
-void PrintReport(Platform& platform, const std::string& complaint, const std::function<void(Canvas&)>& draw) {
+std::string TryReport(Platform& platform, const std::function<void(Canvas&)>& draw) {
   try {
     Canvas* printer = platform.PrintDialog();
     if (printer != nullptr) DrawAndClose(*printer, draw);
+    return {};
   } catch (const Fault& fault) {
-    platform.MessageBox(complaint + "\r\n" + fault.what(), Buttons::Ok, Icon::Exclamation, "Printer Error");
+    return fault.what();
   }
+}
+
+void PrintReport(Platform& platform, const std::string& complaint, const std::function<void(Canvas&)>& draw) {
+  const std::string fault = TryReport(platform, draw);
+  if (fault.empty()) return;
+  platform.MessageBox(complaint + "\r\n" + fault, Buttons::Ok, Icon::Exclamation, "Printer Error");
 }
 
 }  // namespace quilm

@@ -6,6 +6,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "shell/Canvas.h"
 
@@ -34,9 +35,9 @@ class Report {
   // Begins on the printer's first sheet, whose scale becomes the sheet's. The font is the printer's present one.
   Report(Canvas& printer, const LineGrid& grid);
 
-  // Drawn on each sheet: the head at once on the present one, the foot on its last line when the sheet ends.
+  // Drawn on each sheet: the head at once on the present one, the foot on its last lines when the sheet ends.
   void SetHead(std::function<void(Canvas&)> head);
-  void SetFoot(std::string foot) { foot_ = std::move(foot); }
+  void SetFoot(std::vector<std::string> lines) { foot_ = std::move(lines); }
 
   // The next line, on a new sheet when the present one is full.
   void Line(std::string_view text);
@@ -54,7 +55,7 @@ class Report {
   Canvas& printer_;
   LineGrid grid_;
   std::function<void(Canvas&)> head_;
-  std::string foot_;
+  std::vector<std::string> foot_;
   int line_ = 0;
 };
 
@@ -62,7 +63,10 @@ class Report {
 void PrintColumns(Canvas& printer, f32 left, f32 y, f32 columnPitch, std::span<const std::string> columns);
 
 // Offers a printer and draws a report on it. Cancelling is quiet. A fault, the printer's or the report's, ends the
-// report, closes the document and is told in a box "Printer Error": `complaint`, and the words of the fault under it.
+// report and closes the document; its words are the result, which is empty otherwise.
+std::string TryReport(Platform& platform, const std::function<void(Canvas&)>& draw);
+
+// The same, where a fault is told in a box "Printer Error": `complaint`, and the words of the fault under it.
 void PrintReport(Platform& platform, const std::string& complaint, const std::function<void(Canvas&)>& draw);
 
 }  // namespace quilm

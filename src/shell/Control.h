@@ -125,6 +125,7 @@ class Label : public Control {
  public:
   Label(Page& page, std::string name, std::string caption);
   bool emphasised = false;
+  bool fixedPitch = false;  // stands over a table in columns
 };
 
 class Frame : public Control {
@@ -141,6 +142,7 @@ class ListBox : public Control {
   bool table = false;  // rows of columns: a font of fixed pitch, and many rows can be marked and copied
   // The headings of a table whose rows are cells: the fields of an item are set apart by blanks, one for each heading.
   std::vector<std::string> columns;
+  i32 mostRows = 0;  // shown without scrolling; 0: as many as there is room for
   std::function<void()> onClick;
 };
 

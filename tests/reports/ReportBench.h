@@ -36,6 +36,18 @@ inline SheetPrinter PrinterWith(f32 width, f32 height) {
   return printer;
 }
 
+// A platform whose print dialog gives the printer of the test, nothing, or a fault.
+class PrintingPlatform : public HeadlessPlatform {
+ public:
+  PrintingPlatform() : HeadlessPlatform("") {}
+  Canvas* PrintDialog() override {
+    if (refuses) throw Fault("no such printer");
+    return printer;
+  }
+  Canvas* printer = nullptr;
+  bool refuses = false;
+};
+
 constexpr f32 a4Width = 11906;  // 210 mm
 constexpr f32 a4Height = 16838;
 

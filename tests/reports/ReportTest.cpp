@@ -54,7 +54,7 @@ TEST(Report, HeadAndFootStandOnEachSheet) {
   SheetPrinter printer;
   Report report(printer, {.left = 500, .top = 1000, .pitch = 250, .lines = 1});
   report.SetHead([](Canvas& canvas) { canvas.PrintAt(10, 20, "head"); });
-  report.SetFoot("foot");
+  report.SetFoot({"foot"});
   for (const char* line : {"one", "two"}) report.Line(line);
   report.End();
   ASSERT_EQ(printer.Sheets().size(), 2U);
@@ -68,7 +68,7 @@ TEST(Report, HeadAndFootStandOnEachSheet) {
 TEST(Report, TheFootIsAtTheFootOfThePaper) {
   SheetPrinter printer = PrinterWith(12240, 20000);
   Report report(printer, {});
-  report.SetFoot("foot");
+  report.SetFoot({"foot"});
   report.End();
   EXPECT_EQ(PlaceOf(printer.Sheets()[0], "foot").y, 20000 - 840);
 }
@@ -98,17 +98,6 @@ class FailingPrinter : public SheetPrinter {
 
  private:
   int left_;
-};
-
-class PrintingPlatform : public HeadlessPlatform {
- public:
-  PrintingPlatform() : HeadlessPlatform("") {}
-  Canvas* PrintDialog() override {
-    if (refuses) throw Fault("no such printer");
-    return printer;
-  }
-  Canvas* printer = nullptr;
-  bool refuses = false;
 };
 
 void TwoSheets(Canvas& canvas) {

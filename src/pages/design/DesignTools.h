@@ -11,6 +11,7 @@ namespace quilm {
 
 struct DesignView;
 
+inline constexpr int nearest5Tool = 1;
 inline constexpr int singlyTerminatedTool = 4;
 inline constexpr int endSectionsTool = 11;
 

@@ -63,6 +63,7 @@ void frmDesign::ConnectButtons() {
     controls_.guides.Guide(number).onClick = [this, number] { ShowTopologyHelp(number); };
   }
   cmdSeeNorms_.onClick = [this] { SeeNormalized(); };
+  controls_.tools.Offer(nearest5Tool, [this] { ShowNearest(); });
   controls_.tools.Offer(singlyTerminatedTool, [this] { DesignSinglyTerminated(); });
   controls_.tools.Offer(endSectionsTool, [this] { AddEnds(); });
   cmdManual_.onClick = [this] { GoTo(PageId::ManualEntry); };
@@ -185,6 +186,10 @@ void frmDesign::SeeNormalized() {
 void frmDesign::DesignSinglyTerminated() {
   if (session_.record.Width > limitsOf::leastEntered && !MakeNetwork()) return;
   GoTo(PageId::SinglyTermCheby);
+}
+
+void frmDesign::ShowNearest() {
+  if (MakeNetwork()) GoTo(PageId::Nearest5);
 }
 
 void frmDesign::AddEnds() {

@@ -36,6 +36,7 @@ class frmDesign : public Page {
   void ShowSettings();
   void SeeNormalized();
   void DesignSinglyTerminated();
+  void ShowNearest();
   void AddEnds();
 
   // What every way to a result does first; false keeps the page, after the user was told why.
