@@ -66,6 +66,9 @@ inline constexpr EntryLimits CauerOrder = {3, 21, "3", "21"};
 inline constexpr EntryLimits BesselOrder = {1, 17, "1", "17"};
 inline constexpr EntryLimits GaussianOrder = {1, 10, "1", "10"};
 
+// Percent, by which tuning moves a value; of a line's length degrees.
+inline constexpr EntryLimits TuneStep = {0.01F, 100, "0.01", "100"};
+
 // The singly terminated design makes its network at once, with no check behind it: what it takes must do as it is.
 // Order 1 has nothing to terminate singly, and the upper end is the program's.
 inline constexpr f32 leastSinglyTerminatedOrder = 2;
