@@ -91,9 +91,16 @@ std::string SweepLadder(DesignRecord& record, Responses& responses, VectorWidth 
   }
 }
 
+std::span<const f32> SweptFrequencies(const Responses& responses) {
+  return {responses.RespFreq.data(), static_cast<std::size_t>(responses.table.points)};
+}
+
 void AnalyzeSweep(Session& session) {
   const std::string mark = SweepLadder(session.record, session.responses);
-  if (mark.empty()) return;
+  if (!mark.empty()) TellOfFailedSweep(session, mark);
+}
+
+void TellOfFailedSweep(Session& session, const std::string& mark) {
   session.platform.MessageBox("We had a plotting routine problem.\r\nSee modAnalysis line " + mark +
                                   "\r\nCheck analysis starting and stopping frequencies\r\n"
                                   "and check the network component values.",

@@ -1,6 +1,7 @@
 // The analysis of the ladder: its response at one frequency, and over a sweep.
 #pragma once
 
+#include <span>
 #include <string>
 
 #include "analysis/Kernel.h"
@@ -36,7 +37,13 @@ void AnalyzeFrequency(const Network& network, const Ladder& ladder, f32 PrevFreq
 // ResponsesValid then stays as it was.
 std::string SweepLadder(DesignRecord& record, Responses& responses, VectorWidth width = DefaultWidth());
 
+// The frequencies of the last sweep, Hz.
+std::span<const f32> SweptFrequencies(const Responses& responses);
+
 // SweepLadder, with the message of a failure; the Schematic page then shows what the network is.
 void AnalyzeSweep(Session& session);
+
+// Tells of a sweep that failed, by its line mark, as AnalyzeSweep does.
+void TellOfFailedSweep(Session& session, const std::string& mark);
 
 }  // namespace quilm
