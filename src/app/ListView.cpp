@@ -72,9 +72,7 @@ ListView::ListView(ListBox& list, ActSink& sink, QWidget* parent)
   widget_->setModel(lines_);
   widget_->setUniformItemSizes(true);
   widget_->setEditTriggers(QAbstractItemView::NoEditTriggers);
-  const int lines = list.mostRows > 0 ? list.mostRows : listLines;
-  widget_->setMinimumHeight(widget_->fontMetrics().lineSpacing() * lines + 2 * widget_->frameWidth());
-  if (list.mostRows > 0) widget_->setMaximumHeight(widget_->minimumHeight());
+  widget_->setMinimumHeight(widget_->fontMetrics().lineSpacing() * listLines);
   SetWidget(widget_);
   QObject::connect(widget_, &QListView::clicked, widget_, [this, &sink](const QModelIndex& line) {
     sink.Press([this, chosen = line.row() + 1](Session& session) { Choose(session, list_, chosen); });
@@ -88,10 +86,19 @@ ListView::ListView(ListBox& list, ActSink& sink, QWidget* parent)
                    });
 }
 
+// As high as the rows that are shown without scrolling, and wide enough for the longest.
+void ListView::FitRows() {
+  const int rows = std::clamp(lines_->rowCount(), 1, list_.mostRows);
+  const int frame = 2 * widget_->frameWidth();
+  widget_->setFixedHeight(rows * std::max(widget_->sizeHintForRow(0), widget_->fontMetrics().lineSpacing()) + frame);
+  widget_->setMinimumWidth(widget_->sizeHintForColumn(0) + frame + widget_->verticalScrollBar()->sizeHint().width());
+}
+
 void ListView::ShowValues() {
   showing_ = true;
   const int scrolled = widget_->verticalScrollBar()->value();
   lines_->Show(list_.items);
+  if (list_.mostRows > 0) FitRows();
   widget_->verticalScrollBar()->setValue(scrolled);
   // What the user has marked in a table is the user's alone.
   if (!list_.table && widget_->currentIndex().row() != list_.selected - 1) {

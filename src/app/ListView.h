@@ -51,6 +51,8 @@ class ListView : public ControlView {
   void ShowValues() override;
 
  private:
+  void FitRows();
+
   ListBox& list_;
   QListView* widget_;
   LineModel* lines_;

@@ -34,7 +34,10 @@ LabelView::LabelView(Label& label, QWidget* parent) : ControlView(label), label_
     font.setBold(true);
     widget_->setFont(font);
   }
-  if (label.fixedPitch) widget_->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+  if (label.fixedPitch) {
+    widget_->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    widget_->setIndent(label.indent * widget_->fontMetrics().averageCharWidth());
+  }
   SetWidget(widget_);
 }
 

@@ -125,7 +125,8 @@ class Label : public Control {
  public:
   Label(Page& page, std::string name, std::string caption);
   bool emphasised = false;
-  bool fixedPitch = false;  // stands over a table in columns
+  bool fixedPitch = false;  // stands over a table in columns,
+  i32 indent = 0;           // so many characters in from its left edge
 };
 
 class Frame : public Control {

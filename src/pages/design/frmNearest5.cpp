@@ -13,6 +13,7 @@ namespace quilm {
 namespace {
 
 constexpr i32 rowsWithoutScrolling = 9;
+constexpr i32 headingsIndent = 4;  // brings the words of the heading over the columns of the table
 
 }  // namespace
 
@@ -39,6 +40,7 @@ frmNearest5::frmNearest5(Session& session)
                            "lblInductorsRetuneCaps", "Inductors nearest value, capacitors retuned") {
   lblHeading_.emphasised = true;
   lblOriginalValues_.fixedPitch = true;
+  lblOriginalValues_.indent = headingsIndent;
   lstParts_.table = true;
   lstParts_.mostRows = rowsWithoutScrolling;
   cmdExit_.onClick = [this] { Return(); };
