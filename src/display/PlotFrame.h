@@ -29,6 +29,10 @@ inline constexpr Scale plotScale{700, 380, 11500, 7560, {1, 4.0F / 3, 21.0F / 9}
 // aspect of 0.75 a chart is a true circle.
 inline constexpr Scale chartScale{900, 380, 10600, 7560, {4.0F / 3, 0, 0}};
 
+// Both with the room that the progress of a run takes, above the frame and to its left.
+inline constexpr Scale plotProgressScale{0, 330, 12200, 7610, plotScale.shape};
+inline constexpr Scale chartProgressScale{0, 330, 11500, 7610, chartScale.shape};
+
 // A vertical scale by its values at the top and the bottom of the frame.
 struct ValueScale {
   f32 top = 0;

@@ -10,6 +10,13 @@
 
 namespace quilm {
 
+// What of a plot is drawn, and how.
+enum class PlotDress {
+  Usual,
+  WithoutTraces,  // frame, grid and scales alone
+  UnderProgress,  // the rows above the frame, and some room to its left, are those of a run's progress
+};
+
 struct PlotSetup {
   HorizontalAxis axis;
   PlotScales scales;  // with the code of the plot
@@ -17,6 +24,7 @@ struct PlotSetup {
   SmithView chart;         // of the charts alone
   f32 reference = 0;       // ohms, of the charts' input reflection
   std::string title = {};  // of the design, for paper
+  PlotDress dress = PlotDress::Usual;
 };
 
 }  // namespace quilm

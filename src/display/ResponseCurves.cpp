@@ -57,6 +57,28 @@ ResponseSpans SpansOf(const Responses& r, int last) {
           points(r.RespReturn), points(r.RespVSWR),  points(r.RespZin),   points(r.RespZinAngle)};
 }
 
+ResponseSpans ExtremesOf(const Responses& r, int last, ExtremeSelect which, const PlotScales& scales,
+                         std::vector<f32>& relative) {
+  ResponseSpans spans = SpansOf(r, last);
+  if (which == ExtremeSelect::None) return spans;
+  const bool max = which == ExtremeSelect::Max;
+  const auto points = [&spans](const ResponseArray& array) {
+    return std::span<const f32>(array.data(), spans.Count());
+  };
+  spans.trans = points(max ? r.MaxTrans : r.MinTrans);
+  spans.angle = points(max ? r.MaxAngle : r.MinAngle);
+  spans.delay = points(max ? r.MaxDelay : r.MinDelay);
+  spans.returnLoss = points(max ? r.MaxReturn : r.MinReturn);
+  spans.vswr = points(max ? r.MaxVSWR : r.MinVSWR);
+  spans.zin = points(max ? r.MaxZin : r.MinZin);
+  spans.zinAngle = points(max ? r.MaxZinAngle : r.MinZinAngle);
+  if (scales.RelativeMode != 1) return spans;
+  relative.clear();
+  for (const f32 trans : spans.trans) relative.push_back(static_cast<f32>(static_cast<f64>(trans) - r.TransPeak));
+  spans.trans = relative;
+  return spans;
+}
+
 f64 ValueOf(const ResponseSpans& responses, Quantity quantity, std::size_t point) {
   return IsDerived(quantity) ? DerivedValue(responses, quantity, point) : HeldBy(responses, quantity)[point];
 }

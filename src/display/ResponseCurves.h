@@ -5,6 +5,7 @@
 #include <variant>
 #include <vector>
 
+#include "core/PlotScales.h"
 #include "core/RecordFwd.h"
 #include "core/Types.h"
 
@@ -33,6 +34,14 @@ int LastPoint(const SweepSettings& sweep);
 
 // The responses at points 0..last. Throws BoundFault when there are no such points.
 ResponseSpans SpansOf(const Responses& responses, int last);
+
+// Which of the responses a plot shows: those of the last sweep, or the extremes over several.
+enum class ExtremeSelect : i16 { None = 0, Max = 1, Min = 2 };
+
+// The extremes at points 0..last in place of the responses. They are absolute, so that a relative display has the peak
+// subtracted from the transmission, which goes into `relative`. Throws like SpansOf.
+ResponseSpans ExtremesOf(const Responses& responses, int last, ExtremeSelect which, const PlotScales& scales,
+                         std::vector<f32>& relative);
 
 // The quantity at a point, 0..Count() - 1. Real and imaginary part are not rounded to 32 bits.
 f64 ValueOf(const ResponseSpans& responses, Quantity quantity, std::size_t point);

@@ -53,6 +53,14 @@ void AddTraces(const PlotSetup& setup, const ResponseSpans& responses, AxisPlace
   }
 }
 
+void DrawSheetTitles(const PlotSetup& setup, Canvas& canvas) {
+  if (IsRectangular(setup.scales.PlotCode)) {
+    DrawTitles(setup, canvas);
+  } else {
+    PrintChartTitle(setup, canvas);
+  }
+}
+
 void ClearSheet(PlotSheet& sheet) {
   sheet.picture = Picture();
   sheet.live.Clear();
@@ -67,16 +75,18 @@ void ChoosePlot(Session& session, i16 code) {
   RedrawPlot(session);
 }
 
-void RedrawPlot(Session& session) {
-  session.plot.live.SetScale(IsRectangular(session.record.PlotCode) ? plotScale : chartScale);
+void RedrawPlot(Session& session, PlotDress dress) {
   session.plot.live.Clear();
   try {
     HoldLossBottom(session.record);
     const ResponseSpans responses = SpansOf(session.responses, LastPoint(session.record));
-    DrawSheet(SetupOf(session), responses, session.plot.places, session.plot.picture);
+    PlotSetup setup = SetupOf(session);
+    setup.dress = dress;
+    DrawSheet(setup, responses, session.plot.places, session.plot.picture);
   } catch (const Fault&) {
     ShowPlotFault(session);
   }
+  session.plot.live.SetScale(session.plot.picture.CurrentScale());
 }
 
 void AddTraces(Session& session, const ResponseSpans& responses, Canvas& canvas) {

@@ -27,9 +27,12 @@ void ClearSheet(PlotSheet& sheet);
 // draws it.
 void ChoosePlot(Session& session, i16 code);
 
+// The titles of a plot once more, above its frame.
+void DrawSheetTitles(const PlotSetup& setup, Canvas& canvas);
+
 // Draws the present plot with the last sweep on the session's sheet, and takes the traces of a run away. Holds
 // LossBottom at -0.3 or below before. A failure is shown to the user; what was drawn until then stays.
-void RedrawPlot(Session& session);
+void RedrawPlot(Session& session, PlotDress dress = PlotDress::Usual);
 
 // Adds the traces of some responses in the sheet's colours to a canvas that shows the present plot: the sheet's
 // picture, or the layer over it. Throws like DrawSheet.

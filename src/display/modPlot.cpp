@@ -42,6 +42,19 @@ const PlotTrace& TraceOf(const PlotKind& kind, const PlotAxis& axis) {
   return at == kind.traces.end() ? kind.traces.front() : *at;
 }
 
+// Where the titles stand: at the edges of the sheet, or below a run's progress just above the frame.
+struct TitlePlace {
+  f32 row;
+  f32 left;
+  f32 right;
+};
+
+TitlePlace TitlePlaceOf(const PlotSetup& setup) {
+  constexpr f32 rowBelowProgress = 815;
+  if (setup.dress != PlotDress::UnderProgress) return {titleRow, leftTitleStart, rightTitleEnd};
+  return {rowBelowProgress, plotFrame.left, plotFrame.Right()};
+}
+
 // A piece of the trace beside the title of its scale, where colours may not tell.
 void DrawSample(const PlotSetup& setup, const PlotTrace& trace, ScaleSide side, Canvas& canvas) {
   const PenScope pen(canvas);
@@ -49,45 +62,67 @@ void DrawSample(const PlotSetup& setup, const PlotTrace& trace, ScaleSide side, 
   canvas.DrawStyle = StyleOf(trace);
   canvas.ShowOn = Medium::Paper;
   canvas.FontSize = titleSize;
-  const f32 y = titleRow + canvas.TextHeight("0") / 2;
-  const f32 from = side == ScaleSide::Left ? leftTitleStart - sampleGap - sampleLength : rightTitleEnd + sampleGap;
+  const TitlePlace place = TitlePlaceOf(setup);
+  const f32 y = place.row + canvas.TextHeight("0") / 2;
+  const f32 from = side == ScaleSide::Left ? place.left - sampleGap - sampleLength : place.right + sampleGap;
   canvas.Line(from, y, from + sampleLength, y, ColorOf(setup, trace));
 }
 
-void DrawScales(const PlotSetup& setup, const PlotKind& kind, Canvas& canvas) {
-  ScaleSide side = ScaleSide::Left;
-  for (const PlotAxis& axis : kind.axes) {
-    const PlotTrace& trace = TraceOf(kind, axis);
-    DrawScale(ScaleOf(setup.scales, axis.quantity), axis.title, ColorOf(setup, trace), setup.scales.NrYints, side,
-              canvas);
-    if (kind.traces.size() > 1) DrawSample(setup, trace, side, canvas);
-    side = ScaleSide::Right;
+void DrawTitle(const PlotSetup& setup, const PlotTrace& trace, const std::string& title, ScaleSide side,
+               Canvas& canvas) {
+  const PenScope pen(canvas);
+  const TitlePlace place = TitlePlaceOf(setup);
+  canvas.FontSize = titleSize;
+  canvas.Fit.anchor = 0;
+  canvas.ForeColor = ColorOf(setup, trace);
+  if (side == ScaleSide::Left) {
+    canvas.PrintAt(place.left, place.row, title);
+  } else {
+    PrintEndingAt(canvas, place.right, place.row, title);
   }
+}
+
+// The first axis of a plot is on the left.
+ScaleSide SideOf(const PlotKind& kind, const PlotAxis& axis) {
+  return &axis == &kind.axes.front() ? ScaleSide::Left : ScaleSide::Right;
+}
+
+void DrawScales(const PlotSetup& setup, const PlotKind& kind, Canvas& canvas) {
+  for (const PlotAxis& axis : kind.axes) {
+    DrawScale(ScaleOf(setup.scales, axis.quantity), setup.scales.NrYints, SideOf(kind, axis), canvas);
+  }
+  DrawTitles(setup, canvas);
 }
 
 }  // namespace
 
-void DrawScale(const ValueScale& scale, const std::string& title, Color titleColor, f32 intervals, ScaleSide side,
-               Canvas& canvas) {
+void DrawTitles(const PlotSetup& setup, Canvas& canvas) {
+  const PlotKind kind = KindOf(setup.scales);
+  for (const PlotAxis& axis : kind.axes) {
+    const PlotTrace& trace = TraceOf(kind, axis);
+    DrawTitle(setup, trace, axis.title, SideOf(kind, axis), canvas);
+    if (kind.traces.size() > 1) DrawSample(setup, trace, SideOf(kind, axis), canvas);
+  }
+}
+
+void DrawGridLines(const PlotSetup& setup, Canvas& canvas) {
+  DrawHorizontalGrid(setup.scales.NrYints, canvas);
+  DrawFrequencyLines(MakeFrequencyGrid(setup.axis, setup.scales.NrXints), canvas);
+  DrawFrame(canvas);
+}
+
+void DrawScale(const ValueScale& scale, f32 intervals, ScaleSide side, Canvas& canvas) {
   const PenScope pen(canvas);
-  const bool left = side == ScaleSide::Left;
   canvas.FontSize = labelSize;
   canvas.Fit.anchor = 0;
   for (int k = 0; static_cast<f32>(k) <= intervals; ++k) {
     const f64 part = k / static_cast<f64>(intervals);
     const f32 y = static_cast<f32>(std::floor(part * static_cast<f64>(plotFrame.height))) + plotFrame.top - labelRise;
-    if (left) {
+    if (side == ScaleSide::Left) {
       PrintEndingAt(canvas, leftLabelsEnd, y, ScaleLabel(scale, part));
     } else {
       canvas.PrintAt(rightLabelsStart, y, ScaleLabel(scale, part));
     }
-  }
-  canvas.FontSize = titleSize;
-  canvas.ForeColor = titleColor;
-  if (left) {
-    canvas.PrintAt(leftTitleStart, titleRow, title);
-  } else {
-    PrintEndingAt(canvas, rightTitleEnd, titleRow, title);
   }
 }
 
@@ -125,12 +160,12 @@ void BeginPlot(const Scale& scale, Canvas& canvas) {
 void DrawPlot(const PlotSetup& setup, const ResponseSpans& responses, AxisPlaces& places, Canvas& canvas) {
   const PenScope pen(canvas);
   const PlotKind kind = KindOf(setup.scales);
-  BeginPlot(plotScale, canvas);
+  BeginPlot(setup.dress == PlotDress::UnderProgress ? plotProgressScale : plotScale, canvas);
   DrawHorizontalGrid(setup.scales.NrYints, canvas);
   DrawScales(setup, kind, canvas);
   DrawVerticalGrid(setup.axis, setup.scales.NrXints, canvas);
   DrawFrame(canvas);
-  DrawTraces(setup, responses, places, canvas);
+  if (setup.dress != PlotDress::WithoutTraces) DrawTraces(setup, responses, places, canvas);
   DrawFooters(setup.title, canvas);
 }
 

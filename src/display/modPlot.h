@@ -22,9 +22,14 @@ std::vector<Point> TracePoints(const PlotSetup& setup, const ResponseSpans& resp
 // The side of the frame that a scale stands on.
 enum class ScaleSide { Left, Right };
 
-// The title and the labels of a scale in `intervals` steps; the title in the colour of its trace.
-void DrawScale(const ValueScale& scale, const std::string& title, Color titleColor, f32 intervals, ScaleSide side,
-               Canvas& canvas);
+// The labels of a scale in `intervals` steps.
+void DrawScale(const ValueScale& scale, f32 intervals, ScaleSide side, Canvas& canvas);
+
+// The titles above the scales of a plot, each in the colour of its trace.
+void DrawTitles(const PlotSetup& setup, Canvas& canvas);
+
+// The horizontal and vertical lines of the grid with the frame, without labels: over traces that have hidden them.
+void DrawGridLines(const PlotSetup& setup, Canvas& canvas);
 
 // Empties the canvas for a plot and sets its scale and pen.
 void BeginPlot(const Scale& scale, Canvas& canvas);

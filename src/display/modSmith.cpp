@@ -126,12 +126,9 @@ void DrawCornerTraces(const PlotSetup& setup, const ResponseSpans& responses, Ax
   }
 }
 
-void PrintNotes(const PlotSetup& setup, Canvas& canvas) {
-  const PenScope pen(canvas);
-  canvas.FontSize = titleSize;
-  const std::string title = IsSmith(setup) ? "S11" : "S21";
-  PrintOnPatch(canvas, chartCenter.x - canvas.TextWidth(title) / 2, chartTitleRow, title);
+void PrintNote(const PlotSetup& setup, Canvas& canvas) {
   if (!IsSmith(setup)) return;
+  const PenScope pen(canvas);
   canvas.FontSize = labelSize;
   const std::string note = "Normalized to " + ShortText(setup.reference, LeadingZero::Drop) + " ohms";
   PrintOnPatch(canvas, noteEnd.x - canvas.TextWidth(note), noteEnd.y, note);
@@ -162,15 +159,25 @@ Phasor Transmission(const ResponseSpans& responses, std::size_t point) {
   return {magnitude * std::cos(angle), magnitude * std::sin(angle)};
 }
 
+void PrintChartTitle(const PlotSetup& setup, Canvas& canvas) {
+  if (setup.dress == PlotDress::UnderProgress) return;
+  const PenScope pen(canvas);
+  canvas.FontSize = titleSize;
+  const std::string title = IsSmith(setup) ? "S11" : "S21";
+  PrintOnPatch(canvas, chartCenter.x - canvas.TextWidth(title) / 2, chartTitleRow, title);
+}
+
 void DrawChart(const PlotSetup& setup, const ResponseSpans& responses, AxisPlaces& places, Canvas& canvas) {
   const PenScope pen(canvas);
-  BeginPlot(chartScale, canvas);
+  const bool traced = setup.dress != PlotDress::WithoutTraces;
+  BeginPlot(setup.dress == PlotDress::UnderProgress ? chartProgressScale : chartScale, canvas);
   DrawRoundGrid(setup, canvas);
-  DrawRoundTrace(setup, responses, canvas);
+  if (traced) DrawRoundTrace(setup, responses, canvas);
   if (IsSmith(setup) && setup.chart.VSWRCircleOn == 1) DrawVSWRCircle(ScaleFor(setup), setup.chart.VSWRCircle, canvas);
   DrawCornerFrame(setup, canvas);
-  DrawCornerTraces(setup, responses, places, canvas);
-  PrintNotes(setup, canvas);
+  if (traced) DrawCornerTraces(setup, responses, places, canvas);
+  PrintChartTitle(setup, canvas);
+  PrintNote(setup, canvas);
   DrawFooters(setup.title, canvas);
 }
 

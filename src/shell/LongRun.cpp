@@ -17,6 +17,7 @@ LongRun::LongRun(Session& session, Page& page, RunPlan plan)
 }
 
 LongRun::~LongRun() {
+  PutBack();
   session_.run = nullptr;
   page_.cancelButton = cancelBefore_;
   for (std::size_t i = 0; i < plan_.stops.size(); ++i) {
@@ -42,6 +43,10 @@ void LongRun::OfferStops() {
   if (plan_.stops.empty()) return;
   page_.cancelButton = plan_.stops.front();
   page_.SetFocus(*plan_.stops.front());
+}
+
+void LongRun::PutBack() const {
+  if (plan_.putBack) plan_.putBack();
 }
 
 void LongRun::YieldWhenDue() {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <chrono>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -19,6 +20,8 @@ struct RunPlan {
   i32 steps = 0;                 // the most there are
   std::vector<Button*> stops;    // what can be pressed meanwhile; the first has the focus and the Escape key
   Control* startedBy = nullptr;  // has the focus again afterwards
+  // Makes the design what the run leaves of it; may be called at any step, and more than once. Must not throw.
+  std::function<void()> putBack = {};
 };
 
 // Made in a handler of the page for as long as the run lasts:
@@ -29,8 +32,9 @@ struct RunPlan {
 //   } while (run.Step());
 //
 // The stop buttons are seen and can be pressed, all else on every open page is locked; only close boxes answer. However
-// the run ends, also by an exception, the locks are taken away, and the stop buttons, the Escape key and the focus are
-// what they were before. What the page shows after the run it decides when the run has gone.
+// the run ends, also by an exception, the design is put back, the locks are taken away, and the stop buttons, the
+// Escape key and the focus are what they were before. What the page shows after the run it decides when the run has
+// gone.
 class LongRun {
  public:
   // Throws Fault while another run is on.
@@ -50,6 +54,9 @@ class LongRun {
   // The handlers of the stop buttons call it through Session::run.
   void Stop() { stopped_ = true; }
   bool Stopped() const { return stopped_; }
+
+  // For who keeps the design in the middle of the run, because the program ends: it is then that of no trial.
+  void PutBack() const;
 
  private:
   struct StopBefore {

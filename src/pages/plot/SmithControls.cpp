@@ -64,6 +64,13 @@ void SmithControls::ShowFor(i16 plotCode) {
   }
 }
 
+void SmithControls::Hide() {
+  for (Control* control : std::initializer_list<Control*>{&cmdZoomIn, &cmdZoomOut, &cmdVSWR, &txtVSWR, &lblAspect,
+                                                          &txtAspect, &UpDown1, &txtAspectEntry}) {
+    control->visible = false;
+  }
+}
+
 void SmithControls::Zoom(f32 factor) {
   session_.smithView.ZoomFactor = std::clamp(factor, 1.0F, largestZoom);
   RefreshZoom();

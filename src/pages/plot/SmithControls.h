@@ -22,6 +22,8 @@ class SmithControls {
   // Shows what the plot of a code has: the aspect on both round plots, zoom and VSWR circle on the Smith chart.
   void ShowFor(i16 plotCode);
 
+  void Hide();
+
   Layout MakeLayout();
 
   Button cmdZoomIn;

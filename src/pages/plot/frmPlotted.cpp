@@ -29,7 +29,9 @@ frmPlotted::frmPlotted(Session& session)
       navigation(*this, session, NavigationRow::WithSoundEntries(session)),
       picPlot(*this, "picPlot", "Plot of the responses", session.plot.picture, session.plot.live),
       smithControls(*this, session, [&session] { RedrawPlot(session); }),
-      mouse_(session, picPlot) {
+      mouse_(session, picPlot),
+      runs_(session, *this, {cmdOptimize, cmdMonteCarlo, cmdEnd, cmdExtremes, picPlot},
+            [this](bool shown) { ShowTools(shown); }) {
   ClearSheet(session.plot);  // nothing of the design before shows when this one cannot be drawn
   navigation.helpFile = "plots.htm";
   navigation.onSave = [&session] { SaveDesign(session, "Save Quilm File"); };
@@ -44,15 +46,14 @@ frmPlotted::frmPlotted(Session& session)
   }
   cmdAutoScale.onClick = [this] { ScaleToResponse(); };
   cmdFitSweep.onClick = [this] { FitToBand(); };
-  for (Button* tool : {&cmdLimits, &cmdMarkers, &cmdMonteCarlo, &cmdOptimize, &cmdStepSize, &cmdTunePart, &cmdTuneWidth,
-                       &cmdTuneApass, &cmdGetOverlay, &cmdSaveOverlay}) {
+  for (Button* tool : {&cmdLimits, &cmdMarkers, &cmdStepSize, &cmdTunePart, &cmdTuneWidth, &cmdTuneApass,
+                       &cmdGetOverlay, &cmdSaveOverlay}) {
     tool->enabled = false;
   }
   for (Button* tool : {&cmdAutoScale, &cmdFitSweep, &cmdLimits, &cmdMarkers, &cmdStepSize, &cmdTunePart, &cmdTuneWidth,
                        &cmdTuneApass, &cmdOptimize, &cmdMonteCarlo, &cmdGetOverlay, &cmdSaveOverlay}) {
     tool->role = ButtonRole::Tool;
   }
-  for (Button* stop : {&cmdEnd, &cmdExtremes}) stop->visible = stop->enabled = false;
 }
 
 void frmPlotted::Load() {
@@ -79,9 +80,26 @@ void frmPlotted::Choose(i16 code) {
   cmdLimits.visible = IsRectangular(code);
   smithControls.ShowFor(code);
   ChoosePlot(session_, code);
+  runs_.OfferExtremes();
 }
 
 void frmPlotted::RefreshTools() { cmdTuneApass.visible = RippleCanBeTuned(session_.record); }
+
+// All that a run takes away meanwhile.
+void frmPlotted::ShowTools(bool shown) {
+  for (const auto& button : plotButtons) button->visible = shown;
+  for (Button* tool : {&cmdAutoScale, &cmdFitSweep, &cmdLimits, &cmdMarkers, &cmdStepSize, &cmdTunePart, &cmdTuneWidth,
+                       &cmdTuneApass, &cmdOptimize, &cmdMonteCarlo, &cmdGetOverlay, &cmdSaveOverlay}) {
+    tool->visible = shown;
+  }
+  if (shown) {
+    RefreshTools();
+    cmdLimits.visible = IsRectangular(session_.record.PlotCode);
+    smithControls.ShowFor(session_.record.PlotCode);
+  } else {
+    smithControls.Hide();
+  }
+}
 
 // The page is taken away and shown again, so that everything on it is rebuilt with the new scales.
 void frmPlotted::ScaleToResponse() {
@@ -98,13 +116,13 @@ void frmPlotted::FitToBand() {
 
 Layout frmPlotted::MakeLayout() {
   std::vector<Layout> strip;
-  for (const auto& button : plotButtons) strip.push_back(Put(*button));
+  for (const auto& button : plotButtons) strip.push_back(KeepPlace(Put(*button)));
   strip.push_back(Space());
-  const Layout tools = Column(
-      {Grid(1, {Put(cmdAutoScale), Put(cmdFitSweep), KeepPlace(Put(cmdLimits)), Put(cmdMarkers), Put(cmdStepSize),
-                Put(cmdTunePart), Put(cmdTuneWidth), KeepPlace(Put(cmdTuneApass)), Put(cmdOptimize), Put(cmdMonteCarlo),
-                Put(cmdGetOverlay), Put(cmdSaveOverlay), Put(cmdEnd), Put(cmdExtremes)}),
-       smithControls.MakeLayout(), Space()});
+  const Layout tools =
+      Column({KeepPlace(Grid(1, {Put(cmdAutoScale), Put(cmdFitSweep), Put(cmdLimits), Put(cmdMarkers), Put(cmdStepSize),
+                                 Put(cmdTunePart), Put(cmdTuneWidth), Put(cmdTuneApass), Put(cmdOptimize),
+                                 Put(cmdMonteCarlo), Put(cmdGetOverlay), Put(cmdSaveOverlay)})),
+              Grid(1, {Put(cmdEnd), Put(cmdExtremes)}), smithControls.MakeLayout(), Space()});
   return Column({navigation.MakeLayout(), Row(std::move(strip)), Fill(Row({Fill(Put(picPlot)), tools}))});
 }
 

@@ -6,6 +6,7 @@
 
 #include "desk/NavigationRow.h"
 #include "pages/plot/PlotMouse.h"
+#include "pages/plot/PlotRuns.h"
 #include "pages/plot/SmithControls.h"
 #include "shell/Page.h"
 
@@ -27,8 +28,8 @@ class frmPlotted : public Page {
   Button cmdFitSweep{*this, "cmdFitSweep", "Fit sweep", "Set start and stop round the band (Ctrl+F)"};
   Button cmdLimits{*this, "cmdLimits", "Limits", "Set limit areas for this plot"};
   Button cmdMarkers{*this, "cmdMarkers", "Markers", "Set marker frequencies"};
-  Button cmdMonteCarlo{*this, "cmdMonteCarlo", "Monte Carlo", "Try the design with part tolerances"};
-  Button cmdOptimize{*this, "cmdOptimize", "Optimize", "Optimize the parts against the limits"};
+  Button cmdMonteCarlo{*this, "cmdMonteCarlo", "Monte Carlo", "Start the Monte Carlo routine"};
+  Button cmdOptimize{*this, "cmdOptimize", "Optimize", "Start the Optimizer routine"};
   Button cmdStepSize{*this, "cmdStepSize", "Stepsize %", "Set the step of each part"};
   Button cmdTunePart{*this, "cmdTunePart", "Tune part", "Tune single parts while the plot follows"};
   Button cmdTuneWidth{*this, "cmdTuneWidth", "Tune width", "Tune bandwidth and center while the plot follows"};
@@ -36,15 +37,17 @@ class frmPlotted : public Page {
   Button cmdGetOverlay{*this, "cmdGetOverlay", "Get overlay", "Lay a saved plot over this one"};
   Button cmdSaveOverlay{*this, "cmdSaveOverlay", "Save overlay", "Save the plots to lay over later ones"};
   Button cmdEnd{*this, "cmdEnd", "Stop", "Stop the run"};
-  Button cmdExtremes{*this, "cmdExtremes", "Stop / show extremes", "Stop the run and show the extremes"};
+  Button cmdExtremes{*this, "cmdExtremes", "Stop / show extremes", "End this routine and show target and extremes"};
 
  private:
   void Choose(i16 code);
   void RefreshTools();
+  void ShowTools(bool shown);
   void ScaleToResponse();
   void FitToBand();
 
   PlotMouse mouse_;
+  PlotRuns runs_;
 };
 
 }  // namespace quilm
