@@ -269,9 +269,23 @@ bool PageView::PressButton(Button* button) {
   return true;
 }
 
-// The wheel over a picture turns the page's zoom, notch by notch.
+bool PageView::Turn(int direction) {
+  if (page_ == nullptr || page_->turned == nullptr || !page_->turned->Usable()) return false;
+  Press([spin = page_->turned, direction](Session& session) { Step(session, *spin, direction); });
+  return true;
+}
+
+bool PageView::TakeWheel(const QWheelEvent& event) {
+  if (page_ == nullptr || page_->turned == nullptr) return false;
+  const int notches = wheel_.Take(event);
+  for (int n = 0; n < std::abs(notches); ++n) Turn(notches > 0 ? +1 : -1);
+  return true;
+}
+
+// The wheel over a picture turns the page's zoom, notch by notch, or what the tool beside it is there for.
 void PageView::wheelEvent(QWheelEvent* event) {
   event->ignore();
+  if (HasTool() ? side_->Panel()->TakeWheel(*event) : TakeWheel(*event)) return event->accept();
   if (qobject_cast<PictureView*>(childAt(event->position().toPoint())) == nullptr) return;
   const int notches = wheel_.Take(*event);
   for (int n = 0; n < std::abs(notches); ++n) {
@@ -315,6 +329,10 @@ bool PageView::TakeKey(const QKeyEvent& event) {
       return true;
     case Qt::Key_Escape:
       return PressButton(page_->cancelButton);
+    case Qt::Key_Up:
+      return Turn(+1);
+    case Qt::Key_Down:
+      return Turn(-1);
     default:
       return false;
   }

@@ -56,6 +56,9 @@ class PageView : public QWidget, public ActSink {
   // Where tools stand beside the page; nullptr when it has no such place.
   SideStack* Side() const { return side_; }
 
+  // Turns the page's `turned` by the notches of a wheel. False when it has none.
+  bool TakeWheel(const QWheelEvent& event);
+
   // Return, Escape and the keys of the window that no widget took.
   bool TakeKey(const QKeyEvent& event);
 
@@ -79,6 +82,7 @@ class PageView : public QWidget, public ActSink {
   bool PressButton(Button* button);
   bool PressFocused();
   bool TakeEntry();
+  bool Turn(int direction);
   PictureView* PictureToCopy() const;
   bool HasTool() const;
 

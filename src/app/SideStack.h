@@ -19,6 +19,9 @@ class SidePanel : public QWidget {
   // Return and Escape as in a dialog. False when the key means nothing here.
   bool TakeKey(const QKeyEvent& event);
 
+  // The wheel over the page beside. False when the tool has nothing to turn.
+  bool TakeWheel(const QWheelEvent& event) { return view_.TakeWheel(event); }
+
  protected:
   void keyPressEvent(QKeyEvent* event) override;
 

@@ -13,7 +13,11 @@
 #include "pages/design/frmSinglyTermCheby.h"
 #include "pages/guidance/frmHelp.h"
 #include "pages/plot/frmBlank.h"
+#include "pages/plot/frmMonteCarloSetup.h"
 #include "pages/plot/frmPlotted.h"
+#include "pages/plot/frmTuneApass.h"
+#include "pages/plot/frmTunePart.h"
+#include "pages/plot/frmTuneWidthCenter.h"
 #include "pages/schematic/frmSchematic.h"
 #include "pages/schematic/frmSchematicSimple.h"
 #include "pages/start/frmAbout.h"
@@ -41,6 +45,10 @@ PageDirectory AllPages() {
       {PageId::Analyze, Make<frmAnalyze>},
       {PageId::Plotted, Make<frmPlotted>},
       {PageId::Tabulated, Make<frmTabulated>},
+      {PageId::TunePart, Make<frmTunePart>},
+      {PageId::TuneWidthCenter, Make<frmTuneWidthCenter>},
+      {PageId::TuneApass, Make<frmTuneApass>},
+      {PageId::MonteCarloSetup, Make<frmMonteCarloSetup>},
       {PageId::Blank, Make<frmBlank>},
       {PageId::Exit, Make<frmExit>},
       {PageId::ChangeTitle, Make<frmChangeTitle>},

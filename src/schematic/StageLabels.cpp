@@ -50,18 +50,17 @@ bool IsShared(SlotCode slot) {
   return slot == SlotCode::Inductance || slot == SlotCode::Capacitance || slot == SlotCode::Resistance;
 }
 
-std::string ValueText(const Slot& slot, f32 value) {
-  // The format of resistances knows none below 0.
-  if (slot.code == SlotCode::Resistance && value < 0) return "-" + Trimmed(slot.format(-value));
-  return Trimmed(slot.format(value));
-}
-
 void AddLoss(std::vector<LossLabel>& labels, const char* heading, f64 ohms) {
   if (!std::isfinite(ohms)) return;
   labels.push_back({heading, Trimmed(FormatResistance(static_cast<f32>(ohms)))});
 }
 
 }  // namespace
+
+std::string ValueText(const Slot& slot, f32 value) {
+  if (slot.format == FormatResistance && value < 0) return "-" + Trimmed(slot.format(-value));
+  return Trimmed(slot.format(value));
+}
 
 std::vector<StageLabel> ValueLabels(const Stage& stage, f32 share) {
   std::vector<StageLabel> labels;

@@ -4,8 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "core/RecordFwd.h"
-#include "core/Types.h"
+#include "core/ElementCatalogue.h"
 
 namespace quilm {
 
@@ -17,6 +16,10 @@ struct StageLabel {
   std::string unit = {};        // where the text has none
   std::string designator = {};  // the letters of the part that the label names first: "L", "C", "R", "TL" or "T"
 };
+
+// A value in the display format of its slot, without the blanks around it. The format of resistances knows none below
+// 0; they show their sign and size.
+std::string ValueText(const Slot& slot, f32 value);
 
 // The values of the parts that the element type gives meaning to, in display format. `share` is the part of a value
 // that each rail carries: series parts of a balanced network show half of it.

@@ -176,7 +176,8 @@ void Leave(Session& session, TextBox& box) {
 
 void Step(Session& session, Spin& spin, int direction) {
   Require(session, spin);
-  RunAct(session, {NameOf(spin)}, direction > 0 ? spin.onUp : spin.onDown);
+  const Deed deed = spin.oneAct ? Deed{NameOf(spin), spin.name, false} : Deed{NameOf(spin)};
+  RunAct(session, deed, direction > 0 ? spin.onUp : spin.onDown);
 }
 
 void SetNumber(Session& session, Spin& spin, i32 number) {

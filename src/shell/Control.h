@@ -158,7 +158,8 @@ class Spin : public Control {
   void Count(Label& shown, std::function<void(i32)> onTyped);
   Label* number = nullptr;
   std::function<void(i32)> onSet;
-  i32 lowest = 0;  // for assistive tools, and for where the digits of a typed number end
+  bool oneAct = false;  // its steps in a row are taken back together, like the keystrokes in a box
+  i32 lowest = 0;       // for assistive tools, and for where the digits of a typed number end
   i32 highest = 0;
 
   // What the label shows; 0 where it shows no number.

@@ -4,7 +4,7 @@
 // redo move the place. Acts.cpp compares the record before and after each act, so that no page has to do anything.
 //
 // - A step is what one act changed. The keystrokes in one box are one step until another control is used or the box is
-//   left; a long run is one, since it runs within one act.
+//   left, and so are the steps of a spin control that says so; a long run is one, since it runs within one act.
 // - What the program itself changes while it follows the user somewhere is no step: entries that a check repairs, the
 //   network that is computed when a page is left, what a page's load step fills in. It runs within a `Following` scope
 //   and joins the step before it, so that undo after "type a width, press Plot" takes both back. What the user changes

@@ -66,6 +66,9 @@ class Page {
   EntryList entries;               // its boxes with the fields behind them
   Button* acceptButton = nullptr;  // pressed by Enter
   Button* cancelButton = nullptr;  // pressed by Escape
+  // Of a tool beside another page: stepped by the wheel wherever it turns over the two, and by the arrow keys that
+  // nothing else takes.
+  Spin* turned = nullptr;
 
  protected:
   Session& session_;

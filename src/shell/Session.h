@@ -8,6 +8,7 @@
 #include "core/RecordFwd.h"
 #include "core/SchematicView.h"
 #include "core/SmithView.h"
+#include "core/StepTexts.h"
 #include "shell/PageDesk.h"
 #include "shell/Platform.h"
 #include "shell/PlotSheet.h"
@@ -50,6 +51,7 @@ class Session {
   // How charts and schematic are looked at. Their pages begin with the defaults; the charts' zoom alone stays.
   SmithView smithView;
   SchematicView schematicView;
+  StepTexts stepTexts;
 
   PlotSheet plot;  // the plot on display
 

@@ -220,7 +220,7 @@ TEST_F(AnalysisPage, ADesignPageNeedsNoCheck) {
 }
 
 TEST_F(AnalysisPage, ToolsOfLaterPagesAreDisabled) {
-  for (const char* name : {"cmdStepsize", "cmdModulation", "cmdPhase", "cmdNoise", "cmdTransient", "cmdAssistance"}) {
+  for (const char* name : {"cmdModulation", "cmdPhase", "cmdNoise", "cmdTransient", "cmdAssistance"}) {
     EXPECT_FALSE(Get<Button>(name).Active()) << name;
   }
 }

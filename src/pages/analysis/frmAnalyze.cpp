@@ -43,13 +43,17 @@ frmAnalyze::frmAnalyze(Session& session)
   ConnectSpins();
   cmdAutoScale_.onClick = [this] { ScaleToResponse(); };
   cmdFitSweep_.onClick = [this] { FitToBand(); };
+  cmdStepsize_.onClick = [this] {
+    session_.pages.ShowModal(PageId::MonteCarloSetup);
+    session_.pages.ShowPage(Id());
+  };
   cmdAssistance_.onClick = [this] { session_.pages.ShowModal(PageId::EntryAssistance); };
   for (Button* tool : {&cmdAutoScale_, &cmdFitSweep_, &cmdStepsize_, &cmdModulation_, &cmdPhase_, &cmdNoise_,
                        &cmdTransient_, &cmdAssistance_}) {
     tool->role = ButtonRole::Tool;
   }
   // Their pages are still to come.
-  for (Button* tool : {&cmdStepsize_, &cmdModulation_, &cmdPhase_, &cmdNoise_, &cmdTransient_}) tool->enabled = false;
+  for (Button* tool : {&cmdModulation_, &cmdPhase_, &cmdNoise_, &cmdTransient_}) tool->enabled = false;
 }
 
 void frmAnalyze::BindEntries() {

@@ -10,6 +10,7 @@
 #include "files/modReadQuilmFiles.h"
 #include "files/modWriteQuilmFile.h"
 #include "schematic/Icons.h"
+#include "shell/History.h"
 #include "shell/Session.h"
 #include "synthesis/DesignSummary.h"
 
@@ -46,8 +47,11 @@ frmPlotted::frmPlotted(Session& session)
   }
   cmdAutoScale.onClick = [this] { ScaleToResponse(); };
   cmdFitSweep.onClick = [this] { FitToBand(); };
-  for (Button* tool : {&cmdLimits, &cmdMarkers, &cmdStepSize, &cmdTunePart, &cmdTuneWidth, &cmdTuneApass,
-                       &cmdGetOverlay, &cmdSaveOverlay}) {
+  cmdTunePart.onClick = [this] { OpenTuning(PageId::TunePart); };
+  cmdTuneWidth.onClick = [this] { OpenTuning(PageId::TuneWidthCenter); };
+  cmdTuneApass.onClick = [this] { OpenTuning(PageId::TuneApass); };
+  cmdStepSize.onClick = [this] { EnterStepsizes(); };
+  for (Button* tool : {&cmdLimits, &cmdMarkers, &cmdGetOverlay, &cmdSaveOverlay}) {
     tool->enabled = false;
   }
   for (Button* tool : {&cmdAutoScale, &cmdFitSweep, &cmdLimits, &cmdMarkers, &cmdStepSize, &cmdTunePart, &cmdTuneWidth,
@@ -59,6 +63,8 @@ frmPlotted::frmPlotted(Session& session)
 void frmPlotted::Load() {
   navigation.Load();
   smithControls.Load();
+  cmdTuneWidth.enabled = true;  // tuning a part has switched it off until now
+  for (const auto& button : plotButtons) button->visible = true;
   if (!IsPlot(session_.record.PlotCode)) session_.record.PlotCode = 1;
   Choose(session_.record.PlotCode);
 }
@@ -114,6 +120,19 @@ void frmPlotted::FitToBand() {
   Choose(session_.record.PlotCode);
 }
 
+// Its acts are steps of their own to undo. The curves that it leaves stay.
+void frmPlotted::OpenTuning(PageId dialog) {
+  const History::Tool tool(session_);
+  session_.pages.ShowBeside(dialog, {&picPlot});
+  RefreshTools();
+}
+
+void frmPlotted::EnterStepsizes() {
+  for (const auto& button : plotButtons) button->visible = false;
+  session_.pages.ShowModal(PageId::MonteCarloSetup);
+  session_.pages.ShowPage(Id());
+}
+
 Layout frmPlotted::MakeLayout() {
   std::vector<Layout> strip;
   for (const auto& button : plotButtons) strip.push_back(KeepPlace(Put(*button)));
@@ -123,7 +142,7 @@ Layout frmPlotted::MakeLayout() {
                                  Put(cmdTunePart), Put(cmdTuneWidth), Put(cmdTuneApass), Put(cmdOptimize),
                                  Put(cmdMonteCarlo), Put(cmdGetOverlay), Put(cmdSaveOverlay)})),
               Grid(1, {Put(cmdEnd), Put(cmdExtremes)}), smithControls.MakeLayout(), Space()});
-  return Column({navigation.MakeLayout(), Row(std::move(strip)), Fill(Row({Fill(Put(picPlot)), tools}))});
+  return Column({navigation.MakeLayout(), Row(std::move(strip)), Fill(Row({Fill(Put(picPlot)), SidePlace(tools)}))});
 }
 
 }  // namespace quilm

@@ -45,6 +45,8 @@ class frmPlotted : public Page {
   void ShowTools(bool shown);
   void ScaleToResponse();
   void FitToBand();
+  void OpenTuning(PageId dialog);
+  void EnterStepsizes();
 
   PlotMouse mouse_;
   PlotRuns runs_;
