@@ -100,9 +100,9 @@ int BuildChain(DesignRecord& record, const Sections& sections) {
 }  // namespace
 
 bool IsInStopband(const DesignRecord& record, f32 zero) {
-  // The sections square the frequency, so that one below 0 would be built as the one above.
+  // The sections square both frequencies, so that one below 0 would be built as the one above.
   if (!(zero > 0)) return false;
-  return IsHighpass(record.Topology) ? zero < record.Width : zero > record.Width;
+  return IsHighpass(record.Topology) ? zero < record.Width : zero > std::abs(record.Width);
 }
 
 bool HasMderivedZeros(const Entries& entries) {

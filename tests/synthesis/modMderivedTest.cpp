@@ -155,6 +155,8 @@ TEST(Mderived, TheStopbandOfAHighpassLiesBelowItsEdge) {
   EXPECT_FALSE(IsInStopband(record, -2 * width));
   record.Width = -5 * width;  // no width, but not yet refused where the zeros are entered
   EXPECT_FALSE(IsInStopband(record, -2 * width));
+  EXPECT_FALSE(IsInStopband(record, 4 * width));  // a section of it would be the root of a negative number
+  EXPECT_TRUE(IsInStopband(record, 6 * width));
 }
 
 TEST(Mderived, TheEmptyEndsLeaveNoStages) {
