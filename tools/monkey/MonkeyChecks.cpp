@@ -109,12 +109,33 @@ bool SameTexts(const std::string& one, const std::string& other) {
   }
 }
 
+// The line of an inductor alone has places for a capacitor, and the other way round; what stands there is not read.
+std::string WithoutUnusedPart(const std::string& stageLine) {
+  std::istringstream words(stageLine);
+  std::string type;
+  std::string L;
+  std::string Ltolerance;
+  std::string C;
+  std::string Ctolerance;
+  words >> type >> L >> Ltolerance >> C >> Ctolerance;
+  if (type == "1" || type == "2") return type + " " + L + " " + Ltolerance + " 0 0";
+  if (type == "3" || type == "4") return type + " 0 0 " + C + " " + Ctolerance;
+  return stageLine;
+}
+
 // A Gaussian to 12 dB is read as a manual network.
 std::string AsItIsRead(std::string saved) {
   constexpr std::string_view heading = "* Family, order, stages, topology, Cauer:\r\n 8 ";
   const std::size_t at = saved.find(heading);
   if (at != std::string::npos) saved.replace(at + heading.size() - 2, 1, "11");
-  return saved;
+  std::istringstream lines(saved);
+  std::string read;
+  bool isStage = false;
+  for (std::string line; std::getline(lines, line);) {
+    if (line.starts_with("*")) isStage = line.starts_with("* Element type") || (isStage && line.starts_with("*   "));
+    read += (isStage && !line.starts_with("*") ? WithoutUnusedPart(line) : line) + "\n";
+  }
+  return read;
 }
 
 bool HasFocus(ScriptRun& run) {

@@ -274,7 +274,7 @@ Layout frmAnalyze::ReferenceGroup() {
 // Between the groups and the tools stands what is left of the window's height.
 Layout frmAnalyze::MakeLayout() {
   return Column({navigation_.MakeLayout(), Row({SweepGroup(), ScaleGroup(), QualityGroup(), ReferenceGroup(), Space()}),
-                 Space(), Row({Space(), Put(preview_.picPreview), Space()}), Space(),
+                 Fill(Put(preview_.picPreview)),
                  Group("Tools", Grid(8, {Put(cmdAutoScale_), Put(cmdFitSweep_), Put(cmdStepsize_), Put(cmdModulation_),
                                          Put(cmdPhase_), Put(cmdNoise_), Put(cmdTransient_), Put(cmdAssistance_)}))});
 }
