@@ -150,10 +150,6 @@ void StoreStepOfAll(Network& network, f32 percentStep) {
   }
 }
 
-bool HasStep(const Network& network) {
-  return std::ranges::any_of(ItemsOfStages(network), [](const TuneItem& item) { return item.TuneStep > 0; });
-}
-
 f32 TuneMultiplier(TuneKind kind, f32 step, StepWay way) {
   if (kind == TuneKind::LineLength) return way == StepWay::Up ? -step : step;
   const f64 up = 1 + f64{step} * percent;

@@ -59,9 +59,6 @@ void StoreStep(Network& network, const TuneItem& item, f32 step);
 // stage is changed into.
 void StoreStepOfAll(Network& network, f32 percent);
 
-// Whether any value that a stage uses has a step above 0.
-bool HasStep(const Network& network);
-
 enum class StepWay { Up, Down };
 
 // 1 + step x 0.01 upward and its reciprocal downward, in 32 bits. Of a line's length the degrees that come off, so

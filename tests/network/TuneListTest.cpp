@@ -172,16 +172,6 @@ TEST(StoreStepOfAll, FillsEveryStepOfEveryStageAndNoOther) {
   EXPECT_EQ(network.Rsource[2], 0);
 }
 
-TEST(HasStep, IsOfValuesThatAStageUses) {
-  Network network = NetworkOf({SeriesL, TransLine});
-  EXPECT_FALSE(HasStep(network));
-  network.stage[1].Cval.tolerance = 5;
-  network.Rsource[2] = 5;
-  EXPECT_FALSE(HasStep(network));
-  network.stage[2].TLval.impedanceTolerance = 0.1F;
-  EXPECT_TRUE(HasStep(network));
-}
-
 TEST(ClearPlacesBehind, BlanksFourPlacesWithAStepOfTurns) {
   Network network = NetworkOf({SeriesL, ShuntC});
   for (int s = 3; s <= stageBound; ++s) network.stage[s].Lval.value = 1;

@@ -495,6 +495,31 @@ TEST_F(TunePart, TheSheetDoesNotGrowForEver) {
   });
 }
 
+// The end of the sweep, above ten times the cutoff, may not come above -100 dB; a third-order lowpass is at -60 there.
+TEST_F(TunePart, TheErrorOfTheLimitsFollows) {
+  Open([&] { EXPECT_FALSE(Get<Label>("lblError").Shown()); });
+  DesignRecord& record = Record();
+  record.LimitCount[1] = 1;
+  record.LimitShape[1][1] = 2;
+  record.LimitStart[1][1] = record.Fstop * 0.999F;
+  record.LimitStop[1][1] = 1e10F;
+  record.LimitTop[1][1] = 0;
+  record.LimitBottom[1][1] = -100;
+  const auto shown = [this] { return std::stod(Get<Label>("lblError").caption.substr(7)); };
+  const auto excess = [this] { return 100 + session.responses.RespTrans[static_cast<int>(Record().NrIntervals)]; };
+  Open([&] {
+    EXPECT_TRUE(Get<Label>("lblError").Shown());
+    EXPECT_NEAR(shown(), excess(), 0.01);
+    Enter("txtPercentageValue", "100");
+    Spins("UpDown1", +1);
+    const double lower = excess();
+    EXPECT_NEAR(lower, 100 - 60 - 6, 1);
+    EXPECT_NEAR(shown(), lower, 0.01);
+    Undo(session);
+    EXPECT_NEAR(shown(), lower + 6, 0.1);
+  });
+}
+
 class TuneWidthCenter : public Tuning {
  protected:
   void Open(std::function<void()> act) { With("cmdTuneWidth", std::move(act)); }

@@ -6,6 +6,8 @@
 #include "core/DesignRecord.h"
 #include "core/EntryLimits.h"
 #include "core/Fault.h"
+#include "core/Responses.h"
+#include "core/modGeneral.h"
 #include "display/SheetDrawing.h"
 #include "shell/Session.h"
 
@@ -67,6 +69,16 @@ void TunePage::AddResponse() {
   } catch (const Fault&) {
     // A plot that cannot be drawn was told when it was chosen.
   }
+}
+
+// Limits and sweep stand as long as the dialog does.
+void TunePage::CatchUp() {
+  const DesignRecord& record = session_.record;
+  if (record.ResponsesValid != 1) return;
+  const auto points = static_cast<std::size_t>(LastPoint(record)) + 1;
+  if (!score_) score_.emplace(record, record.DelayTop, std::span(session_.responses.RespFreq.data(), points));
+  lblError_.visible = score_->HasPoints();
+  lblError_.caption = "Error: " + EntryText(score_->GetError(session_.responses), FormatValue);
 }
 
 void TunePage::End() {

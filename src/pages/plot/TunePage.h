@@ -2,9 +2,11 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 
 #include "display/TraceCycle.h"
 #include "network/TuneList.h"
+#include "optimise/LimitScore.h"
 #include "shell/Page.h"
 
 namespace quilm {
@@ -13,6 +15,9 @@ class TunePage : public Page {
  public:
   // The close box ends the tuning like its button.
   void CloseBox() override { End(); }
+
+  // Tells how far the response lies outside the limit areas, if there are any.
+  void CatchUp() override;
 
  protected:
   // `lastText` holds what the box of the step said last, also when the dialog is closed. `colors` are those of the
@@ -44,6 +49,7 @@ class TunePage : public Page {
 
   Label lblPercentage_{*this, "lblPercentage", "Stepsize, %: "};
   TextBox txtPercentageValue_{*this, "txtPercentageValue", "Stepsize, %", "0.01 to 100"};
+  Label lblError_{*this, "lblError", ""};
   Button cmdClear_{*this, "cmdClear", "Clear plot", "Take away all curves but that of the present values"};
   Button cmdExit_{*this, "cmdExit", "End tuning routine", "Keep the present values and go back to the plot"};
 
@@ -54,6 +60,7 @@ class TunePage : public Page {
   TraceCycle cycle_;
   Entry& entry_;
   std::string shown_;  // what ShowStep put into the box
+  std::optional<LimitScore> score_;
 };
 
 }  // namespace quilm

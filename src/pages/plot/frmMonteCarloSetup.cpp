@@ -5,6 +5,7 @@
 
 #include "core/DesignRecord.h"
 #include "core/EntryLimits.h"
+#include "optimise/BestParts.h"
 #include "pages/plot/ItemTexts.h"
 #include "shell/Session.h"
 
@@ -52,7 +53,7 @@ void frmMonteCarloSetup::StoreInAll() {
 
 void frmMonteCarloSetup::ShowItem() {
   list_ = ItemsOfStages(session_.network);
-  lblNotice_.visible = !HasStep(session_.network);
+  lblNotice_.visible = !HasStepsize(session_.network);
   cmdReverse_.enabled = item_ > 0;
   cmdForward_.enabled = item_ + 1 < list_.size();
   for (Control* control : std::initializer_list<Control*>{&txtPercentageValue_, &cmdEnter_, &cmdAllItems_}) {

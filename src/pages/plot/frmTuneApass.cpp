@@ -18,6 +18,7 @@ void frmTuneApass::Load() {
   ShowStep(step_);
   Reload();
   SetFocus(UpDown1_);
+  CatchUp();
 }
 
 void frmTuneApass::Reload() {
@@ -32,7 +33,7 @@ void frmTuneApass::Step(StepWay way) {
 
 Layout frmTuneApass::MakeLayout() {
   return Column({Form({{Put(lblPercentage_), Put(txtPercentageValue_)}, {Put(Label1_), Put(UpDown1_)}}),
-                 Put(lblShowRipple_), Grid(1, {Put(cmdClear_), Put(cmdExit_)}), Space()});
+                 Put(lblShowRipple_), Put(lblError_), Grid(1, {Put(cmdClear_), Put(cmdExit_)}), Space()});
 }
 
 }  // namespace quilm

@@ -20,6 +20,7 @@ void frmTunePart::Load() {
   ClearPlacesBehind(session_.network);
   Reload();
   SetFocus(UpDown1_);
+  CatchUp();
 }
 
 // The design that an undo brings back has the same items.
@@ -82,7 +83,7 @@ void frmTunePart::Step(StepWay way) {
 Layout frmTunePart::MakeLayout() {
   return Column({Put(lblSelectPart_), Put(picPart_), Grid(2, {Put(cmdReverse_), Put(cmdForward_)}), Put(lblTunePart_),
                  Form({{Put(lblPercentage_), Put(txtPercentageValue_)}, {Space(), Number(lblTune_, UpDown1_)}}),
-                 Grid(1, {Put(cmdClear_), Put(cmdExit_)}), Space()});
+                 Put(lblError_), Grid(1, {Put(cmdClear_), Put(cmdExit_)}), Space()});
 }
 
 }  // namespace quilm

@@ -33,6 +33,7 @@ void frmTuneWidthCenter::Load() {
   ShowStep(step_);
   Reload();
   SetFocus(UpDown1_);
+  CatchUp();
 }
 
 // What cannot be tuned is not there; a network made by hand has both.
@@ -79,7 +80,7 @@ Layout frmTuneWidthCenter::MakeLayout() {
   return Column({Form({{Put(lblPercentage_), Put(txtPercentageValue_)},
                        {Put(lblTuneWidth_), Number(Label1_, UpDown1_)},
                        {Put(lblTuneCenter_), Number(Label2_, UpDown2_)}}),
-                 Column({Put(lblShowWidth_), Put(lblShowCenter_), KeepPlace(Put(lblNegativeValue_))}),
+                 Column({Put(lblShowWidth_), Put(lblShowCenter_), KeepPlace(Put(lblNegativeValue_))}), Put(lblError_),
                  Grid(1, {Put(cmdClear_), Put(cmdExit_)}), Space()});
 }
 
