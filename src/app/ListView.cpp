@@ -69,6 +69,7 @@ ListView::ListView(ListBox& list, ActSink& sink, QWidget* parent)
       list_(list),
       widget_(list.table ? new TableWidget(parent) : new QListView(parent)),
       lines_(new LineModel(widget_)) {
+  if (list.fixedPitch) widget_->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
   widget_->setModel(lines_);
   widget_->setUniformItemSizes(true);
   widget_->setEditTriggers(QAbstractItemView::NoEditTriggers);

@@ -2,10 +2,13 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
+#include "core/LimitArea.h"
 #include "core/PlotScales.h"
 #include "core/SmithView.h"
 #include "display/HorizontalAxis.h"
+#include "display/Markers.h"
 #include "shell/PlotSheet.h"
 
 namespace quilm {
@@ -21,10 +24,12 @@ struct PlotSetup {
   HorizontalAxis axis;
   PlotScales scales;  // with the code of the plot
   TraceColors colors;
-  SmithView chart;         // of the charts alone
-  f32 reference = 0;       // ohms, of the charts' input reflection
-  std::string title = {};  // of the design, for paper
+  SmithView chart;                          // of the charts alone
+  f32 reference = 0;                        // ohms, of the charts' input reflection
+  std::string title = {};                   // of the design, for paper
   PlotDress dress = PlotDress::Usual;
+  std::vector<LimitArea> areas = {};        // that the plot shows
+  std::vector<MarkerReading> markers = {};  // that it tells of
 };
 
 }  // namespace quilm

@@ -23,12 +23,13 @@ void PrintAbout(Canvas& canvas, Point middle, const std::string& text) {
 
 namespace {
 
+constexpr f32 sharedRow = 7500;
+
 // As large as fits below the plot.
-void DrawTitle(const std::string& title, Canvas& canvas) {
+void DrawTitle(const std::string& title, f32 row, Canvas& canvas) {
   constexpr f32 largest = 11;  // points
   constexpr f32 middle = 6500;
   constexpr f32 widest = 9000;
-  constexpr f32 row = 7400;
   const PenScope pen(canvas);
   canvas.ShowOn = Medium::Paper;
   canvas.FontBold = true;
@@ -40,16 +41,18 @@ void DrawTitle(const std::string& title, Canvas& canvas) {
 
 }  // namespace
 
-void DrawFooters(const std::string& title, Canvas& canvas) {
-  constexpr f32 startLeft = 1400;
-  constexpr f32 startRow = 7660;
+void DrawFooters(const std::string& title, BelowPlot below, Canvas& canvas) {
+  constexpr f32 titleRowBelow = 7400;
+  constexpr Point start{1400, 7660};
+  constexpr f32 sharedLeft = 3300;
+  const bool shared = below == BelowPlot::Markers;
   const PenScope pen(canvas);
   canvas.FontSize = labelSize;
   canvas.ShowOn = Medium::Screen;
   canvas.Fit.anchor = 0;
-  canvas.PrintAt(footerLeft, footerRow, "Mousedown for data");
-  canvas.PrintAt(startLeft, startRow, "Start");
-  if (!Trimmed(title).empty()) DrawTitle(Trimmed(title), canvas);
+  canvas.PrintAt(footerLeft, shared ? sharedRow : footerRow, "Mousedown for data");
+  canvas.PrintAt(shared ? sharedLeft : start.x, shared ? sharedRow : start.y, "Start");
+  if (!Trimmed(title).empty()) DrawTitle(Trimmed(title), shared ? sharedRow : titleRowBelow, canvas);
 }
 
 }  // namespace quilm

@@ -23,7 +23,10 @@ void PrintEndingAt(Canvas& canvas, f32 x, f32 y, const std::string& text);
 void PrintOnPatch(Canvas& canvas, f32 x, f32 y, const std::string& text);
 void PrintAbout(Canvas& canvas, Point middle, const std::string& text);
 
+// Whether the rows of markers stand below a plot. What else is told there then shares the row of the readout.
+enum class BelowPlot { Free, Markers };
+
 // Below the plot: on the screen the invitation to the readout, on paper the title of the design, if it has one.
-void DrawFooters(const std::string& title, Canvas& canvas);
+void DrawFooters(const std::string& title, BelowPlot below, Canvas& canvas);
 
 }  // namespace quilm

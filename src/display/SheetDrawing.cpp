@@ -6,6 +6,8 @@
 
 #include "core/DesignRecord.h"
 #include "core/Fault.h"
+#include "display/LimitDrawing.h"
+#include "display/LimitEntry.h"
 #include "display/PlotKinds.h"
 #include "display/PlotScaling.h"
 #include "display/modPlot.h"
@@ -33,8 +35,13 @@ void ShowPlotFault(Session& session) {
 
 PlotSetup SetupOf(const Session& session) {
   const DesignRecord& record = session.record;
-  return {HorizontalAxis(record), record,           session.plot.colors,
-          session.smithView,      record.Rstandard, record.CircuitTitle};
+  return {.axis = HorizontalAxis(record),
+          .scales = record,
+          .colors = session.plot.colors,
+          .chart = session.smithView,
+          .reference = record.Rstandard,
+          .title = record.CircuitTitle,
+          .areas = ShownAreas(record, record)};
 }
 
 void DrawSheet(const PlotSetup& setup, const ResponseSpans& responses, AxisPlaces& places, Canvas& canvas) {
@@ -76,17 +83,20 @@ void ChoosePlot(Session& session, i16 code) {
 }
 
 void RedrawPlot(Session& session, PlotDress dress) {
-  session.plot.live.Clear();
+  PlotSheet& sheet = session.plot;
+  sheet.live.Clear();
   try {
     HoldLossBottom(session.record);
     const ResponseSpans responses = SpansOf(session.responses, LastPoint(session.record));
     PlotSetup setup = SetupOf(session);
     setup.dress = dress;
-    DrawSheet(setup, responses, session.plot.places, session.plot.picture);
+    if (session.record.MarkersShown != 0) setup.markers = ReadMarkers(session.record, session.responses);
+    DrawSheet(setup, responses, sheet.places, sheet.picture);
+    DrawLimitEntry(sheet.limitEntry, sheet.picture);
   } catch (const Fault&) {
     ShowPlotFault(session);
   }
-  session.plot.live.SetScale(session.plot.picture.CurrentScale());
+  sheet.live.SetScale(sheet.picture.CurrentScale());
 }
 
 void AddTraces(Session& session, const ResponseSpans& responses, Canvas& canvas) {

@@ -10,7 +10,7 @@ namespace quilm {
 
 class Session;
 
-// The present plot of the session's design, in the sheet's colours.
+// The present plot of the session's design, in the sheet's colours, with the limit areas that it shows.
 PlotSetup SetupOf(const Session& session);
 
 // Draws a whole plot of any of the twelve codes into an emptied canvas. Throws Fault for other codes, NumericFault when
@@ -30,7 +30,8 @@ void ChoosePlot(Session& session, i16 code);
 // The titles of a plot once more, above its frame.
 void DrawSheetTitles(const PlotSetup& setup, Canvas& canvas);
 
-// Draws the present plot with the last sweep on the session's sheet, and takes the traces of a run away. Holds
+// Draws the present plot with the last sweep on the session's sheet, with what is shown of limits and markers and with
+// an entry of limits that is in progress, and takes the traces of a run away. Holds
 // LossBottom at -0.3 or below before. A failure is shown to the user; what was drawn until then stays.
 void RedrawPlot(Session& session, PlotDress dress = PlotDress::Usual);
 

@@ -5,6 +5,8 @@
 #include <string>
 
 #include "core/modGeneral.h"
+#include "display/LimitDrawing.h"
+#include "display/Markers.h"
 #include "display/PlotCurve.h"
 #include "display/PlotGrid.h"
 #include "display/PlotText.h"
@@ -160,13 +162,16 @@ void BeginPlot(const Scale& scale, Canvas& canvas) {
 void DrawPlot(const PlotSetup& setup, const ResponseSpans& responses, AxisPlaces& places, Canvas& canvas) {
   const PenScope pen(canvas);
   const PlotKind kind = KindOf(setup.scales);
-  BeginPlot(setup.dress == PlotDress::UnderProgress ? plotProgressScale : plotScale, canvas);
+  const Scale& scale = setup.dress == PlotDress::UnderProgress ? plotProgressScale : plotScale;
+  BeginPlot(WithMarkerRows(scale, setup.markers.size()), canvas);
+  DrawLimitAreas(setup, canvas);
   DrawHorizontalGrid(setup.scales.NrYints, canvas);
   DrawScales(setup, kind, canvas);
   DrawVerticalGrid(setup.axis, setup.scales.NrXints, canvas);
   DrawFrame(canvas);
   if (setup.dress != PlotDress::WithoutTraces) DrawTraces(setup, responses, places, canvas);
-  DrawFooters(setup.title, canvas);
+  DrawFooters(setup.title, setup.markers.empty() ? BelowPlot::Free : BelowPlot::Markers, canvas);
+  DrawMarkers(setup, canvas);
 }
 
 }  // namespace quilm

@@ -8,9 +8,9 @@
 
 namespace quilm {
 
-// Draws the whole plot of a code 1..7, 9, 10 or 13 into an emptied canvas: grid, scales, labels, traces and footers.
-// `places` keeps what was computed for the frequencies. Throws NumericFault when a scale has no height or the sweep no
-// width.
+// Draws the whole plot of a code 1..7, 9, 10 or 13 into an emptied canvas: limit areas, grid, scales, labels, traces,
+// footers and markers. `places` keeps what was computed for the frequencies. Throws NumericFault when a scale has no
+// height or the sweep no width.
 void DrawPlot(const PlotSetup& setup, const ResponseSpans& responses, AxisPlaces& places, Canvas& canvas);
 
 // Draws the traces alone, over what the canvas holds. Throws like DrawPlot.

@@ -21,10 +21,7 @@ namespace quilm {
 
 namespace {
 
-constexpr std::size_t columns = 10;
 constexpr f32 ReadoutColumnStep = 1000;  // room for a frequency of six digits
-constexpr f32 headingRow = 7290;
-constexpr f32 ReadoutValueRow = 180;  // below the headings
 constexpr Point stripCorner{800, 7270};
 constexpr f32 stripBottom = 7680;
 constexpr f32 lowestPrinted = -120;  // dB
@@ -32,23 +29,10 @@ constexpr f32 highestRatio = 1000;
 constexpr i16 markWidth = 10;
 constexpr Color markColor = 0xFF44FF;
 
-constexpr std::array<const char*, columns> headings = {
+constexpr std::array<const char*, readoutColumns> headings = {
     "Freq.:", "Trans.:", "Angle:", "Return:", "Delay:", "VSWR:", "Zmag.:", "Zangle:", "Real:", "Imag.:"};
 
 std::string Number(f64 value) { return FormatValue(static_cast<f32>(value)); }
-
-std::array<std::string, columns> ValuesAt(const ResponseSpans& r, std::size_t i) {
-  return {FormatFrequency(r.freq[i]),
-          r.trans[i] < lowestPrinted ? "<-120" : Number(r.trans[i]),
-          Number(r.angle[i]),
-          r.returnLoss[i] < lowestPrinted ? "< -120" : Number(r.returnLoss[i]),
-          FormatTime(r.delay[i]),
-          r.vswr[i] > highestRatio ? ">1000" : Number(r.vswr[i]),
-          Number(r.zin[i]),
-          Number(r.zinAngle[i]),
-          Number(ValueOf(r, Quantity::Real, i)),
-          Number(ValueOf(r, Quantity::Imaginary, i))};
-}
 
 template <class Texts>
 void PrintColumns(f32 row, const Texts& texts, Canvas& canvas) {
@@ -73,6 +57,30 @@ void DrawMarks(const std::vector<Point>& points, Canvas& canvas) {
 
 }  // namespace
 
+std::array<std::string, readoutColumns> ReadoutTexts(const ResponseSpans& r, std::size_t i) {
+  return {FormatFrequency(r.freq[i]),
+          r.trans[i] < lowestPrinted ? "<-120" : Number(r.trans[i]),
+          Number(r.angle[i]),
+          r.returnLoss[i] < lowestPrinted ? "< -120" : Number(r.returnLoss[i]),
+          FormatTime(r.delay[i]),
+          r.vswr[i] > highestRatio ? ">1000" : Number(r.vswr[i]),
+          Number(r.zin[i]),
+          Number(r.zinAngle[i]),
+          Number(ValueOf(r, Quantity::Real, i)),
+          Number(ValueOf(r, Quantity::Imaginary, i))};
+}
+
+void PrintReadoutHeadings(Canvas& canvas) { PrintColumns(readoutHeadingRow, headings, canvas); }
+
+void PrintReadoutRow(f32 y, std::span<const std::string, readoutColumns> texts, Canvas& canvas) {
+  PrintColumns(y, texts, canvas);
+}
+
+void ClearReadoutStrip(Canvas& canvas) {
+  const f32 right = canvas.ScaleLeft + canvas.ScaleWidth;
+  canvas.Rectangle(stripCorner.x, stripCorner.y, right, stripBottom, colorWhite, true);
+}
+
 bool InReadoutFrame(f32 x, f32 y) { return x > plotFrame.left && x < plotFrame.Right() && y > plotFrame.top; }
 
 i16 CursorIndex(const SweepSettings& sweep, f32 x) {
@@ -85,13 +93,12 @@ i16 CursorIndex(const SweepSettings& sweep, f32 x) {
 
 void DrawReadout(const PlotSetup& setup, const ResponseSpans& responses, std::size_t index, Canvas& canvas) {
   const PenScope pen(canvas);
-  const f32 right = canvas.ScaleLeft + canvas.ScaleWidth;
-  canvas.Rectangle(stripCorner.x, stripCorner.y, right, stripBottom, colorWhite, true);
+  ClearReadoutStrip(canvas);
   canvas.ForeColor = colorBlack;
   canvas.FontSize = labelSize;
   canvas.Fit.anchor = 0;
-  PrintColumns(headingRow, headings, canvas);
-  PrintColumns(headingRow + ReadoutValueRow, ValuesAt(responses, index), canvas);
+  PrintReadoutHeadings(canvas);
+  PrintReadoutRow(readoutValueRow, ReadoutTexts(responses, index), canvas);
   try {
     DrawMarks(MarkedPoints(setup, responses, index), canvas);
   } catch (const NumericFault&) {

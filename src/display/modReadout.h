@@ -1,12 +1,29 @@
 // The readout under the mouse: every response at one sweep point, and a mark on each trace.
 #pragma once
 
+#include <array>
+#include <span>
+#include <string>
+
 #include "core/RecordFwd.h"
 #include "display/PlotSetup.h"
 #include "display/ResponseCurves.h"
 #include "shell/Canvas.h"
 
 namespace quilm {
+
+inline constexpr std::size_t readoutColumns = 10;
+inline constexpr f32 readoutHeadingRow = 7290;
+inline constexpr f32 readoutValueRow = readoutHeadingRow + 180;
+
+// The texts of the columns at a point of the responses, and how they are printed: the headings in their row, texts in
+// any row, in the canvas' present font.
+std::array<std::string, readoutColumns> ReadoutTexts(const ResponseSpans& responses, std::size_t i);
+void PrintReadoutHeadings(Canvas& canvas);
+void PrintReadoutRow(f32 y, std::span<const std::string, readoutColumns> texts, Canvas& canvas);
+
+// Empties the two rows that a readout uses.
+void ClearReadoutStrip(Canvas& canvas);
 
 // Whether the pointer, in the plot's scale, calls for a readout.
 bool InReadoutFrame(f32 x, f32 y);

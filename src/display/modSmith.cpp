@@ -8,6 +8,7 @@
 #include "core/NumericFault.h"
 #include "core/modGeneral.h"
 #include "display/ChartGrid.h"
+#include "display/Markers.h"
 #include "display/PlotCurve.h"
 #include "display/PlotGrid.h"
 #include "display/PlotKinds.h"
@@ -170,7 +171,8 @@ void PrintChartTitle(const PlotSetup& setup, Canvas& canvas) {
 void DrawChart(const PlotSetup& setup, const ResponseSpans& responses, AxisPlaces& places, Canvas& canvas) {
   const PenScope pen(canvas);
   const bool traced = setup.dress != PlotDress::WithoutTraces;
-  BeginPlot(setup.dress == PlotDress::UnderProgress ? chartProgressScale : chartScale, canvas);
+  const Scale& scale = setup.dress == PlotDress::UnderProgress ? chartProgressScale : chartScale;
+  BeginPlot(WithMarkerRows(scale, setup.markers.size()), canvas);
   DrawRoundGrid(setup, canvas);
   if (traced) DrawRoundTrace(setup, responses, canvas);
   if (IsSmith(setup) && setup.chart.VSWRCircleOn == 1) DrawVSWRCircle(ScaleFor(setup), setup.chart.VSWRCircle, canvas);
@@ -178,7 +180,8 @@ void DrawChart(const PlotSetup& setup, const ResponseSpans& responses, AxisPlace
   if (traced) DrawCornerTraces(setup, responses, places, canvas);
   PrintChartTitle(setup, canvas);
   PrintNote(setup, canvas);
-  DrawFooters(setup.title, canvas);
+  DrawFooters(setup.title, setup.markers.empty() ? BelowPlot::Free : BelowPlot::Markers, canvas);
+  DrawMarkers(setup, canvas);
 }
 
 void DrawChartTraces(const PlotSetup& setup, const ResponseSpans& responses, AxisPlaces& places, Canvas& canvas) {

@@ -5,6 +5,7 @@
 
 #include "core/DesignRecord.h"
 #include "core/EntryLimits.h"
+#include "core/LimitArea.h"
 #include "core/NumericFault.h"
 #include "core/Responses.h"
 #include "core/Topology.h"
@@ -331,13 +332,10 @@ void ClearCircuit(DesignRecord& record, Responses& responses) {
   record.NrIntervals = 0;
   record.Rsource.Fill(0);
   record.Rload.Fill(0);
-  record.LimitCount.Fill(0);
-  for (auto* table :
-       {&record.LimitShape, &record.LimitStart, &record.LimitStop, &record.LimitTop, &record.LimitBottom}) {
-    table->Fill({});
-  }
+  EraseAllAreas(record);
   record.LimitsShown = 0;
   record.MarkerFreq.Fill(0);
+  record.MarkersShown = 0;  // those of a file wait until they are asked for
   record.MderivedZero.Fill(0);
   record.Gj.Fill(0);
   record.Hj.Fill(0);

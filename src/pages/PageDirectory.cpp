@@ -13,6 +13,9 @@
 #include "pages/design/frmSinglyTermCheby.h"
 #include "pages/guidance/frmHelp.h"
 #include "pages/plot/frmBlank.h"
+#include "pages/plot/frmEditLimits.h"
+#include "pages/plot/frmLimits.h"
+#include "pages/plot/frmMarker.h"
 #include "pages/plot/frmMonteCarloSetup.h"
 #include "pages/plot/frmPlotted.h"
 #include "pages/plot/frmTuneApass.h"
@@ -50,6 +53,9 @@ PageDirectory AllPages() {
       {PageId::TuneApass, Make<frmTuneApass>},
       {PageId::MonteCarloSetup, Make<frmMonteCarloSetup>},
       {PageId::Blank, Make<frmBlank>},
+      {PageId::Limits, Make<frmLimits>},
+      {PageId::EditLimits, Make<frmEditLimits>},
+      {PageId::Marker, Make<frmMarker>},
       {PageId::Exit, Make<frmExit>},
       {PageId::ChangeTitle, Make<frmChangeTitle>},
       {PageId::AddInfo, Make<frmAddInfo>},

@@ -139,8 +139,9 @@ class ListBox : public Control {
  public:
   ListBox(Page& page, std::string name, std::string accessible);
   std::vector<std::string> items;
-  i32 selected = 0;    // 1-based, 0 for none
-  bool table = false;  // rows of columns: a font of fixed pitch, and many rows can be marked and copied
+  i32 selected = 0;         // 1-based, 0 for none
+  bool fixedPitch = false;  // lines that are laid out by characters
+  bool table = false;       // rows of columns: a font of fixed pitch, and many rows can be marked and copied
   // The headings of a table whose rows are cells: the fields of an item are set apart by blanks, one for each heading.
   std::vector<std::string> columns;
   i32 mostRows = 0;  // shown without scrolling; 0: as many as there is room for

@@ -5,6 +5,9 @@
 // LimitsAndMarkers), how the charts are looked at to the session (SmithView).
 #pragma once
 
+#include <optional>
+#include <string>
+
 #include "core/AxisPlaces.h"
 #include "shell/LiveLayer.h"
 #include "shell/Picture.h"
@@ -16,10 +19,18 @@ struct TraceColors {
   Color TraceColor2 = colorRed;
 };
 
-// The entry of a limit area with the mouse.
+// The entry of limit areas with the mouse (display/LimitEntry.h).
 struct LimitEntry {
-  i16 LimitEntryPlot = 0;    // the plot that the area is for, 0 while none is entered
-  i16 LimitShapeChoice = 0;  // 1..9
+  // The first of the two clicks that a band takes.
+  struct Click {
+    Point at;
+    f32 frequency = 0;  // Hz
+  };
+
+  i16 LimitEntryPlot = 0;    // the plot that the areas are for, 0 while none are entered
+  i16 LimitShapeChoice = 0;  // 1..9, 0 while none is chosen
+  std::string prompt = {};   // that the plot shows meanwhile
+  std::optional<Click> first = {};
 };
 
 struct PlotSheet {

@@ -31,7 +31,6 @@ void TakeProgramFields(DesignRecord& record, const DesignRecord& from) {
   record.PlotLineWidth = from.PlotLineWidth;
   record.SmithAspect = from.SmithAspect;
   record.PlotCode = from.PlotCode;
-  record.MarkersShown = from.MarkersShown;
 }
 
 void ReadInto(DesignRecord& record, const NamedText& design) {
@@ -159,12 +158,21 @@ TEST(ReadOver, TheProgramsOwnFieldsStay) {
   record.PlotLineWidth = 3;
   record.SmithAspect = 1.2F;
   record.PlotCode = 4;
-  record.MarkersShown = 1;
   const DesignRecord before = record;
   ReadInto(record, Written("hand-made", HandMadeWithLimitsAndMarkers()));
   DesignRecord after = record;
   TakeProgramFields(after, before);
   EXPECT_TRUE(after == record);
+}
+
+// Whatever was shown of the design before: the limits of a file show at once, its markers when they are asked for.
+TEST(ReadOver, LimitsShowAndMarkersWait) {
+  DesignRecord record;
+  record.MarkersShown = 1;
+  ReadInto(record, Written("hand-made", HandMadeWithLimitsAndMarkers()));
+  EXPECT_GT(record.MarkerFreq[1], 0);
+  EXPECT_EQ(record.MarkersShown, 0);
+  EXPECT_EQ(record.LimitsShown, 1);
 }
 
 TEST(ReadOver, FewerMarkersAndZerosLeaveTheOthersUnset) {

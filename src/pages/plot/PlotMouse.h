@@ -1,4 +1,5 @@
-// The mouse on the plot: while the left button is held in the frame, the readout follows it.
+// The mouse on the plot: while the left button is held in the frame, the readout follows it; while limit areas are
+// entered, it enters them.
 #pragma once
 
 #include "core/Types.h"
@@ -21,6 +22,8 @@ class PlotMouse {
 
  private:
   void ShowReadout(f32 x, f32 y);
+  void EnterLimit(f32 x, f32 y);
+  void ShowLimitPointer(f32 x, f32 y);
 
   Session& session_;
   PictureBox& plot_;

@@ -106,10 +106,10 @@ void SmithControls::StepAspect(int direction) {
   redraw_();
 }
 
-// They hold their place on the other plots, so that the picture keeps its size from plot to plot.
+// The widest row holds its place on the other plots, so that the picture keeps its size from plot to plot.
 Layout SmithControls::MakeLayout() {
-  return KeepPlace(Column({Grid(1, {Put(cmdZoomIn), Put(cmdZoomOut), Put(cmdVSWR), Put(txtVSWR)}), Put(lblAspect),
-                           Row({Put(txtAspect), Put(UpDown1)}), Put(txtAspectEntry)}));
+  return Column({Grid(1, {Put(cmdZoomIn), Put(cmdZoomOut), Put(cmdVSWR), Put(txtVSWR)}), Put(lblAspect),
+                 KeepPlace(Row({Put(txtAspect), Put(UpDown1)})), Put(txtAspectEntry)});
 }
 
 }  // namespace quilm

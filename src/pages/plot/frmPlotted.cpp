@@ -4,11 +4,13 @@
 #include "core/DesignRecord.h"
 #include "desk/Leaving.h"
 #include "desk/SweepRange.h"
+#include "display/LimitEntry.h"
 #include "display/PlotKinds.h"
 #include "display/PlotScaling.h"
 #include "display/SheetDrawing.h"
 #include "files/modReadQuilmFiles.h"
 #include "files/modWriteQuilmFile.h"
+#include "pages/plot/frmMarker.h"
 #include "schematic/Icons.h"
 #include "shell/History.h"
 #include "shell/Session.h"
@@ -30,6 +32,7 @@ frmPlotted::frmPlotted(Session& session)
       navigation(*this, session, NavigationRow::WithSoundEntries(session)),
       picPlot(*this, "picPlot", "Plot of the responses", session.plot.picture, session.plot.live),
       smithControls(*this, session, [&session] { RedrawPlot(session); }),
+      limitTools(*this, session, picPlot),
       mouse_(session, picPlot),
       runs_(session, *this, {cmdOptimize, cmdMonteCarlo, cmdEnd, cmdExtremes, picPlot},
             [this](bool shown) { ShowTools(shown); }) {
@@ -47,11 +50,13 @@ frmPlotted::frmPlotted(Session& session)
   }
   cmdAutoScale.onClick = [this] { ScaleToResponse(); };
   cmdFitSweep.onClick = [this] { FitToBand(); };
+  cmdLimits.onClick = [this] { OpenLimits(session_); };
+  cmdMarkers.onClick = [this] { OpenMarkers(session_); };
   cmdTunePart.onClick = [this] { OpenTuning(PageId::TunePart); };
   cmdTuneWidth.onClick = [this] { OpenTuning(PageId::TuneWidthCenter); };
   cmdTuneApass.onClick = [this] { OpenTuning(PageId::TuneApass); };
   cmdStepSize.onClick = [this] { EnterStepsizes(); };
-  for (Button* tool : {&cmdLimits, &cmdMarkers, &cmdGetOverlay, &cmdSaveOverlay}) {
+  for (Button* tool : {&cmdGetOverlay, &cmdSaveOverlay}) {
     tool->enabled = false;
   }
   for (Button* tool : {&cmdAutoScale, &cmdFitSweep, &cmdLimits, &cmdMarkers, &cmdStepSize, &cmdTunePart, &cmdTuneWidth,
@@ -68,6 +73,15 @@ void frmPlotted::Load() {
   if (!IsPlot(session_.record.PlotCode)) session_.record.PlotCode = 1;
   Choose(session_.record.PlotCode);
 }
+
+// An area that was entered is taken back while more are entered.
+void frmPlotted::Reload() {
+  const LimitEntry entry = session_.plot.limitEntry;
+  Load();
+  if (entry.LimitEntryPlot != 0 && entry.LimitEntryPlot == session_.record.PlotCode) ResumeLimitEntry(session_, entry);
+}
+
+void frmPlotted::CatchUp() { limitTools.Refresh(); }
 
 // The main pages' close box ends the program.
 void frmPlotted::CloseBox() { LeaveByCloseBox(session_); }
@@ -137,12 +151,12 @@ Layout frmPlotted::MakeLayout() {
   std::vector<Layout> strip;
   for (const auto& button : plotButtons) strip.push_back(KeepPlace(Put(*button)));
   strip.push_back(Space());
-  const Layout tools =
+  const Layout tools = SidePlace(
       Column({KeepPlace(Grid(1, {Put(cmdAutoScale), Put(cmdFitSweep), Put(cmdLimits), Put(cmdMarkers), Put(cmdStepSize),
                                  Put(cmdTunePart), Put(cmdTuneWidth), Put(cmdTuneApass), Put(cmdOptimize),
                                  Put(cmdMonteCarlo), Put(cmdGetOverlay), Put(cmdSaveOverlay)})),
-              Grid(1, {Put(cmdEnd), Put(cmdExtremes)}), smithControls.MakeLayout(), Space()});
-  return Column({navigation.MakeLayout(), Row(std::move(strip)), Fill(Row({Fill(Put(picPlot)), SidePlace(tools)}))});
+              Grid(1, {Put(cmdEnd), Put(cmdExtremes)}), limitTools.MakeLayout(), smithControls.MakeLayout(), Space()}));
+  return Column({navigation.MakeLayout(), Row(std::move(strip)), Fill(Row({Fill(Put(picPlot)), tools}))});
 }
 
 }  // namespace quilm

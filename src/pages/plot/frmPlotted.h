@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "desk/NavigationRow.h"
+#include "pages/plot/LimitTools.h"
 #include "pages/plot/PlotMouse.h"
 #include "pages/plot/PlotRuns.h"
 #include "pages/plot/SmithControls.h"
@@ -16,6 +17,8 @@ class frmPlotted : public Page {
  public:
   explicit frmPlotted(Session& session);
   void Load() override;
+  void Reload() override;
+  void CatchUp() override;
   void CloseBox() override;
   Layout MakeLayout() override;
 
@@ -23,6 +26,7 @@ class frmPlotted : public Page {
   std::vector<std::unique_ptr<Button>> plotButtons;  // cmd1 to cmd12
   PictureBox picPlot;                                // shows the sheet of the session
   SmithControls smithControls;
+  LimitTools limitTools;
 
   Button cmdAutoScale{*this, "cmdAutoScale", "AutoScale", "Set the scales from the response"};
   Button cmdFitSweep{*this, "cmdFitSweep", "Fit sweep", "Set start and stop round the band (Ctrl+F)"};
