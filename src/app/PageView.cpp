@@ -44,6 +44,8 @@ std::vector<WindowKey> WindowKeys() {
           {QKeySequence(Qt::CTRL | Qt::Key_Equal), "cmdZoomIn"},  // the same key without Shift on many keyboards
           {QKeySequence(Qt::CTRL | Qt::Key_Minus), "cmdZoomOut"},
           {QKeySequence(Qt::CTRL | Qt::Key_0), "cmdZoomFit"},
+          {QKeySequence(Qt::Key_Delete), "cmdDeletePart"},
+          {QKeySequence(Qt::Key_Insert), "cmdInsertPart"},
           {QKeySequence(Qt::CTRL | Qt::Key_1), "cmdDesign"},
           {QKeySequence(Qt::CTRL | Qt::Key_2), "cmdSchematic"},
           {QKeySequence(Qt::CTRL | Qt::Key_3), "cmdEdit"},
@@ -204,10 +206,16 @@ void PageView::Sync() {
   for (FocusWalk* walk : walks_) walk->Sync();
   // The same key of two pages in one window would mean neither: it is the tool's.
   for (QShortcut* shortcut : shortcuts_) shortcut->setEnabled(!HasTool());
+  // A page that is not seen yet keeps its wish: what it had of the focus is lost when it comes into its window.
+  if (isVisible()) FollowWish();
+}
+
+bool PageView::FollowWish() {
   const auto wished = viewOf_.find(page_->TakeFocusWish());
-  if (wished == viewOf_.end() || wished->second->Widget() == nullptr) return;
+  if (wished == viewOf_.end() || wished->second->Widget() == nullptr) return false;
   // As if reached by Tab: a box has its text selected.
   wished->second->FocusWidget()->setFocus(Qt::TabFocusReason);
+  return true;
 }
 
 // Not the navigation: who comes to a page wants to work on it.
@@ -222,7 +230,8 @@ QWidget* PageView::FirstContent() const {
   for (const auto& view : views_) {
     if (view->Shows().kind == ControlKind::Text && view->Shows().Usable()) return view->FocusWidget();
   }
-  if (const auto accept = viewOf_.find(page_->acceptButton); accept != viewOf_.end()) {
+  if (const auto accept = viewOf_.find(page_->acceptButton);
+      accept != viewOf_.end() && page_->acceptButton->Usable()) {
     return accept->second->FocusWidget();
   }
   for (const auto& view : views_) {
@@ -233,6 +242,7 @@ QWidget* PageView::FirstContent() const {
 }
 
 void PageView::FocusFirst() {
+  if (page_ != nullptr && FollowWish()) return;
   // When a page comes up, the toolkit puts the focus on what stands first of all.
   QWidget* wished = focusWidget();
   const bool navigates = std::any_of(views_.begin(), views_.end(), [this, wished](const auto& view) {

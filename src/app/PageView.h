@@ -76,6 +76,8 @@ class PageView : public QWidget, public ActSink {
   void AddWalks();
   void RefreshMnemonics();
   void MarkGroups();
+  // Puts the focus where the page wishes it; false when it has no wish.
+  bool FollowWish();
   bool IsContent(const ControlView& view) const;
   QWidget* FirstContent() const;
   void LeaveBox();

@@ -3,6 +3,7 @@
 #include <QAccessible>
 #include <QHelpEvent>
 #include <QKeyEvent>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QToolTip>
 #include <algorithm>
@@ -78,11 +79,32 @@ bool PictureAreas::MoveTo(std::optional<std::size_t> index) {
   return true;
 }
 
+void PictureAreas::WalkTo(std::optional<std::size_t> index) {
+  if (MoveTo(index) && areas_[*index].walked) Press(*index);
+}
+
+// The first area (+1) or the last (-1); within a walk, its own.
+std::optional<std::size_t> PictureAreas::OuterArea(int step) const {
+  if (!present_ || !areas_[*present_].walked) return AreaAfter(areas_, std::nullopt, step);
+  std::optional<std::size_t> outer;
+  for (std::size_t i = 0; i < areas_.size(); ++i) {
+    const bool sooner = step > 0 && outer.has_value();
+    if (areas_[i].walked && areas_[i].enabled && !sooner) outer = i;
+  }
+  return outer;
+}
+
+// The walk goes on from the area that was clicked, where one of them is always the present one.
+void PictureAreas::FollowClick(QPoint place) {
+  const HitArea* area = AreaAt(place);
+  if (area != nullptr && area->walked && area->enabled) present_ = static_cast<std::size_t>(area - areas_.data());
+}
+
 bool PictureAreas::TakeKey(const QKeyEvent& event) {
   if (areas_.empty() || (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier)) != 0) return false;
   if (const auto direction = DirectionOf(event.key())) {
     // An arrow key never leaves the picture.
-    MoveTo(present_ ? AreaToward(areas_, *present_, *direction) : AreaAfter(areas_, std::nullopt, +1));
+    WalkTo(present_ ? AreaToward(areas_, *present_, *direction) : AreaAfter(areas_, std::nullopt, +1));
     return true;
   }
   switch (event.key()) {
@@ -91,9 +113,11 @@ bool PictureAreas::TakeKey(const QKeyEvent& event) {
     case Qt::Key_Backtab:
       return MoveTo(AreaAfter(areas_, present_, -1));
     case Qt::Key_Home:
-      return MoveTo(AreaAfter(areas_, std::nullopt, +1));
+      WalkTo(OuterArea(+1));
+      return true;
     case Qt::Key_End:
-      return MoveTo(AreaAfter(areas_, std::nullopt, -1));
+      WalkTo(OuterArea(-1));
+      return true;
     case Qt::Key_Return:
     case Qt::Key_Enter:
     case Qt::Key_Space:
@@ -134,6 +158,9 @@ bool PictureAreas::eventFilter(QObject* watched, QEvent* event) {
   switch (event->type()) {
     case QEvent::KeyPress:
       return TakeKey(static_cast<const QKeyEvent&>(*event));
+    case QEvent::MouseButtonPress:
+      FollowClick(static_cast<const QMouseEvent&>(*event).pos());
+      return false;
     case QEvent::FocusIn:
       Enter(static_cast<const QFocusEvent&>(*event).reason());
       return false;

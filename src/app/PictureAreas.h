@@ -1,8 +1,9 @@
 // The named areas of a picture in the window: the keyboard walks them, a mark stands around the one it is at, the mouse
 // reads their tool tips.
 //
-// Tab and Shift+Tab go from one to the next and then out of the picture, arrow keys to the neighbour, Home and End to
-// the first and last; Return, Enter and Space press. Presses of the mouse go their own way (Acts.h).
+// Walked areas (HitArea.h) are one stop, and an arrow key presses the one that it comes to. Else Tab and Shift+Tab go
+// from one to the next and then out of the picture, arrow keys to the neighbour, Home and End to the first and last;
+// Return, Enter and Space press. Presses of the mouse go their own way (Acts.h).
 #pragma once
 
 #include <QWidget>
@@ -46,6 +47,9 @@ class PictureAreas : public QWidget {
  private:
   bool TakeKey(const QKeyEvent& event);
   bool MoveTo(std::optional<std::size_t> index);
+  void WalkTo(std::optional<std::size_t> index);
+  std::optional<std::size_t> OuterArea(int step) const;
+  void FollowClick(QPoint place);
   void Enter(Qt::FocusReason reason);
   bool ShowTip(const QHelpEvent& event);
   const HitArea* AreaAt(QPoint place) const;

@@ -13,6 +13,7 @@
 #include "files/LineReader.h"
 #include "files/StageLine.h"
 #include "network/DesignStanding.h"
+#include "network/ManualNetwork.h"
 
 namespace quilm {
 
@@ -322,12 +323,7 @@ void Reader::ReadAll(FileLayout& layout) {
 }  // namespace
 
 void ClearCircuit(DesignRecord& record, Responses& responses) {
-  const f32 points = std::clamp(record.NrIntervals, 0.0F, static_cast<f32>(responseBound));
-  for (ResponseArray* array :
-       {&responses.RespFreq, &responses.RespTrans, &responses.RespAngle, &responses.RespDelay, &responses.RespPhase,
-        &responses.RespReturn, &responses.RespVSWR, &responses.RespZin, &responses.RespZinAngle}) {
-    for (int i = 1; static_cast<f32>(i) <= points; ++i) (*array)[i] = 0;
-  }
+  ClearResponses(responses, record.NrIntervals);
   record.stage.Fill({});
   record.NrIntervals = 0;
   record.Rsource.Fill(0);

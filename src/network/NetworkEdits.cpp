@@ -48,7 +48,7 @@ void ClearValues(Stage& stage) {
 
 void InsertStage(Network& network, int at) {
   RequireStage(at, network.Stages + 1);
-  const i16 type = network.stage[at].ElementType;
+  const i16 type = at <= network.Stages ? network.stage[at].ElementType : i16{0};
   MoveStagesUp(network, at, 1);
   network.stage[at].ElementType = type;
 }
@@ -57,6 +57,38 @@ void DeleteStage(Network& network, int at) {
   RequireStage(at, network.Stages);
   for (int s = at; s <= network.Stages; ++s) network.stage[s] = network.stage[s + 1];
   --network.Stages;
+}
+
+void AppendStage(Network& network, const Stage& stage) {
+  network.stage[network.Stages + 1] = stage;
+  ++network.Stages;
+}
+
+void DropLastStage(Network& network) {
+  RequireStage(network.Stages, network.Stages);
+  ClearValues(network.stage[network.Stages]);
+  --network.Stages;
+}
+
+bool CutStages(Network& network) {
+  if (network.Stages <= network.StagesMax) return false;
+  network.Stages = network.StagesMax;
+  return true;
+}
+
+void ResolveReactance(Stage& stage, f32 X, f32 F) {
+  constexpr f64 twoPi = 6.2831853;  // to these figures: what was entered so before comes out the same
+  const bool series = stage.ElementType == SeriesReactance;
+  NumericFaultScope scope;
+  Stage part = stage;
+  if (X > 0) {
+    part.ElementType = series ? SeriesL : ShuntL;
+    part.Lval.value = scope.Store(f64{X} / (f64{F} * twoPi));
+  } else {
+    part.ElementType = series ? SeriesC : ShuntC;
+    part.Cval.value = scope.Store(1 / (-f64{X} * f64{F} * twoPi));
+  }
+  stage = part;
 }
 
 void MoveStagesUp(Network& network, int first, int places) { MoveUp(network, first, places, TakeStage); }

@@ -16,11 +16,27 @@ bool HasRoomFor(const Network& network, int stages);
 void ClearValues(Stage& stage);
 
 // Puts a stage without values before stage `at`, 1 to Stages + 1; the last appends. Until a type is chosen the place
-// has the type of the stage that stood there, as a symbol for the eye.
+// has the type of the stage that stood there, as a symbol for the eye, and at the end none.
 void InsertStage(Network& network, int at);
 
 // Takes stage `at` out; those behind it move down.
 void DeleteStage(Network& network, int at);
+
+// Puts a stage behind the last one. Entry by hand warns at StagesMax and goes on to the bound of the list, stageBound,
+// beyond which this throws BoundFault; pages that show a network cut it (CutStages).
+void AppendStage(Network& network, const Stage& stage);
+
+// Takes the last stage away and leaves nothing of its values; its type stays behind the network, where it means
+// nothing.
+void DropLastStage(Network& network);
+
+// Leaves what is above StagesMax out of the network. False when nothing is.
+bool CutStages(Network& network);
+
+// What a reactance of X ohms (not 0) at F Hz (above 0) is: the types 17 and 18, which are forms of entry alone, become
+// an inductor of X / (2 Pi F) for a positive X and a capacitor of 1 / (-X 2 Pi F) for a negative one, in the line or to
+// common. Throws NumericFault, and changes nothing, where the result leaves the range of numbers.
+void ResolveReactance(Stage& stage, f32 X, f32 F);
 
 // Moves stage `first` (1 to Stages + 1) and all behind it up by `places`, whole, and leaves blank stages there.
 void MoveStagesUp(Network& network, int first, int places);

@@ -12,7 +12,7 @@ bool Between(f32 value, f32 one, f32 other) { return value >= std::min(one, othe
 
 bool SameToTheUser(const HitArea& one, const HitArea& other) {
   return one.name == other.name && one.from == other.from && one.to == other.to && one.toolTip == other.toolTip &&
-         one.enabled == other.enabled;
+         one.enabled == other.enabled && one.walked == other.walked && one.present == other.present;
 }
 
 // How far `to` lies from `from` in the direction, and how far aside.
@@ -35,6 +35,13 @@ Way WayBetween(Point from, Point to, Direction direction) {
       return {down, std::abs(right)};
   }
   return {};
+}
+
+// The walked area that is present; `instead` where none is.
+std::size_t PresentOfWalk(const HitAreas& areas, std::size_t instead) {
+  const auto at = std::find_if(areas.begin(), areas.end(),
+                               [](const HitArea& area) { return area.walked && area.present && area.enabled; });
+  return at == areas.end() ? instead : static_cast<std::size_t>(at - areas.begin());
 }
 
 }  // namespace
@@ -65,7 +72,11 @@ std::optional<std::size_t> AreaAfter(const HitAreas& areas, std::optional<std::s
   const int count = static_cast<int>(areas.size());
   const int before = step > 0 ? -1 : count;
   for (int i = (start ? static_cast<int>(*start) : before) + step; i >= 0 && i < count; i += step) {
-    if (areas[static_cast<std::size_t>(i)].enabled) return static_cast<std::size_t>(i);
+    const HitArea& area = areas[static_cast<std::size_t>(i)];
+    if (!area.enabled) continue;
+    if (!area.walked) return static_cast<std::size_t>(i);
+    if (start && areas[*start].walked) continue;
+    return PresentOfWalk(areas, static_cast<std::size_t>(i));
   }
   return std::nullopt;
 }

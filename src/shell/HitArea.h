@@ -19,6 +19,10 @@ struct HitArea {
   // What a press does. Without it the area is a name for its place, and a press is one of the left mouse button in its
   // middle, which the picture box hears.
   std::function<void()> onPress;
+  // Areas of which one is always the present one, as the stages of a strip: together they are one stop of the Tab key,
+  // at the one that is `present`, and an arrow key presses the one that it comes to.
+  bool walked = false;
+  bool present = false;
 
   bool Contains(Point at) const;
   Point Middle() const;
@@ -38,7 +42,8 @@ enum class Direction { Left, Right, Up, Down };
 // An arrow key from area `start`: of those whose middle lies farther in that direction the nearest one, where what lies
 // aside counts twice.
 std::optional<std::size_t> AreaToward(const HitAreas& areas, std::size_t start, Direction direction);
-// The next one in order (+1) or the one before (-1); from nowhere the first or the last.
+// The next one in order (+1) or the one before (-1); from nowhere the first or the last. Walked areas are passed over
+// from one of them, and from elsewhere entered at the present one.
 std::optional<std::size_t> AreaAfter(const HitAreas& areas, std::optional<std::size_t> start, int step);
 
 }  // namespace quilm

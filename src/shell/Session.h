@@ -48,6 +48,9 @@ class Session {
   // Whether the failure page of the Cauer family was left by a button that tries again.
   bool retriesCauer = false;
 
+  // 1 while the page for entry by hand is called from the Design page, whose design it asks about before it goes.
+  i16 ManualFromDesign = 0;
+
   // How charts and schematic are looked at. Their pages begin with the defaults; the charts' zoom alone stays.
   SmithView smithView;
   SchematicView schematicView;

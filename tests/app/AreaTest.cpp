@@ -63,6 +63,28 @@ TEST_F(Areas, ArrowsGoToTheNeighbourAndKeysPress) {
   EXPECT_THAT(Demo().log, ElementsAre("B", "A", "down 20 60", "up left"));
 }
 
+TEST_F(Areas, AnArrowKeyPressesTheWalkedAreaThatItComesTo) {
+  for (std::size_t i = 0; i < 2; ++i) Demo().picPlot.areas[i].walked = true;
+  Demo().picPlot.areas[1].present = true;
+  desktop.platform.Stage().Sync();
+  View().setFocus(Qt::TabFocusReason);
+  EXPECT_EQ(Present(), "B") << "Tab comes to the present one";
+  Key(Qt::Key_Left);
+  Key(Qt::Key_Right);
+  Key(Qt::Key_Tab);
+  EXPECT_EQ(Present(), "D") << "they are one stop";
+  Key(Qt::Key_Up);
+  EXPECT_THAT(Demo().log, ElementsAre("A", "B", "A"));
+}
+
+TEST_F(Areas, TheWalkGoesOnFromTheClickedOne) {
+  for (std::size_t i = 0; i < 2; ++i) Demo().picPlot.areas[i].walked = true;
+  desktop.platform.Stage().Sync();
+  QTest::mousePress(&View(), Qt::LeftButton, {}, MiddleOf(1));
+  Key(Qt::Key_Left);
+  EXPECT_THAT(Demo().log, ElementsAre("B", "A"));
+}
+
 TEST_F(Areas, AMarkStandsAroundTheOneInFocus) {
   EXPECT_FALSE(Walker().isVisible());
   const QImage plain = View().grab().toImage();

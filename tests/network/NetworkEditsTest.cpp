@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "core/Fault.h"
+#include "core/NumericFault.h"
 
 namespace quilm {
 namespace {
@@ -65,6 +66,79 @@ TEST(InsertStage, BehindTheLastItAppends) {
   Network network = Ladder(2);
   InsertStage(network, 3);
   EXPECT_EQ(OrderOf(network), (Order{1, 2, 0}));
+}
+
+// What lies behind the network means nothing, least of all a type.
+TEST(InsertStage, BehindTheLastItHasNoType) {
+  Network network = Ladder(2);
+  network.stage[3] = Numbered(9);
+  InsertStage(network, 3);
+  EXPECT_EQ(network.stage[3], Stage{});
+}
+
+TEST(AppendStage, FillsTheListToItsBoundBeyondTheLimitOfNetworks) {
+  Network network = Ladder(43);
+  for (int s = 44; s <= 46; ++s) AppendStage(network, Numbered(s));
+  EXPECT_EQ(network.Stages, 46);
+  EXPECT_EQ(network.stage[46], Numbered(46));
+  const Network full = network;
+  EXPECT_THROW(AppendStage(network, Numbered(47)), BoundFault);
+  EXPECT_EQ(network, full);
+}
+
+TEST(DropLastStage, LeavesNothingOfItsValues) {
+  Network network = Ladder(3);
+  DropLastStage(network);
+  EXPECT_EQ(network.Stages, 2);
+  Stage left;
+  left.ElementType = Numbered(3).ElementType;
+  EXPECT_EQ(network.stage[3], left);
+  EXPECT_EQ(network.stage[2], Numbered(2));
+}
+
+TEST(DropLastStage, OfNoneIsAFault) {
+  Network network = Ladder(0);
+  EXPECT_THROW(DropLastStage(network), BoundFault);
+}
+
+TEST(CutStages, LeavesFortyThree) {
+  Network network = Ladder(46);
+  EXPECT_TRUE(CutStages(network));
+  EXPECT_EQ(network.Stages, 43);
+  EXPECT_FALSE(CutStages(network));
+  EXPECT_EQ(network.Stages, 43);
+}
+
+Stage Reactance(i16 type, f32 X, f32 F) {
+  Stage stage;
+  stage.ElementType = type;
+  ResolveReactance(stage, X, F);
+  return stage;
+}
+
+// 50 / (2 Pi 1e6) = 7.957747 uH; 1 / (10 2 Pi 1e6) = 15.91549 nF.
+TEST(ResolveReactance, PositiveIsAnInductorAndNegativeACapacitor) {
+  const Stage series = Reactance(SeriesReactance, 50, 1e6F);
+  EXPECT_EQ(series.ElementType, SeriesL);
+  EXPECT_FLOAT_EQ(series.Lval.value, 7.957747e-6F);
+  EXPECT_EQ(series.Cval.value, 0);
+  const Stage shunt = Reactance(ShuntReactance, 50, 1e6F);
+  EXPECT_EQ(shunt.ElementType, ShuntL);
+  EXPECT_FLOAT_EQ(shunt.Lval.value, 7.957747e-6F);
+  const Stage negative = Reactance(SeriesReactance, -10, 1e6F);
+  EXPECT_EQ(negative.ElementType, SeriesC);
+  EXPECT_FLOAT_EQ(negative.Cval.value, 15.91549e-9F);
+  EXPECT_EQ(negative.Lval.value, 0);
+  EXPECT_EQ(Reactance(ShuntReactance, -10, 1e6F).ElementType, ShuntC);
+}
+
+TEST(ResolveReactance, BeyondTheRangeOfNumbersItChangesNothing) {
+  Stage stage;
+  stage.ElementType = SeriesReactance;
+  EXPECT_THROW(ResolveReactance(stage, -1e-20F, 1e-20F), NumericFault);
+  Stage untouched;
+  untouched.ElementType = SeriesReactance;
+  EXPECT_EQ(stage, untouched);
 }
 
 TEST(InsertStage, IntoAnEmptyListMakesStageOne) {

@@ -82,6 +82,46 @@ TEST(SameToTheUser, DoesNotAskWhatAPressDoes) {
   EXPECT_FALSE(SameToTheUser(Palette(), {}));
 }
 
+// Two buttons with three walked cells between them, the second of which is the present one.
+HitAreas Walk() {
+  HitAreas areas(5);
+  const char* names[] = {"before", "one", "two", "three", "behind"};
+  for (std::size_t i = 0; i < areas.size(); ++i) {
+    areas[i].name = names[i];
+    areas[i].from = {static_cast<f32>(i), 0};
+    areas[i].to = {static_cast<f32>(i) + 1, 1};
+    areas[i].walked = i >= 1 && i <= 3;
+    areas[i].present = i == 2;
+  }
+  return areas;
+}
+
+TEST(AreaAfter, WalkedAreasAreOneStopAtThePresentOne) {
+  const HitAreas areas = Walk();
+  EXPECT_EQ(AreaAfter(areas, 0, +1), 2U);
+  EXPECT_EQ(AreaAfter(areas, 1, +1), 4U);
+  EXPECT_EQ(AreaAfter(areas, 4, -1), 2U);
+  EXPECT_EQ(AreaAfter(areas, 3, -1), 0U);
+}
+
+TEST(AreaAfter, WithoutAPresentOneTheWalkBeginsAtItsNearerEnd) {
+  HitAreas areas = Walk();
+  areas[2].present = false;
+  EXPECT_EQ(AreaAfter(areas, 0, +1), 1U);
+  EXPECT_EQ(AreaAfter(areas, 4, -1), 3U);
+  areas[1].enabled = false;
+  EXPECT_EQ(AreaAfter(areas, 0, +1), 2U);
+}
+
+TEST(SameToTheUser, WalksDiffer) {
+  HitAreas areas = Walk();
+  areas[2].present = false;
+  EXPECT_FALSE(SameToTheUser(areas, Walk()));
+  areas = Walk();
+  areas[0].walked = true;
+  EXPECT_FALSE(SameToTheUser(areas, Walk()));
+}
+
 class PictureWithAreas : public testing::Test {
  protected:
   PictureWithAreas() {
