@@ -57,9 +57,12 @@ void AddLoss(std::vector<LossLabel>& labels, const char* heading, f64 ohms) {
 
 }  // namespace
 
+std::string FormatSignedResistance(f32 Value) {
+  return Value < 0 ? "-" + Trimmed(FormatResistance(-Value)) : FormatResistance(Value);
+}
+
 std::string ValueText(const Slot& slot, f32 value) {
-  if (slot.format == FormatResistance && value < 0) return "-" + Trimmed(slot.format(-value));
-  return Trimmed(slot.format(value));
+  return Trimmed(slot.format == FormatResistance ? FormatSignedResistance(value) : slot.format(value));
 }
 
 std::vector<StageLabel> ValueLabels(const Stage& stage, f32 share) {

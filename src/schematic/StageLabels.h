@@ -17,8 +17,10 @@ struct StageLabel {
   std::string designator = {};  // the letters of the part that the label names first: "L", "C", "R", "TL" or "T"
 };
 
-// A value in the display format of its slot, without the blanks around it. The format of resistances knows none below
-// 0; they show their sign and size.
+// The format of resistances, which has no text for those below 0: sign and formatted magnitude.
+std::string FormatSignedResistance(f32 Value);
+
+// A value in the display format of its slot, without the blanks around it; a resistance with its sign.
 std::string ValueText(const Slot& slot, f32 value);
 
 // The values of the parts that the element type gives meaning to, in display format. `share` is the part of a value

@@ -8,6 +8,7 @@
 #include "core/DesignRecord.h"
 #include "core/modGeneral.h"
 #include "schematic/DesignData.h"
+#include "schematic/LabelDrawing.h"
 #include "schematic/PartSymbols.h"
 #include "schematic/StageLabels.h"
 #include "schematic/Symbols.h"
@@ -33,9 +34,6 @@ constexpr Color boundaryColor = 0xBBFF66;
 constexpr f32 labelSize = 8;  // points
 constexpr f32 labelPitch = 170;
 constexpr f32 labelsRight = 40;  // clear of the stage's boundary, at its other side too
-constexpr f32 unitGap = 20;
-// Labels keep their size among the symbols: what was laid out between two boundaries stays there.
-constexpr TextFit asLaidOut{.anchor = 0, .room = 1e-3F};
 constexpr Color designatorColor = 0x8A4A1A;
 constexpr f32 labelsAbove = -330;     // of the upper rail
 constexpr f32 labelsBelow = 1160;     // of the upper rail: just below the lower one
@@ -50,20 +48,6 @@ constexpr f32 dataLeft = 400;
 constexpr f32 dataTop = 5800;
 
 int StagesToDraw(const Network& network) { return std::min(network.Stages, network.StagesMax); }
-
-// Text and unit within `room` units, smaller where they would be wider.
-void PrintLabel(Canvas& canvas, f32 x, f32 y, f32 room, const StageLabel& label) {
-  const PenScope pen(canvas);
-  const f32 width = canvas.TextWidth(label.text) + (label.unit.empty() ? 0 : unitGap + canvas.TextWidth(label.unit));
-  const f32 height = canvas.TextHeight(label.text);
-  if (width > room) canvas.FontSize *= room / width;
-  const f32 onLine = y + (height - canvas.TextHeight(label.text)) * 0.8F;  // about the same base line
-  canvas.ForeColor = label.negative ? colorRed : colorBlack;
-  canvas.PrintAt(x, onLine, label.text);
-  if (label.unit.empty()) return;
-  canvas.ForeColor = colorBlack;
-  canvas.PrintAt(x + canvas.TextWidth(label.text) + unitGap, onLine, label.unit);
-}
 
 f32 RoomOf(f32 stageWidth) { return stageWidth - 2 * labelsRight; }
 
