@@ -48,7 +48,7 @@ class Walk {
     Press("cmdPlot");
     Plots();
     Schematic();
-    Visit("cmdEdit", "edit");
+    Edit();
     Visit("cmdAnalysis", "analysis");
     Visit("cmdTabulate", "tabulated");
     Visit("cmdDesign", "design-return");
@@ -56,6 +56,7 @@ class Walk {
     Specials();
     Modal("cmdAbout", "about");
     Modal("cmdExit", "exit");
+    ManualEntry();
   }
 
  private:
@@ -175,6 +176,55 @@ class Walk {
     act(MouseAct::Down);
     Save("plot-readout");
     act(MouseAct::Up);
+  }
+
+  void PressArea(const char* box, const char* area) {
+    auto& picture = dynamic_cast<PictureBox&>(*desktop_.session.pages.Top()->Find(box));
+    desktop_.platform.Stage().Perform([&](Session& session) { quilm::PressArea(session, picture, area); });
+    Settle();
+  }
+
+  void Edit() {
+    if (!Press("cmdEdit")) return;
+    Save("edit");
+    PressArea("picEdit", "stage4");
+    Press("cmdEditValues");
+    Save("edit-values");
+    Press("cmdChangeTopology");
+    PressArea("picEdit", "CoupledInductors");
+    Save("edit-topology");
+    desktop_.platform.Stage().Perform(Undo);
+    PressArea("picEdit", "load");
+    Press("cmdInsertPart");
+    Save("edit-insert");
+    desktop_.platform.Stage().Perform(Undo);
+  }
+
+  // Over the design, as its user has agreed to lose it.
+  void ManualEntry() {
+    Modal("cmdManual", "manual-options");
+    QTimer::singleShot(0, qApp, [this] {
+      auto* go =
+          desktop_.platform.Stage().FrontWindow()->findChild<QAbstractButton*>(QStringLiteral("cmdContinueToManual"));
+      if (go != nullptr) go->click();
+    });
+    Press("cmdManual");
+    Save("manual-new");
+    Type("txtInputTermination", "50");
+    Type("txtOutputTermination", "75");
+    Save("manual-palette");
+    const auto part = [&](const char* area, std::initializer_list<std::pair<const char*, const char*>> boxes) {
+      PressArea("picEntry", area);
+      for (const auto& [box, text] : boxes) Type(box, text);
+    };
+    part("ShuntC", {{"txtCapacitorsValue", "47p"}});
+    Press("cmdAccept");
+    part("TransLine", {{"txtLineLength", "30"}, {"txtLineFrequency", "100M"}, {"txtLineImpedance", "75"}});
+    Press("cmdAccept");
+    part("ShuntRLC", {{"txtResistorsValue", "5"}, {"txtInductorsValue", "22u"}, {"txtCapacitorsValue", "47p"}});
+    Save("manual-part");
+    Press("cmdAccept");
+    Save("manual-parts");
   }
 
   void Visit(const char* button, const char* name) {

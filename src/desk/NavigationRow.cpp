@@ -81,7 +81,13 @@ void NavigationRow::GoTo(PageId target) {
   session_.pages.UnloadPage(page_.Id());
 }
 
+void NavigationRow::Lock(bool locked) {
+  locked_ = locked;
+  Load();
+}
+
 void NavigationRow::Load() {
+  for (const auto& action : actions_) action->enabled = true;
   for (const Segment& segment : segments_) {
     segment.button->enabled = segment.target != page_.Id() && session_.pages.Has(segment.target);
   }
@@ -89,6 +95,9 @@ void NavigationRow::Load() {
   cmdSave_->enabled = static_cast<bool>(onSave);
   cmdGet_->enabled = static_cast<bool>(onGet);
   cmdSpice_->enabled = session_.pages.Has(PageId::WriteFiles);
+  if (!locked_) return;
+  for (const Segment& segment : segments_) segment.button->enabled = false;
+  for (const auto& action : actions_) action->enabled = false;
 }
 
 Layout NavigationRow::MakeLayout() {

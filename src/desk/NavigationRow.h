@@ -26,6 +26,9 @@ class NavigationRow {
   // disabled.
   void Load();
 
+  // Disables all of it for as long as something must be finished first.
+  void Lock(bool locked);
+
   // What the button of a page does: the gate, then the page in the place of this one.
   void GoTo(PageId target);
 
@@ -56,6 +59,7 @@ class NavigationRow {
   Button* cmdSave_ = nullptr;
   Button* cmdGet_ = nullptr;
   Button* cmdSpice_ = nullptr;
+  bool locked_ = false;
 };
 
 }  // namespace quilm

@@ -80,11 +80,14 @@ Got GetDesign(Session& session, const std::string& title) {
   return got;
 }
 
-void GetDesignFor(Session& session, PageId page) {
+void GetDesignFor(Session& session, PageId page) { GetDesignFor(session, page, page); }
+
+void GetDesignFor(Session& session, PageId page, PageId target) {
   const Got got = GetDesign(session, "Read Quilm File");
   if (got == Got::Nothing) return;
   if (got == Got::Design) {
-    session.pages.ShowPage(page);
+    session.pages.ShowPage(target);
+    if (page != target) session.pages.UnloadPage(page);
     return;
   }
   const PageId instead = got == Got::Failure ? PageId::Design : PageId::Schematic;

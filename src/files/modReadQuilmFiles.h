@@ -31,8 +31,10 @@ Got modReadQuilmFiles(Session& session, std::string& path);
 // Asks for a file and reads it.
 Got GetDesign(Session& session, const std::string& title);
 
-// The same for a main page, which is then loaded afresh. After a failure the Design page takes its place, and the
-// status line tells how the former design comes back; after an older design the Schematic page does.
+// The same for a main page, in whose place `target` shows the design, or which is then loaded afresh. After a failure
+// the Design page takes its place, and the status line tells how the former design comes back; after an older design
+// the Schematic page does.
+void GetDesignFor(Session& session, PageId page, PageId target);
 void GetDesignFor(Session& session, PageId page);
 
 }  // namespace quilm

@@ -11,6 +11,9 @@
 #include "pages/design/frmNearest5.h"
 #include "pages/design/frmSeeNormalized.h"
 #include "pages/design/frmSinglyTermCheby.h"
+#include "pages/edit/frmEditCircuit.h"
+#include "pages/edit/frmManualEntry.h"
+#include "pages/edit/frmManualEntryOptions.h"
 #include "pages/guidance/frmHelp.h"
 #include "pages/plot/frmBlank.h"
 #include "pages/plot/frmEditLimits.h"
@@ -45,6 +48,7 @@ PageDirectory AllPages() {
       {PageId::Design, Make<frmDesign>},
       {PageId::Schematic, Make<frmSchematic>},
       {PageId::SchematicSimple, Make<frmSchematicSimple>},
+      {PageId::Edit, Make<frmEditCircuit>},
       {PageId::Analyze, Make<frmAnalyze>},
       {PageId::Plotted, Make<frmPlotted>},
       {PageId::Tabulated, Make<frmTabulated>},
@@ -56,6 +60,8 @@ PageDirectory AllPages() {
       {PageId::Limits, Make<frmLimits>},
       {PageId::EditLimits, Make<frmEditLimits>},
       {PageId::Marker, Make<frmMarker>},
+      {PageId::ManualEntry, Make<frmManualEntry>},
+      {PageId::ManualEntryOptions, Make<frmManualEntryOptions>},
       {PageId::Exit, Make<frmExit>},
       {PageId::ChangeTitle, Make<frmChangeTitle>},
       {PageId::AddInfo, Make<frmAddInfo>},

@@ -66,7 +66,7 @@ void frmDesign::ConnectButtons() {
   controls_.tools.Offer(nearest5Tool, [this] { ShowNearest(); });
   controls_.tools.Offer(singlyTerminatedTool, [this] { DesignSinglyTerminated(); });
   controls_.tools.Offer(endSectionsTool, [this] { AddEnds(); });
-  cmdManual_.onClick = [this] { GoTo(PageId::ManualEntry); };
+  cmdManual_.onClick = [this] { EnterByHand(); };
   cmdTitle_.onClick = [this] { session_.pages.ShowModal(PageId::ChangeTitle); };
   cmdInfo_.onClick = [this] { session_.pages.ShowModal(PageId::AddInfo); };
   cmdAssistance_.onClick = [this] { session_.pages.ShowModal(PageId::EntryAssistance); };
@@ -200,6 +200,13 @@ void frmDesign::AddEnds() {
     return;
   }
   GoTo(PageId::EndSections);
+}
+
+// That page asks first whether this design may go; if not, this one has never been left.
+void frmDesign::EnterByHand() {
+  session_.ManualFromDesign = 1;
+  session_.pages.ShowPage(PageId::ManualEntry);
+  if (session_.pages.Find(PageId::ManualEntry) != nullptr) session_.pages.UnloadPage(Id());
 }
 
 bool frmDesign::MakeNetwork() {

@@ -38,6 +38,7 @@ class frmDesign : public Page {
   void DesignSinglyTerminated();
   void ShowNearest();
   void AddEnds();
+  void EnterByHand();
 
   // What every way to a result does first; false keeps the page, after the user was told why.
   bool MakeNetwork();
