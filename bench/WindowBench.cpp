@@ -4,24 +4,32 @@
 //   QT_QPA_PLATFORM=offscreen build/bench/bin/bench-window
 //
 // Each scale of the screen is measured in a process of its own, because the toolkit knows one scale a run. Sizes are of
-// the picture's widget, in device pixels.
+// the picture's widget, of the tuning step those of the window, in device pixels.
 
 #include <benchmark/benchmark.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <QAbstractButton>
 #include <QApplication>
+#include <QKeyEvent>
+#include <QTemporaryDir>
+#include <QTimer>
 #include <QWindow>
 #include <cmath>
 #include <memory>
 
 #include "analysis/modAnalysis.h"
+#include "app/Desktop.h"
 #include "app/PictureView.h"
 #include "core/Responses.h"
 #include "display/HorizontalAxis.h"
 #include "display/SheetDrawing.h"
+#include "pages/PageDirectory.h"
 #include "shell/LiveLayer.h"
+#include "shell/Page.h"
 #include "shell/Picture.h"
+#include "support/PlainAnalysis.h"
 #include "support/RandomLadder.h"
 
 namespace {
@@ -29,6 +37,7 @@ namespace {
 using namespace quilm;
 
 constexpr int points = 2050;
+constexpr int usualStages = 11;
 constexpr i16 plotCode = 2;
 
 struct ScreenSize {
@@ -39,9 +48,9 @@ struct ScreenSize {
 
 constexpr ScreenSize screens[] = {{1, 1280, 860}, {1, 1920, 1080}, {1, 3840, 2160}, {2, 1920, 1080}, {2, 3840, 2160}};
 
-DesignRecord Ladder() {
+DesignRecord Ladder(int stages) {
   std::mt19937 random(1);
-  DesignRecord record = RandomLadder(random, 11, AnalysableTypes());
+  DesignRecord record = RandomLadder(random, stages, AnalysableTypes());
   record.NrIntervals = points - 1;
   record.NrXints = 10;
   record.NrYints = 6;
@@ -82,7 +91,7 @@ class Plot {
     view.repaint();
   }
 
-  DesignRecord record = Ladder();
+  DesignRecord record = Ladder(usualStages);
   std::unique_ptr<Responses> responses = std::make_unique<Responses>();
   Picture picture;
   LiveLayer live;
@@ -133,17 +142,78 @@ void RepaintUnchanged(benchmark::State& state) {
   for (auto _ : state) plot.view.repaint();
 }
 
-// From an entry to the pixels: the sweep, the whole plot drawn anew, painted.
-void TuningStep(benchmark::State& state) {
-  Plot plot(state);
-  constexpr f32 finer = 1.0001F;
-  for (auto _ : state) {
-    plot.record.stage[1].Lval.value *= finer;
-    plot.record.stage[1].Cval.value *= finer;
-    SweepLadder(plot.record, *plot.responses);
-    plot.Draw();
-    plot.Show();
+// The program in its window with Tune part open: what a user has before him who tunes a long network.
+class TuningWindow {
+ public:
+  explicit TuningWindow(benchmark::State& state) {
+    const auto scale = static_cast<int>(state.range(0));
+    desktop_.Start([](Session& session) {
+      session.record = Ladder(stagesLimit);
+      session.pages.ShowPage(PageId::Plotted);
+    });
+    desktop_.window.resize(static_cast<int>(state.range(1)) / scale, static_cast<int>(state.range(2)) / scale);
+    while (!desktop_.window.windowHandle()->isExposed()) QApplication::processEvents();
+    QApplication::processEvents();
   }
+
+  // Opens the dialog, does `act` and closes it.
+  void With(const std::function<void()>& act) {
+    QTimer::singleShot(0, &desktop_.window, [this, &act] {
+      Type(*Find("txtPercentageValue"), "1");
+      act();
+      Press("cmdExit");
+    });
+    Press("cmdTunePart");
+  }
+
+  // From the key to the pixels: the handler, the sweep, the new curves and readings painted.
+  void Step(Qt::Key key) {
+    QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier);
+    QApplication::sendEvent(Find("UpDown1"), &press);
+    Plot().repaint();
+    QApplication::processEvents();
+  }
+
+  void Press(const char* name) { qobject_cast<QAbstractButton*>(Find(name))->click(); }
+
+ private:
+  QWidget* Find(const char* name) { return desktop_.TopView()->Find(QString::fromLatin1(name)); }
+  PictureView& Plot() {
+    const Page* page = desktop_.session.pages.Find(PageId::Plotted);
+    return *desktop_.platform.Stage().ViewOf(*page)->findChild<PictureView*>(QStringLiteral("picPlot"));
+  }
+  static void Type(QWidget& box, const char* text) {
+    box.setFocus();
+    QKeyEvent press(QEvent::KeyPress, 0, Qt::NoModifier, QString::fromLatin1(text));
+    QApplication::sendEvent(&box, &press);
+  }
+
+  QTemporaryDir folder_;
+  Desktop desktop_{AllPages(), folder_.path()};
+};
+
+void TuningStep(benchmark::State& state) {
+  TuningWindow window(state);
+  window.With([&] {
+    constexpr int untilCleared = 100;
+    int steps = 0;
+    for (auto _ : state) {
+      window.Step(steps % 2 == 0 ? Qt::Key_Up : Qt::Key_Down);
+      if (++steps % untilCleared != 0) continue;
+      state.PauseTiming();
+      window.Press("cmdClear");
+      QApplication::processEvents();
+      state.ResumeTiming();
+    }
+  });
+}
+
+// What the machine is worth: the plain evaluation of the same ladder's formulas.
+void PlainSweep(benchmark::State& state) {
+  DesignRecord record = Ladder(stagesLimit);
+  const auto responses = std::make_unique<Responses>();
+  SweepLadder(record, *responses);
+  for (auto _ : state) plain::Sweep(record, responses->Fq, *responses);
 }
 
 void Register(const ScreenSize& screen) {
@@ -158,6 +228,7 @@ void Register(const ScreenSize& screen) {
   };
   add("RepaintUnchanged", RepaintUnchanged, {}, {});
   add("TuningStep", TuningStep, {}, {});
+  add("PlainSweep", PlainSweep, {}, {});
   for (const int pen : {1, 2}) add("TwoTraces", TwoTraces, {"pen"}, {pen});
   constexpr int trials = 50;
   for (const int before : {0, 99, 1999}) add("Trial", Trial, {"before"}, {before})->Iterations(trials);

@@ -230,8 +230,7 @@ QWidget* PageView::FirstContent() const {
   for (const auto& view : views_) {
     if (view->Shows().kind == ControlKind::Text && view->Shows().Usable()) return view->FocusWidget();
   }
-  if (const auto accept = viewOf_.find(page_->acceptButton);
-      accept != viewOf_.end() && page_->acceptButton->Usable()) {
+  if (const auto accept = viewOf_.find(page_->acceptButton); accept != viewOf_.end() && page_->acceptButton->Usable()) {
     return accept->second->FocusWidget();
   }
   for (const auto& view : views_) {

@@ -72,6 +72,7 @@ SpinView::SpinView(Spin& spin, ActSink& sink, QWidget* parent)
   widget_->onStep = [this, &sink](int direction) {
     sink.Press([this, direction](Session& session) { Step(session, spin_, direction); });
   };
+  widget_->large = spin.large;
   if (spin.number != nullptr) {
     widget_->onNumber = [this, &sink](int number) {
       sink.Press([this, number](Session& session) { SetNumber(session, spin_, number); });

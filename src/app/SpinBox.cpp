@@ -42,7 +42,7 @@ void SpinBox::Hold(QWidget& number) {
 QSize SpinBox::sizeHint() const {
   QStyleOptionSpinBox option;
   Describe(option);
-  constexpr int aboveAndBelow = 4;
+  const int aboveAndBelow = large ? 20 : 4;
   const int text = number_ == nullptr ? 0 : digits * fontMetrics().horizontalAdvance(QLatin1Char('0')) + textMargin;
   return style()->sizeFromContents(QStyle::CT_SpinBox, &option,
                                    QSize(text + arrowsWidth, fontMetrics().height() + aboveAndBelow), this);

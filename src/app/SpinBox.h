@@ -22,6 +22,7 @@ class SpinBox : public QWidget {
   std::function<void(int direction)> onStep;
   std::function<void(int number)> onNumber;  // typed; empty where no number stands in it
   std::function<int()> value;
+  bool large = false;
   int lowest = 0;
   int highest = 0;
 

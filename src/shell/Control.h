@@ -159,6 +159,7 @@ class Spin : public Control {
   void Count(Label& shown, std::function<void(i32)> onTyped);
   Label* number = nullptr;
   std::function<void(i32)> onSet;
+  bool large = false;   // what its page is there for, and so a larger mark for the mouse
   bool oneAct = false;  // its steps in a row are taken back together, like the keystrokes in a box
   i32 lowest = 0;       // for assistive tools, and for where the digits of a typed number end
   i32 highest = 0;

@@ -27,17 +27,19 @@ TunePage::TunePage(Session& session, PageId id, std::string heading, std::string
 }
 
 void TunePage::Connect(Spin& spin, std::function<void(StepWay)> step) {
-  spin.oneAct = true;
+  spin.oneAct = spin.large = true;
   spin.onUp = [step] { step(StepWay::Up); };
   spin.onDown = [step] { step(StepWay::Down); };
 }
 
-void TunePage::TakeStep() {
+void TunePage::HoldStep() {
   entry_.Take();
-  const f32 held = limitsOf::TuneStep.Held(step_);
-  if (held == step_) return;
-  step_ = held;
-  entry_.Repair();
+  step_ = limitsOf::TuneStep.Held(step_);
+}
+
+void TunePage::TakeStep() {
+  HoldStep();
+  if (!entry_.Agrees()) entry_.Repair();
 }
 
 void TunePage::ShowStep(f32 step) {

@@ -28,7 +28,8 @@ class TunePage : public Page {
   // Makes a spin control step: its acts in a row are one to undo.
   void Connect(Spin& spin, std::function<void(StepWay)> step);
 
-  // Takes the box into the step and holds it at 0.01 to 100, which the box then shows.
+  // Takes the box into the step and holds it at 0.01 to 100; TakeStep shows it there, too.
+  void HoldStep();
   void TakeStep();
 
   // Whether the box says something else than what ShowStep put there.

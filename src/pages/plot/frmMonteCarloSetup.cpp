@@ -68,8 +68,8 @@ void frmMonteCarloSetup::ShowItem() {
 }
 
 Layout frmMonteCarloSetup::MakeLayout() {
-  return Column({Put(picItem_), Grid(2, {Put(cmdReverse_), Put(cmdForward_)}),
-                 Row({Put(lblStepsize_), Put(txtPercentageValue_), Put(cmdEnter_)}), Put(cmdAllItems_),
+  return Column({Row({Space(), Put(picItem_), Space()}), Grid(2, {Put(cmdReverse_), Put(cmdForward_)}),
+                 Row({Put(lblStepsize_), Put(txtPercentageValue_), Put(cmdEnter_)}), Grid(1, {Put(cmdAllItems_)}),
                  KeepPlace(Put(lblAllItems_)), KeepPlace(Put(lblNotice_)), Row({Space(), Put(cmdExit_)})});
 }
 

@@ -134,8 +134,10 @@ void frmPlotted::FitToBand() {
   Choose(session_.record.PlotCode);
 }
 
-// Its acts are steps of their own to undo. The curves that it leaves stay.
+// Its acts are steps of their own to undo. The curves that it leaves stay. Meanwhile the mouse reads the plot, and
+// enters no limits.
 void frmPlotted::OpenTuning(PageId dialog) {
+  session_.plot.limitEntry = {};
   const History::Tool tool(session_);
   session_.pages.ShowBeside(dialog, {&picPlot});
   RefreshTools();

@@ -19,7 +19,7 @@ frmTunePart::frmTunePart(Session& session)
 void frmTunePart::Load() {
   ClearPlacesBehind(session_.network);
   Reload();
-  SetFocus(UpDown1_);
+  FocusOnNext();
   CatchUp();
 }
 
@@ -51,7 +51,7 @@ void frmTunePart::StoreBox(bool changed) {
 
 void frmTunePart::GoTo(std::size_t item) {
   const bool changed = IsChanged();
-  TakeStep();
+  HoldStep();
   if (changed) {
     StoreBox(true);
   } else {
@@ -62,7 +62,16 @@ void frmTunePart::GoTo(std::size_t item) {
   TuneIndex_ = item;
   Rebuild();
   ShowItem();
-  SetFocus(UpDown1_);
+  FocusOnNext();
+}
+
+// A part that has no step yet asks for one first.
+void frmTunePart::FocusOnNext() {
+  if (step_ == 0) {
+    SetFocus(txtPercentageValue_);
+  } else {
+    SetFocus(UpDown1_);
+  }
 }
 
 // The network that is tuned is that of no family any more, and has no design bandwidth to tune.

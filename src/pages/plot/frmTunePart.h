@@ -17,6 +17,7 @@ class frmTunePart : public TunePage {
   void Rebuild();
   void ShowItem();
   void GoTo(std::size_t item);
+  void FocusOnNext();
   void StoreBox(bool changed);
   void Step(StepWay way);
 
