@@ -1,63 +1,11 @@
 // The program as a process: its arguments, its streams and its exit status.
-#include <gtest/gtest.h>
-#include <sys/wait.h>
-
 #include <cstdio>
-#include <cstdlib>
-#include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <map>
-#include <nlohmann/json.hpp>
-#include <sstream>
 
+#include "script/ProgramBench.h"
+
+namespace quilm {
 namespace {
-
-using nlohmann::json;
-
-struct Ended {
-  int status = -1;
-  std::string out;
-  std::string err;
-
-  std::vector<json> Events() const {
-    std::vector<json> events;
-    std::istringstream lines(out);
-    for (std::string line; std::getline(lines, line);) events.push_back(json::parse(line));
-    return events;
-  }
-};
-
-std::string ContentOf(const std::filesystem::path& path) {
-  std::ifstream file(path, std::ios::binary);
-  return {std::istreambuf_iterator<char>(file), {}};
-}
-
-class Program : public testing::Test {
- protected:
-  Program() {
-    std::string name = (std::filesystem::temp_directory_path() / "quilm-test-XXXXXX").string();
-    folder = mkdtemp(name.data());
-    std::filesystem::create_directory(folder / "tmp");
-  }
-  ~Program() override { std::filesystem::remove_all(folder); }
-
-  // Runs it in the test's folder, which also holds its temporary files.
-  Ended Run(const std::string& arguments, const std::string& script = {}) {
-    std::ofstream(folder / "stdin") << script;
-    return RunInShell("\"$quilm\" " + arguments + " <stdin >stdout 2>stderr");
-  }
-
-  // Runs commands of the shell there; $quilm is the program.
-  Ended RunInShell(const std::string& commands) {
-    std::ofstream(folder / "commands") << "cd '" + folder.string() + "'\nexport TMPDIR='" + (folder / "tmp").string() +
-                                              "'\nquilm='" QUILM_SCRIPT "'\n" + commands;
-    const int status = std::system(("bash '" + (folder / "commands").string() + "'").c_str());
-    return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, ContentOf(folder / "stdout"), ContentOf(folder / "stderr")};
-  }
-
-  std::filesystem::path folder;
-};
 
 TEST_F(Program, RunsTheScriptOnStandardInputFromTheOpeningPage) {
   const Ended ended = Run("", "page\n");
@@ -237,75 +185,5 @@ TEST_F(Program, AFolderThatIsMissingIsMade) {
   EXPECT_TRUE(std::filesystem::is_directory(folder / "new"));
 }
 
-// The prototype worked by the closed form in double precision (Matthaei, Young, Jones: Microwave Filters,
-// Impedance-Matching Networks, and Coupling Structures, equation 4.05-2). The book's table of four decimals, worked
-// with a rounded constant, has 1.1811, 1.4228, 2.0966, 1.5733.
-TEST_F(Program, TheFirstDesignIsTheOneOfTheory) {
-  const Ended ended = Run("'" QUILM_EXAMPLES "/first-design.qsc'");
-  ASSERT_EQ(ended.status, 0) << ended.err;
-  std::vector<json> records;
-  for (const json& event : ended.Events()) {
-    EXPECT_NE(event["event"], "message") << event;
-    if (event["event"] == "record") records.push_back(event);
-  }
-  ASSERT_EQ(records.size(), 4U);
-  const double g[] = {1.181178, 1.422806, 2.096671, 1.573401, 2.096671, 1.422806, 1.181178};
-  for (std::size_t j = 0; j < 7; ++j) {
-    EXPECT_NEAR(records[0]["record"]["Gj"][j].get<double>(), g[j], 2e-6) << j + 1;
-  }
-  // C = g / (2 pi f R) and L = g R / (2 pi f) of the lowpass, L = g R / (2 pi B) of the bandpass.
-  EXPECT_NEAR(records[1]["stages"][0]["Cval"][0].get<double>(), 3.759807e-9, 1e-14);
-  EXPECT_NEAR(records[1]["stages"][1]["Lval"][0].get<double>(), 1.132233e-5, 3e-11);
-  EXPECT_NEAR(records[3]["stages"][0]["Lval"][0].get<double>(), 9.399516e-5, 3e-10);
-  EXPECT_EQ(records[3]["stages"].size(), 7U);
-  for (const char* plot : {"lowpass-transmission", "lowpass-return", "lowpass-vswr", "lowpass-impedance",
-                           "bandpass-transmission", "bandpass-return", "bandpass-vswr", "bandpass-delay"}) {
-    const std::string text = ContentOf(folder / "out" / (std::string(plot) + ".svg"));
-    EXPECT_THAT(text, testing::HasSubstr("<polyline")) << plot;
-  }
-}
-
-// A zero at 1.25 times the cutoff gives sections of m = 0.6: an end arm of 0.6 henry with (1 - 0.36) / 0.6 farad.
-TEST_F(Program, TheSpecialDesignsAreMade) {
-  const Ended ended = Run("'" QUILM_EXAMPLES "/special-designs.qsc'");
-  ASSERT_EQ(ended.status, 0) << ended.err;
-  std::vector<json> records;
-  for (const json& event : ended.Events()) {
-    EXPECT_NE(event["event"], "message") << event;
-    if (event["event"] == "record") records.push_back(event["record"]);
-  }
-  ASSERT_EQ(records.size(), 3U);
-  EXPECT_EQ(records[0]["Order"], 9);
-  EXPECT_NEAR(records[0]["Hj"][1].get<double>(), 0.6, 1e-6);
-  EXPECT_NEAR(records[0]["Gj"][1].get<double>(), 0.64 / 0.6, 1e-6);
-  EXPECT_EQ(records[1]["NetworkEdited"], 1);
-  EXPECT_NEAR(records[1]["Rsource"][0].get<double>(), 0.01, 1e-9);
-  EXPECT_EQ(records[2]["Stages"], 7);
-}
-
-// Both designs come back from their files as they were made.
-TEST_F(Program, TheCauerDesignsAreSavedAndReadAgain) {
-  const Ended ended = Run("'" QUILM_EXAMPLES "/cauer-designs.qsc'");
-  ASSERT_EQ(ended.status, 0) << ended.err;
-  std::vector<json> records;
-  for (const json& event : ended.Events()) {
-    if (event["event"] == "record") records.push_back(event);
-  }
-  ASSERT_EQ(records.size(), 4U);
-  EXPECT_EQ(records[0]["record"]["Order"], 9);
-  EXPECT_EQ(records[0]["record"]["Astop"], 70);
-  EXPECT_EQ(records[1]["stages"].size(), 9U);
-  EXPECT_EQ(records[2]["record"]["CauerTop"], 1);
-  EXPECT_EQ(records[3]["stages"].size(), 6U);
-  for (const char* picture :
-       {"cauer-lowpass-transmission", "cauer-lowpass-return", "cauer-lowpass-delay", "cauer-lowpass-smith",
-        "cauer-lowpass-smith-zoomed", "cauer-lowpass-polar", "cauer-lowpass-schematic", "cauer-lowpass-balanced",
-        "cauer-lowpass-table-1", "zig-zag-bandpass-return", "zig-zag-bandpass-smith", "zig-zag-bandpass-schematic"}) {
-    EXPECT_THAT(ContentOf(folder / "out" / (std::string(picture) + ".svg")), testing::HasSubstr("<text")) << picture;
-  }
-  for (const char* design : {"cauer-lowpass.QLM", "zig-zag-bandpass.QLM"}) {
-    EXPECT_THAT(ContentOf(folder / "out" / design), testing::StartsWith("Quilm circuit file 43")) << design;
-  }
-}
-
 }  // namespace
+}  // namespace quilm
