@@ -151,6 +151,22 @@ class Walk {
     }
     SmithTools();
     Readout();
+    Modal("cmdStepSize", "stepsize");
+    Tuning("cmdTunePart", "tune-part");
+    Tuning("cmdTuneWidth", "tune-width");
+    Tuning("cmdTuneApass", "tune-ripple");
+  }
+
+  // A dialog beside the plot after a few steps, which are taken back.
+  void Tuning(const char* button, const char* name) {
+    QTimer::singleShot(0, qApp, [this, name] {
+      Type("txtPercentageValue", "5");
+      StepUp("UpDown1", 5);
+      Save(name);
+      desktop_.platform.Stage().Perform(Undo);
+      Press("cmdExit");
+    });
+    Press(button);
   }
 
   void SmithTools() {

@@ -202,6 +202,28 @@ TEST_F(HistoryTest, KeystrokesInOneBoxAreOneStep) {
   EXPECT_EQ(record().Width, 4);
 }
 
+TEST_F(HistoryTest, StepsOfASpinControlAreStepsEachUnlessItSaysOtherwise) {
+  page.UpDown1.onUp = [this] { record().Order += 1; };
+  const auto stepsOfThree = [this] {
+    for (int i = 0; i < 3; ++i) Step(session, page.UpDown1, +1);
+    Click(session, page.optOne);
+    return Steps();
+  };
+  EXPECT_EQ(stepsOfThree(), 3);
+  page.UpDown1.oneAct = true;
+  EXPECT_EQ(stepsOfThree(), 1);
+  EXPECT_EQ(record().Order, 0);
+}
+
+TEST_F(HistoryTest, AnotherControlEndsTheActOfASpinControl) {
+  page.UpDown1.oneAct = true;
+  page.UpDown1.onUp = [this] { record().Order += 1; };
+  Step(session, page.UpDown1, +1);
+  Click(session, page.optOne);
+  Step(session, page.UpDown1, +1);
+  EXPECT_EQ(Steps(), 2);
+}
+
 TEST_F(HistoryTest, LeavingTheBoxEndsTheStep) {
   TypeText("ab");
   Leave(session, page.txtValue);
