@@ -17,6 +17,7 @@ namespace quilm {
 enum class PlotDress {
   Usual,
   WithoutTraces,  // frame, grid and scales alone
+  UnderCount,     // the top row is that of a count of trials
   UnderProgress,  // the rows above the frame, and some room to its left, are those of a run's progress
 };
 

@@ -60,14 +60,6 @@ void AddTraces(const PlotSetup& setup, const ResponseSpans& responses, AxisPlace
   }
 }
 
-void DrawSheetTitles(const PlotSetup& setup, Canvas& canvas) {
-  if (IsRectangular(setup.scales.PlotCode)) {
-    DrawTitles(setup, canvas);
-  } else {
-    PrintChartTitle(setup, canvas);
-  }
-}
-
 void ClearSheet(PlotSheet& sheet) {
   sheet.picture = Picture();
   sheet.live.Clear();

@@ -27,9 +27,6 @@ void ClearSheet(PlotSheet& sheet);
 // draws it.
 void ChoosePlot(Session& session, i16 code);
 
-// The titles of a plot once more, above its frame.
-void DrawSheetTitles(const PlotSetup& setup, Canvas& canvas);
-
 // Draws the present plot with the last sweep on the session's sheet, with what is shown of limits and markers and with
 // an entry of limits that is in progress, and takes the traces of a run away. Holds
 // LossBottom at -0.3 or below before. A failure is shown to the user; what was drawn until then stays.

@@ -44,7 +44,7 @@ const PlotTrace& TraceOf(const PlotKind& kind, const PlotAxis& axis) {
   return at == kind.traces.end() ? kind.traces.front() : *at;
 }
 
-// Where the titles stand: at the edges of the sheet, or below a run's progress just above the frame.
+// Where the titles stand.
 struct TitlePlace {
   f32 row;
   f32 left;
@@ -52,9 +52,17 @@ struct TitlePlace {
 };
 
 TitlePlace TitlePlaceOf(const PlotSetup& setup) {
-  constexpr f32 rowBelowProgress = 815;
-  if (setup.dress != PlotDress::UnderProgress) return {titleRow, leftTitleStart, rightTitleEnd};
-  return {rowBelowProgress, plotFrame.left, plotFrame.Right()};
+  constexpr f32 rowBelowCount = 680;
+  constexpr f32 rowBelowProgress = 800;
+  constexpr f32 besideTick = 60;
+  switch (setup.dress) {
+    case PlotDress::UnderCount:
+      return {rowBelowCount, leftTitleStart, rightTitleEnd};
+    case PlotDress::UnderProgress:
+      return {rowBelowProgress, plotFrame.left + besideTick, plotFrame.Right() - besideTick};
+    default:
+      return {titleRow, leftTitleStart, rightTitleEnd};
+  }
 }
 
 // A piece of the trace beside the title of its scale, where colours may not tell.
@@ -91,21 +99,15 @@ ScaleSide SideOf(const PlotKind& kind, const PlotAxis& axis) {
 
 void DrawScales(const PlotSetup& setup, const PlotKind& kind, Canvas& canvas) {
   for (const PlotAxis& axis : kind.axes) {
-    DrawScale(ScaleOf(setup.scales, axis.quantity), setup.scales.NrYints, SideOf(kind, axis), canvas);
+    const PlotTrace& trace = TraceOf(kind, axis);
+    const ScaleSide side = SideOf(kind, axis);
+    DrawScale(ScaleOf(setup.scales, axis.quantity), setup.scales.NrYints, side, canvas);
+    DrawTitle(setup, trace, axis.title, side, canvas);
+    if (kind.traces.size() > 1) DrawSample(setup, trace, side, canvas);
   }
-  DrawTitles(setup, canvas);
 }
 
 }  // namespace
-
-void DrawTitles(const PlotSetup& setup, Canvas& canvas) {
-  const PlotKind kind = KindOf(setup.scales);
-  for (const PlotAxis& axis : kind.axes) {
-    const PlotTrace& trace = TraceOf(kind, axis);
-    DrawTitle(setup, trace, axis.title, SideOf(kind, axis), canvas);
-    if (kind.traces.size() > 1) DrawSample(setup, trace, SideOf(kind, axis), canvas);
-  }
-}
 
 void DrawGridLines(const PlotSetup& setup, Canvas& canvas) {
   DrawHorizontalGrid(setup.scales.NrYints, canvas);

@@ -25,9 +25,6 @@ enum class ScaleSide { Left, Right };
 // The labels of a scale in `intervals` steps.
 void DrawScale(const ValueScale& scale, f32 intervals, ScaleSide side, Canvas& canvas);
 
-// The titles above the scales of a plot, each in the colour of its trace.
-void DrawTitles(const PlotSetup& setup, Canvas& canvas);
-
 // The horizontal and vertical lines of the grid with the frame, without labels: over traces that have hidden them.
 void DrawGridLines(const PlotSetup& setup, Canvas& canvas);
 

@@ -30,7 +30,7 @@ Phasor Transmission(const ResponseSpans& responses, std::size_t point);
 // Throws NumericFault when the reference is 0, the sweep has no width or the transmission's scale no height.
 void DrawChart(const PlotSetup& setup, const ResponseSpans& responses, AxisPlaces& places, Canvas& canvas);
 
-// The title of the chart, above it; there is no room for it beside the progress of a run.
+// The title of the chart, above it. There is no room for it beside the progress of a run.
 void PrintChartTitle(const PlotSetup& setup, Canvas& canvas);
 
 // Draws the traces alone, the round one and those of the corner, over what the canvas holds. Throws like DrawChart.

@@ -33,12 +33,16 @@ struct LimitEntry {
   std::optional<Click> first = {};
 };
 
+// Of a run's traces the last ones are kept for a window that changes its size: 250 trials of two traces over the
+// longest sweep, 8 MB.
+inline constexpr std::size_t keptRunPoints = std::size_t{1} << 20;
+
 struct PlotSheet {
-  Picture picture;        // the plot as it was last drawn as a whole, with what was added to it
-  LiveLayer live;         // the traces of a run over it, taken away when the plot is drawn anew
-  TraceColors colors;     // of the traces drawn next
-  LimitEntry limitEntry;  // ended by the choice of a plot
-  AxisPlaces places;      // of the frequencies drawn last
+  Picture picture;                // the plot as it was last drawn as a whole, with what was added to it
+  LiveLayer live{keptRunPoints};  // the traces of a run over it, taken away when the plot is drawn anew
+  TraceColors colors;             // of the traces drawn next
+  LimitEntry limitEntry;          // ended by the choice of a plot
+  AxisPlaces places;              // of the frequencies drawn last
 };
 
 }  // namespace quilm

@@ -65,6 +65,44 @@ TEST_F(ResponseCurve, HoldsThePointsUpToTheLast) {
   EXPECT_THROW(SpansOf(*responses, -1), BoundFault);
 }
 
+// The extremes stand in place of the responses, each quantity in its own.
+TEST_F(ResponseCurve, ExtremesAreThoseOfEachQuantity) {
+  Responses& r = *responses;
+  const ResponseArray Responses::*max[] = {&Responses::MaxTrans,   &Responses::MaxAngle, &Responses::MaxDelay,
+                                           &Responses::MaxReturn,  &Responses::MaxVSWR,  &Responses::MaxZin,
+                                           &Responses::MaxZinAngle};
+  const ResponseArray Responses::*min[] = {&Responses::MinTrans,   &Responses::MinAngle, &Responses::MinDelay,
+                                           &Responses::MinReturn,  &Responses::MinVSWR,  &Responses::MinZin,
+                                           &Responses::MinZinAngle};
+  const Quantity quantities[] = {Quantity::Transmission, Quantity::Angle, Quantity::Delay,   Quantity::Return,
+                                 Quantity::VSWR,         Quantity::Zin,   Quantity::ZinAngle};
+  std::vector<f32> relative;
+  const ResponseSpans highest = ExtremesOf(r, 9, ExtremeSelect::Max, PlotScales{}, relative);
+  const ResponseSpans lowest = ExtremesOf(r, 9, ExtremeSelect::Min, PlotScales{}, relative);
+  for (std::size_t k = 0; k < std::size(quantities); ++k) {
+    std::vector<f64> derived;
+    EXPECT_EQ(std::get<std::span<const f32>>(CurveOf(highest, quantities[k], derived).values).data(),
+              (r.*max[k]).data());
+    EXPECT_EQ(std::get<std::span<const f32>>(CurveOf(lowest, quantities[k], derived).values).data(),
+              (r.*min[k]).data());
+  }
+  EXPECT_EQ(highest.Count(), 10U);
+  EXPECT_EQ(ExtremesOf(r, 9, ExtremeSelect::None, PlotScales{}, relative).trans.data(), r.RespTrans.data());
+}
+
+TEST_F(ResponseCurve, RelativeExtremesLieBelowThePeak) {
+  responses->MaxTrans[3] = -4;
+  responses->MaxReturn[3] = -7;
+  responses->TransPeak = -1.5;
+  PlotScales scales;
+  scales.RelativeMode = 1;
+  std::vector<f32> relative;
+  const ResponseSpans highest = ExtremesOf(*responses, 9, ExtremeSelect::Max, scales, relative);
+  EXPECT_EQ(highest.trans[3], -2.5F);
+  EXPECT_EQ(highest.returnLoss[3], -7);
+  EXPECT_EQ(responses->MaxTrans[3], -4);
+}
+
 TEST(LastPoint, IsTheWholeNumberNearestToTheIntervals) {
   EXPECT_EQ(LastPoint(SweepSettings{1, 0, 1, 100}), 100);
   EXPECT_EQ(LastPoint(SweepSettings{1, 0, 1, 100.4F}), 100);

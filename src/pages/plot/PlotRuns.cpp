@@ -1,6 +1,5 @@
 #include "pages/plot/PlotRuns.h"
 
-#include <array>
 #include <utility>
 
 #include "analysis/modAnalysis.h"
@@ -8,10 +7,13 @@
 #include "core/NumberText.h"
 #include "core/Responses.h"
 #include "core/modGeneral.h"
+#include "display/LimitDrawing.h"
+#include "display/LimitEntry.h"
 #include "display/PlotKinds.h"
 #include "display/RunProgress.h"
 #include "display/SheetDrawing.h"
 #include "display/modPlot.h"
+#include "display/modSmith.h"
 #include "network/DesignStanding.h"
 #include "optimise/LimitScore.h"
 #include "optimise/MonteCarlo.h"
@@ -30,13 +32,8 @@ constexpr i16 extremeWidth = 2;  // pixels
 constexpr Color nominalColor = 0x119911;
 constexpr TraceColors extremeColors{0xFF1111, 0x1111FF};
 
-constexpr std::array<TraceColors, 7> trialColors = {{{0x780000, 0x000078},
-                                                     {0xA00000, 0x0000A0},
-                                                     {0xB90000, 0x0000B9},
-                                                     {0xDC0000, 0x0000DC},
-                                                     {0xFF0000, 0x0000FF},
-                                                     {0xFF3C3C, 0x3C3CFF},
-                                                     {0xFF6E6E, 0x6E6EFF}}};
+// The palest of the trials' colours is none for hundreds of them.
+TraceCycle TrialCycle() { return TraceCycle(TrialColors().first(7)); }
 
 // The traces that an optimiser run starts from and ends with. Those of the angle and of the delay change places with
 // the transmission, so that they stand apart from the trials.
@@ -55,8 +52,8 @@ std::string YieldText(const MonteCarlo& trials) {
   const std::string done = std::to_string(trials.TrialCount());
   if (!trials.HasLimits() || trials.TrialCount() == 0) return "Monte Carlo: " + done + " trials";
   const f32 percent = 100 * static_cast<f32>(trials.MetCount()) / static_cast<f32>(trials.TrialCount());
-  return "Yield: " + Trimmed(FormatValue(RoundedTo(percent, 1))) + "% (" + std::to_string(trials.MetCount()) + " of " +
-         done + " trials met all limit areas)";
+  return "Yield: " + ShortText(RoundedTo(percent, 1), LeadingZero::Keep) + "% (" + std::to_string(trials.MetCount()) +
+         " of " + done + " trials met all limit areas)";
 }
 
 std::string OutcomeText(const Optimiser& optimiser) {
@@ -68,7 +65,12 @@ std::string OutcomeText(const Optimiser& optimiser) {
 }  // namespace
 
 PlotRuns::PlotRuns(Session& session, Page& page, const Controls& controls, std::function<void(bool)> showTools)
-    : session_(session), record_(session.record), page_(page), controls_(controls), showTools_(std::move(showTools)) {
+    : session_(session),
+      record_(session.record),
+      page_(page),
+      controls_(controls),
+      showTools_(std::move(showTools)),
+      colors_(TrialCycle()) {
   controls.cmdOptimize.onClick = [this] { Optimize(); };
   controls.cmdMonteCarlo.onClick = [this] { SpreadParts(); };
   controls.cmdEnd.onClick = [this] { Stop(); };
@@ -94,6 +96,7 @@ void PlotRuns::Optimize() {
   OfferExtremes();
   record_.LimitsShown = 0;
   record_.MarkersShown = 0;
+  session_.plot.limitEntry = {};
   showTools_(false);
   if (LimitAreas(record_) < fewestAreas) {
     RefuseWithoutLimits();
@@ -107,11 +110,11 @@ void PlotRuns::RefuseWithoutLimits() {
   session_.platform.MessageBox("At least two limits areas must be entered.  Please enter limits.", Buttons::Ok,
                                Icon::Information, "");
   showTools_(true);
-  record_.LimitsShown = 1;
-  RedrawPlot(session_);
+  BeginLimitEntry(session_, LimitsWantedBy::Optimizer);
 }
 
 void PlotRuns::RunOptimizer() {
+  colors_ = TrialCycle();
   record_.LimitsShown = 1;
   session_.plot.colors = OptimizerColors(record_.PlotCode);
   RedrawPlot(session_, PlotDress::UnderProgress);
@@ -131,7 +134,7 @@ void PlotRuns::RunOptimizer() {
                    SettleByHand(record_);
                  }});
     mark = Walk(optimiser, run);
-    stopped = run.Stopped() || !mark.empty();
+    stopped = run.Stopped();
   }
   session_.note = OutcomeText(optimiser);
   EndOptimizer(stopped, mark);
@@ -139,7 +142,7 @@ void PlotRuns::RunOptimizer() {
 
 // Trials pile up over the plot, and its limit areas are filled again from time to time.
 std::string PlotRuns::Walk(Optimiser& optimiser, LongRun& run) {
-  RefreshPlot();
+  KeepGrid();
   std::string mark = optimiser.Start();
   int RedrawCount = 0;
   while (mark.empty() && optimiser.GoesOn()) {
@@ -159,15 +162,21 @@ std::string PlotRuns::Walk(Optimiser& optimiser, LongRun& run) {
 }
 
 // A run that ended by itself leaves the responses of its last trial on the plot, and the best values in the design,
-// until the next sweep. One that was stopped sweeps them.
+// until the next sweep. One that was stopped sweeps them. Where no sweep can be made no plot can be drawn.
 void PlotRuns::EndOptimizer(bool stopped, const std::string& mark) {
   controls_.plot.mark.Clear();
   session_.plot.limitEntry = {};
   showTools_(true);
-  if (!stopped) session_.plot.colors = OptimizerColors(record_.PlotCode);
-  if (stopped && mark.empty()) AnalyzeSweep(session_);
+  if (!mark.empty()) {
+    TellOfFailedSweep(session_, mark);
+    return;
+  }
+  if (stopped) {
+    AnalyzeSweep(session_);
+  } else {
+    session_.plot.colors = OptimizerColors(record_.PlotCode);
+  }
   RedrawPlot(session_);
-  if (!mark.empty()) TellOfFailedSweep(session_, mark);
 }
 
 void PlotRuns::SpreadParts() {
@@ -182,14 +191,15 @@ void PlotRuns::SpreadParts() {
 }
 
 void PlotRuns::RunMonteCarlo() {
+  colors_ = TrialCycle();
   wantsExtremes_ = false;
   record_.MarkersShown = 0;
   session_.plot.colors = {};
   session_.plot.limitEntry = {};
-  RedrawPlot(session_);
+  RedrawPlot(session_, PlotDress::UnderCount);
   showTools_(false);
   ClearTopRows(session_.plot.picture);
-  DrawSheetTitles(SetupOf(session_), session_.plot.picture);
+  if (!IsRectangular(record_.PlotCode)) PrintChartTitle(SetupOf(session_), session_.plot.picture);
   std::vector<Button*> stops = {&controls_.cmdEnd};
   if (CanShowExtremes(record_.PlotCode)) stops.push_back(&controls_.cmdExtremes);
   MonteCarlo trials(record_, session_.responses, session_.random);
@@ -208,7 +218,7 @@ void PlotRuns::RunMonteCarlo() {
 }
 
 std::string PlotRuns::Try(MonteCarlo& trials, LongRun& run) {
-  RefreshPlot();
+  KeepGrid();
   std::string mark;
   do {
     mark = trials.Trial();
@@ -224,16 +234,16 @@ void PlotRuns::EndMonteCarlo(const MonteCarlo& trials, const std::string& mark) 
   session_.plot.colors = {};
   controls_.plot.mark.Clear();
   DrawTrialCount(trials.TrialCount(), session_.plot.picture);
-  RefreshPlot();
+  if (IsRectangular(record_.PlotCode)) DrawGridLines(SetupOf(session_), session_.plot.live);
   showTools_(true);
-  if (mark.empty()) AnalyzeSweep(session_);
-  spread_ = Spread{record_, record_};
-  OfferExtremes();
   if (!mark.empty()) {
     TellOfFailedSweep(session_, mark);
-  } else if (wantsExtremes_) {
-    ShowExtremes();
+    return;
   }
+  AnalyzeSweep(session_);
+  spread_ = Spread{record_, record_};
+  OfferExtremes();
+  if (wantsExtremes_) ShowExtremes();
 }
 
 void PlotRuns::Stop() {
@@ -278,9 +288,8 @@ void PlotRuns::OfferExtremes() {
 }
 
 void PlotRuns::DrawTrial() {
-  ColorStep_ = ColorStep_ % static_cast<int>(trialColors.size()) + 1;
   PlotSheet& sheet = session_.plot;
-  sheet.colors = trialColors[static_cast<std::size_t>(ColorStep_ - 1)];
+  sheet.colors = colors_.Next();
   AddTraces(session_, LastResponses(session_), sheet.live);
   Picture& mark = controls_.plot.mark;
   mark.SetScale(sheet.picture.CurrentScale());
@@ -288,13 +297,18 @@ void PlotRuns::DrawTrial() {
   for (const PictureOp& line : grid_.Operations()) DrawOperation(line, mark);
 }
 
-// Draws the frame again over the traces, and keeps the lines of its grid for the mark.
-void PlotRuns::RefreshPlot() {
+// The lines of the grid, which the mark draws again over each trial.
+void PlotRuns::KeepGrid() {
   grid_.Clear();
+  if (IsRectangular(record_.PlotCode)) DrawGridLines(SetupOf(session_), grid_);
+}
+
+// Draws limit areas and grid again over the traces.
+void PlotRuns::RefreshPlot() {
   if (!IsRectangular(record_.PlotCode)) return;
   const PlotSetup setup = SetupOf(session_);
+  DrawLimitAreas(setup, session_.plot.live);
   DrawGridLines(setup, session_.plot.live);
-  DrawGridLines(setup, grid_);
 }
 
 }  // namespace quilm

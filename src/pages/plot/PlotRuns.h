@@ -7,6 +7,7 @@
 
 #include "core/Network.h"
 #include "core/Sweep.h"
+#include "display/TraceCycle.h"
 #include "shell/PlotSheet.h"
 
 namespace quilm {
@@ -61,6 +62,7 @@ class PlotRuns {
 
   void TellOfStepsizes(const std::string& who);
   void DrawTrial();
+  void KeepGrid();
   void RefreshPlot();
   bool HasExtremes() const;
 
@@ -70,7 +72,7 @@ class PlotRuns {
   Controls controls_;
   std::function<void(bool)> showTools_;
   bool wantsExtremes_ = false;  // the run in progress was stopped for them
-  int ColorStep_ = 0;           // of the last trial, 1..7
+  TraceCycle colors_;           // of the trials
   Picture grid_;                // its lines, drawn again over the traces
   std::optional<Spread> spread_;
 };

@@ -112,6 +112,7 @@ void frmPlotted::ShowTools(bool shown) {
                        &cmdTuneApass, &cmdOptimize, &cmdMonteCarlo, &cmdGetOverlay, &cmdSaveOverlay}) {
     tool->visible = shown;
   }
+  limitTools.Refresh();
   if (shown) {
     RefreshTools();
     cmdLimits.visible = IsRectangular(session_.record.PlotCode);
@@ -141,6 +142,7 @@ void frmPlotted::OpenTuning(PageId dialog) {
   const History::Tool tool(session_);
   session_.pages.ShowBeside(dialog, {&picPlot});
   RefreshTools();
+  runs_.OfferExtremes();
 }
 
 void frmPlotted::EnterStepsizes() {
