@@ -18,17 +18,38 @@ int LastPoint(const SweepSettings& sweep) {
   return static_cast<int>(std::nearbyint(std::clamp<f64>(intervals, 0, responseBound)));
 }
 
+// A response array with its extremes over the sweeps since the last Monte Carlo run began.
+struct Column {
+  const char* name;
+  ResponseArray Responses::*values;
+  const char* maxName = nullptr;
+  ResponseArray Responses::*max = nullptr;
+  const char* minName = nullptr;
+  ResponseArray Responses::*min = nullptr;
+};
+
+constexpr Column columns[] = {
+    {"RespFreq", &Responses::RespFreq},
+    {"RespTrans", &Responses::RespTrans, "MaxTrans", &Responses::MaxTrans, "MinTrans", &Responses::MinTrans},
+    {"RespAngle", &Responses::RespAngle, "MaxAngle", &Responses::MaxAngle, "MinAngle", &Responses::MinAngle},
+    {"RespDelay", &Responses::RespDelay, "MaxDelay", &Responses::MaxDelay, "MinDelay", &Responses::MinDelay},
+    {"RespPhase", &Responses::RespPhase},
+    {"RespReturn", &Responses::RespReturn, "MaxReturn", &Responses::MaxReturn, "MinReturn", &Responses::MinReturn},
+    {"RespVSWR", &Responses::RespVSWR, "MaxVSWR", &Responses::MaxVSWR, "MinVSWR", &Responses::MinVSWR},
+    {"RespZin", &Responses::RespZin, "MaxZin", &Responses::MaxZin, "MinZin", &Responses::MinZin},
+    {"RespZinAngle", &Responses::RespZinAngle, "MaxZinAngle", &Responses::MaxZinAngle, "MinZinAngle",
+     &Responses::MinZinAngle},
+};
+
 Json PointJson(const Responses& responses, int i) {
-  return {{"index", i},
-          {"RespFreq", NumberJson(responses.RespFreq[i])},
-          {"RespTrans", NumberJson(responses.RespTrans[i])},
-          {"RespAngle", NumberJson(responses.RespAngle[i])},
-          {"RespDelay", NumberJson(responses.RespDelay[i])},
-          {"RespPhase", NumberJson(responses.RespPhase[i])},
-          {"RespReturn", NumberJson(responses.RespReturn[i])},
-          {"RespVSWR", NumberJson(responses.RespVSWR[i])},
-          {"RespZin", NumberJson(responses.RespZin[i])},
-          {"RespZinAngle", NumberJson(responses.RespZinAngle[i])}};
+  Json point = {{"index", i}};
+  for (const Column& column : columns) {
+    point[column.name] = NumberJson((responses.*column.values)[i]);
+    if (column.max == nullptr) continue;
+    point[column.maxName] = NumberJson((responses.*column.max)[i]);
+    point[column.minName] = NumberJson((responses.*column.min)[i]);
+  }
+  return point;
 }
 
 }  // namespace

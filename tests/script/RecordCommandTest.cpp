@@ -109,10 +109,29 @@ TEST(ResponsesCommand, PrintsTheWholeSweep) {
   EXPECT_EQ(event["points"][4]["index"], 4);
   EXPECT_EQ(event["points"][4]["RespFreq"], 2e6);
   EXPECT_TRUE(event["points"][4]["RespVSWR"].is_null());
-  EXPECT_EQ(event["points"][4].size(), 10U);
+  EXPECT_EQ(event["points"][4].size(), 24U);
   EXPECT_EQ(event["TransPeak"], -0.25);
   EXPECT_EQ(event["TransPeakFreq"], 1.5e6);
   EXPECT_EQ(event["ResponsesValid"], 1);
+}
+
+TEST(ResponsesCommand, PrintsTheEnvelopeOfEachResponse) {
+  const Outcome outcome = RunText("responses 2", [](Session& session) {
+    Prepare(session);
+    Responses& r = session.responses;
+    f32 value = 0;
+    for (ResponseArray* array :
+         {&r.MaxTrans, &r.MinTrans, &r.MaxAngle, &r.MinAngle, &r.MaxDelay, &r.MinDelay, &r.MaxReturn, &r.MinReturn,
+          &r.MaxVSWR, &r.MinVSWR, &r.MaxZin, &r.MinZin, &r.MaxZinAngle, &r.MinZinAngle}) {
+      (*array)[2] = ++value;
+    }
+  });
+  const Json point = outcome.One("responses")["points"][0];
+  int value = 0;
+  for (const char* name : {"MaxTrans", "MinTrans", "MaxAngle", "MinAngle", "MaxDelay", "MinDelay", "MaxReturn",
+                           "MinReturn", "MaxVSWR", "MinVSWR", "MaxZin", "MinZin", "MaxZinAngle", "MinZinAngle"}) {
+    EXPECT_EQ(point[name], ++value) << name;
+  }
 }
 
 TEST(ResponsesCommand, PrintsThePointsAskedInTheirOrder) {
