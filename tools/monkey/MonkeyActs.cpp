@@ -1,6 +1,7 @@
 #include "monkey/MonkeyActs.h"
 
 #include <array>
+#include <utility>
 #include <vector>
 
 #include "script/Commands.h"
@@ -50,6 +51,7 @@ bool LeavesTheProgram(const std::string& name) { return name.find("Exit") != std
 int MonkeyActs::Below(int count) { return static_cast<int>(random_() % static_cast<unsigned>(count)); }
 
 std::string MonkeyActs::Next(ScriptRun& run) {
+  if (!planned_.empty()) return std::exchange(planned_, {});
   if (undid_ && CanRedo(run.session) && !OneIn(3)) {
     undid_ = false;
     return "redo";
@@ -67,6 +69,7 @@ std::string MonkeyActs::Next(ScriptRun& run) {
   }
   if (kind >= 61 && kind < 63) act = LookAtSomething();
   if (kind == 63) act = "close";
+  if (kind == 64) act = StopRun(run);
   return act.empty() ? Press(run) : act;
 }
 
@@ -139,6 +142,18 @@ std::string MonkeyActs::PressArea(ScriptRun& run) {
 std::string MonkeyActs::LookAtSomething() {
   constexpr std::array commands{"page", "record", "responses 0", "canvas", "picture a.svg"};
   return Any(commands);
+}
+
+// A long run that one of its stop buttons ends at some trial: the press of that button first, then that of the run's
+// own.
+std::string MonkeyActs::StopRun(ScriptRun& run) {
+  std::vector<std::string> runs;
+  for (const Button* button : Usable<Button>(run)) {
+    if (button->name == "cmdOptimize" || button->name == "cmdMonteCarlo") runs.push_back(button->name);
+  }
+  if (runs.empty()) return {};
+  planned_ = "press " + Any(runs);
+  return "at-yield " + std::to_string(1 + Below(100)) + (OneIn(2) ? " press cmdEnd" : " press cmdExtremes");
 }
 
 std::string MonkeyActs::Answer(Asks what) {

@@ -37,10 +37,12 @@ class MonkeyActs {
   std::string MouseOnPicture(ScriptRun& run);
   std::string PressArea(ScriptRun& run);
   std::string LookAtSomething();
+  std::string StopRun(ScriptRun& run);
   std::string Number();
 
   std::mt19937 random_;
   bool undid_ = false;
+  std::string planned_;  // the next act, made together with the last one
 };
 
 }  // namespace quilm
