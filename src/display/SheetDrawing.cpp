@@ -65,6 +65,7 @@ void ClearSheet(PlotSheet& sheet) {
   sheet.live.Clear();
   sheet.colors = {};
   sheet.limitEntry = {};
+  sheet.overlays.slots.clear();
 }
 
 void ChoosePlot(Session& session, i16 code) {
@@ -77,6 +78,7 @@ void ChoosePlot(Session& session, i16 code) {
 void RedrawPlot(Session& session, PlotDress dress) {
   PlotSheet& sheet = session.plot;
   sheet.live.Clear();
+  sheet.overlays.slots.clear();
   try {
     HoldLossBottom(session.record);
     const ResponseSpans responses = SpansOf(session.responses, LastPoint(session.record));

@@ -133,15 +133,17 @@ void DrawScale(const ValueScale& scale, f32 intervals, ScaleSide side, Canvas& c
 i16 TraceWidth(const PlotScales& scales) { return std::max<i16>(scales.PlotLineWidth, 1); }
 
 void DrawTraces(const PlotSetup& setup, const ResponseSpans& responses, AxisPlaces& places, Canvas& canvas) {
+  for (const PlotTrace& trace : KindOf(setup.scales).traces) DrawTrace(setup, trace, responses, places, canvas);
+}
+
+void DrawTrace(const PlotSetup& setup, const PlotTrace& trace, const ResponseSpans& responses, AxisPlaces& places,
+               Canvas& canvas) {
   const PenScope pen(canvas);
   canvas.DrawWidth = TraceWidth(setup.scales);
-  const PlotPlane plane{setup.axis, places};
+  canvas.DrawStyle = StyleOf(trace);
   std::vector<f64> derived;
-  for (const PlotTrace& trace : KindOf(setup.scales).traces) {
-    canvas.DrawStyle = StyleOf(trace);
-    DrawCurve(CurveOf(responses, trace.quantity, derived), ScaleOf(setup.scales, trace.quantity), ColorOf(setup, trace),
-              plane, canvas);
-  }
+  DrawCurve(CurveOf(responses, trace.quantity, derived), ScaleOf(setup.scales, trace.quantity), ColorOf(setup, trace),
+            {setup.axis, places}, canvas);
 }
 
 std::vector<Point> TracePoints(const PlotSetup& setup, const ResponseSpans& responses, std::size_t i) {

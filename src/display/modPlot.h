@@ -16,6 +16,10 @@ void DrawPlot(const PlotSetup& setup, const ResponseSpans& responses, AxisPlaces
 // Draws the traces alone, over what the canvas holds. Throws like DrawPlot.
 void DrawTraces(const PlotSetup& setup, const ResponseSpans& responses, AxisPlaces& places, Canvas& canvas);
 
+// Draws one of them from its curve alone: of the responses no more is used than its quantity needs.
+void DrawTrace(const PlotSetup& setup, const PlotTrace& trace, const ResponseSpans& responses, AxisPlaces& places,
+               Canvas& canvas);
+
 // Where sweep point i of the responses stands on each trace, in drawing order. Throws like DrawPlot.
 std::vector<Point> TracePoints(const PlotSetup& setup, const ResponseSpans& responses, std::size_t i);
 

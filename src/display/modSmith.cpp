@@ -64,14 +64,6 @@ Point ChartPoint(const PlotSetup& setup, const ResponseSpans& responses, const C
   return point;
 }
 
-void DrawRoundTrace(const PlotSetup& setup, const ResponseSpans& responses, Canvas& canvas) {
-  const PenScope pen(canvas);
-  canvas.DrawWidth = TraceWidth(setup.scales);
-  const ChartScale scale = ScaleFor(setup);
-  BoxedPath path(canvas, BoundsOf(setup), setup.colors.TraceColor1);
-  for (std::size_t i = 0; i < responses.Count(); ++i) path.To(ChartPoint(setup, responses, scale, i));
-}
-
 // All reflections of one VSWR. Of a VSWR of 1 it is a point at the centre.
 void DrawVSWRCircle(const ChartScale& scale, f32 vswr, Canvas& canvas) {
   const f64 ratio = vswr;
@@ -166,6 +158,14 @@ void PrintChartTitle(const PlotSetup& setup, Canvas& canvas) {
   canvas.FontSize = titleSize;
   const std::string title = IsSmith(setup) ? "S11" : "S21";
   PrintOnPatch(canvas, chartCenter.x - canvas.TextWidth(title) / 2, chartTitleRow, title);
+}
+
+void DrawRoundTrace(const PlotSetup& setup, const ResponseSpans& responses, Canvas& canvas) {
+  const PenScope pen(canvas);
+  canvas.DrawWidth = TraceWidth(setup.scales);
+  const ChartScale scale = ScaleFor(setup);
+  BoxedPath path(canvas, BoundsOf(setup), setup.colors.TraceColor1);
+  for (std::size_t i = 0; i < responses.Count(); ++i) path.To(ChartPoint(setup, responses, scale, i));
 }
 
 void DrawChart(const PlotSetup& setup, const ResponseSpans& responses, AxisPlaces& places, Canvas& canvas) {

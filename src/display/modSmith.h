@@ -36,6 +36,10 @@ void PrintChartTitle(const PlotSetup& setup, Canvas& canvas);
 // Draws the traces alone, the round one and those of the corner, over what the canvas holds. Throws like DrawChart.
 void DrawChartTraces(const PlotSetup& setup, const ResponseSpans& responses, AxisPlaces& places, Canvas& canvas);
 
+// The round one alone: of the responses no more is used than the frequencies and the two that it is made of, impedance
+// with its angle, or transmission with its. Throws NumericFault when the reference of the Smith chart is 0.
+void DrawRoundTrace(const PlotSetup& setup, const ResponseSpans& responses, Canvas& canvas);
+
 // Where a point of the responses stands on the chart's traces, the round one first. A point that lies outside the
 // chart's bounds is left out, as the trace leaves it out. Throws like DrawChart.
 std::vector<Point> ChartPoints(const PlotSetup& setup, const ResponseSpans& responses, std::size_t point);

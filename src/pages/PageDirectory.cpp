@@ -19,6 +19,7 @@
 #include "pages/plot/frmEditLimits.h"
 #include "pages/plot/frmLimits.h"
 #include "pages/plot/frmMarker.h"
+#include "pages/plot/frmOverlayLists.h"
 #include "pages/plot/frmMonteCarloSetup.h"
 #include "pages/plot/frmPlotted.h"
 #include "pages/plot/frmTuneApass.h"
@@ -62,6 +63,8 @@ PageDirectory AllPages() {
       {PageId::Marker, Make<frmMarker>},
       {PageId::ManualEntry, Make<frmManualEntry>},
       {PageId::ManualEntryOptions, Make<frmManualEntryOptions>},
+      {PageId::OverlaySaveList, Make<frmOverlaySaveList>},
+      {PageId::OverlayGetList, Make<frmOverlayGetList>},
       {PageId::Exit, Make<frmExit>},
       {PageId::ChangeTitle, Make<frmChangeTitle>},
       {PageId::AddInfo, Make<frmAddInfo>},

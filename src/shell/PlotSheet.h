@@ -7,6 +7,7 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "core/AxisPlaces.h"
 #include "shell/LiveLayer.h"
@@ -33,6 +34,12 @@ struct LimitEntry {
   std::optional<Click> first = {};
 };
 
+// What lies over the plot of earlier responses (files/modOverlays.h).
+struct Overlays {
+  i16 OverlayShown = 0;    // 1 from the first one that is fetched until all are hidden
+  std::vector<int> slots;  // those that the picture shows, in the order in which they were fetched
+};
+
 // Of a run's traces the last ones are kept for a window that changes its size: 250 trials of two traces over the
 // longest sweep, 8 MB.
 inline constexpr std::size_t keptRunPoints = std::size_t{1} << 20;
@@ -42,6 +49,7 @@ struct PlotSheet {
   LiveLayer live{keptRunPoints};  // the traces of a run over it, taken away when the plot is drawn anew
   TraceColors colors;             // of the traces drawn next
   LimitEntry limitEntry;          // ended by the choice of a plot
+  Overlays overlays;              // a plot that is drawn anew has none
   AxisPlaces places;              // of the frequencies drawn last
 };
 

@@ -135,6 +135,22 @@ TEST_F(LimitsPage, TheEleventhClickHidesTheShapes) {
   EXPECT_TRUE(Get<PictureBox>("picPlot").mark.Empty());
 }
 
+// The optimizer, which needs two areas, asks for them, and the plot takes clicks at once.
+TEST_F(LimitsPage, TheOptimizerAsksForAreas) {
+  session.record.stage[1].Cval.tolerance = 5;
+  Press("cmd3");
+  Press("cmdOptimize");
+  EXPECT_EQ(MessageTexts(),
+            std::vector<std::string>{"At least two limits areas must be entered.  Please enter limits."});
+  EXPECT_EQ(session.plot.limitEntry.LimitEntryPlot, 3);
+  EXPECT_EQ(session.plot.limitEntry.prompt, "Enter angle limits");
+  EXPECT_EQ(Limits().LimitsShown, 1);
+  EXPECT_TRUE(Seen("cmdLimit1"));
+  Press("cmdLimit1");
+  ClickAt(6500, 2000);
+  EXPECT_EQ(Limits().LimitCount[3], 1);
+}
+
 class WithAreas : public LimitsPage {
  protected:
   WithAreas() {

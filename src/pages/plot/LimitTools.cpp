@@ -5,6 +5,7 @@
 #include "core/LimitArea.h"
 #include "display/LimitDrawing.h"
 #include "display/LimitEntry.h"
+#include "shell/History.h"
 #include "shell/Session.h"
 
 namespace quilm {
@@ -61,5 +62,10 @@ Layout LimitTools::MakeLayout() {
 }
 
 void OpenLimits(Session& session) { session.pages.ShowBeside(PageId::Limits); }
+
+void OpenMarkers(Session& session) {
+  const History::Tool tool(session);  // each change can be taken back while the page is open
+  session.pages.ShowBeside(PageId::Marker);
+}
 
 }  // namespace quilm

@@ -32,7 +32,8 @@ class LimitTools {
   PictureBox& plot_;
 };
 
-// Opens the Limits page beside the plot.
+// Open the Limits and the Markers page beside the plot.
 void OpenLimits(Session& session);
+void OpenMarkers(Session& session);
 
 }  // namespace quilm

@@ -6,7 +6,6 @@
 #include "core/DesignRecord.h"
 #include "core/modGeneral.h"
 #include "display/SheetDrawing.h"
-#include "shell/History.h"
 #include "shell/Session.h"
 
 namespace quilm {
@@ -73,11 +72,6 @@ Layout frmMarker::MakeLayout() {
   for (const Marker& marker : markers_) rows.push_back({Put(*marker.label), Put(*marker.box)});
   return Column({Form(std::move(rows)),
                  Grid(1, {Put(cmdMarkerOn), Put(cmdMarkerHide), Put(cmdMarkerErase), Put(cmdExit)}), Space()});
-}
-
-void OpenMarkers(Session& session) {
-  const History::Tool tool(session);  // each change can be taken back while the page is open
-  session.pages.ShowBeside(PageId::Marker);
 }
 
 }  // namespace quilm

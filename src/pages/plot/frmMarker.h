@@ -35,7 +35,4 @@ class frmMarker : public Page {
   std::array<Marker, markerCount> markers_;
 };
 
-// Opens it beside the plot.
-void OpenMarkers(Session& session);
-
 }  // namespace quilm

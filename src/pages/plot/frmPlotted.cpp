@@ -10,7 +10,6 @@
 #include "display/SheetDrawing.h"
 #include "files/modReadQuilmFiles.h"
 #include "files/modWriteQuilmFile.h"
-#include "pages/plot/frmMarker.h"
 #include "schematic/Icons.h"
 #include "shell/History.h"
 #include "shell/Session.h"
@@ -56,9 +55,8 @@ frmPlotted::frmPlotted(Session& session)
   cmdTuneWidth.onClick = [this] { OpenTuning(PageId::TuneWidthCenter); };
   cmdTuneApass.onClick = [this] { OpenTuning(PageId::TuneApass); };
   cmdStepSize.onClick = [this] { EnterStepsizes(); };
-  for (Button* tool : {&cmdGetOverlay, &cmdSaveOverlay}) {
-    tool->enabled = false;
-  }
+  cmdGetOverlay.onClick = [this] { session_.pages.ShowBeside(PageId::OverlayGetList); };
+  cmdSaveOverlay.onClick = [this] { session_.pages.ShowBeside(PageId::OverlaySaveList); };
   for (Button* tool : {&cmdAutoScale, &cmdFitSweep, &cmdLimits, &cmdMarkers, &cmdStepSize, &cmdTunePart, &cmdTuneWidth,
                        &cmdTuneApass, &cmdOptimize, &cmdMonteCarlo, &cmdGetOverlay, &cmdSaveOverlay}) {
     tool->role = ButtonRole::Tool;
