@@ -65,7 +65,7 @@ void ClearSheet(PlotSheet& sheet) {
   sheet.live.Clear();
   sheet.colors = {};
   sheet.limitEntry = {};
-  sheet.overlays.slots.clear();
+  sheet.overlays.fetched.clear();
 }
 
 void ChoosePlot(Session& session, i16 code) {
@@ -78,7 +78,7 @@ void ChoosePlot(Session& session, i16 code) {
 void RedrawPlot(Session& session, PlotDress dress) {
   PlotSheet& sheet = session.plot;
   sheet.live.Clear();
-  sheet.overlays.slots.clear();
+  sheet.overlays.fetched.clear();
   try {
     HoldLossBottom(session.record);
     const ResponseSpans responses = SpansOf(session.responses, LastPoint(session.record));

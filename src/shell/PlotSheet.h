@@ -36,8 +36,8 @@ struct LimitEntry {
 
 // What lies over the plot of earlier responses (files/modOverlays.h).
 struct Overlays {
-  i16 OverlayShown = 0;    // 1 from the first one that is fetched until all are hidden
-  std::vector<int> slots;  // those that the picture shows, in the order in which they were fetched
+  i16 OverlayShown = 0;      // 1 from the first one that is fetched until all are hidden
+  std::vector<int> fetched;  // those that the picture shows, in the order in which they were fetched
 };
 
 // Of a run's traces the last ones are kept for a window that changes its size: 250 trials of two traces over the

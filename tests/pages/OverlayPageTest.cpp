@@ -93,7 +93,7 @@ TEST_F(Overlays, GetDrawsOverThePresentPlotOnAllTwelve) {
     Fetch(1);
     EXPECT_EQ(Traces(), before + traces) << button;
     EXPECT_EQ(session.plot.overlays.OverlayShown, 1);
-    EXPECT_EQ(session.plot.overlays.slots, std::vector<int>{1});
+    EXPECT_EQ(session.plot.overlays.fetched, std::vector<int>{1});
   }
 }
 
@@ -103,9 +103,9 @@ TEST_F(Overlays, ThoseFetchedAreRememberedUntilThePlotIsDrawnAnew) {
   Fetch(10);
   Fetch(1);
   Fetch(10);
-  EXPECT_EQ(session.plot.overlays.slots, (std::vector<int>{10, 1}));
+  EXPECT_EQ(session.plot.overlays.fetched, (std::vector<int>{10, 1}));
   Press("cmd2");
-  EXPECT_TRUE(session.plot.overlays.slots.empty());
+  EXPECT_TRUE(session.plot.overlays.fetched.empty());
   EXPECT_EQ(session.plot.overlays.OverlayShown, 1);
 }
 
@@ -140,7 +140,7 @@ TEST_F(Overlays, AMissingFileIsToldAndNothingIsDrawn) {
   EXPECT_EQ(platform.messages[0].text, "Files enabling 'Get overlay 2' have not been written.");
   EXPECT_EQ(platform.messages[0].title, "Overlay 262");
   EXPECT_EQ(session.plot.picture, plain);
-  EXPECT_TRUE(session.plot.overlays.slots.empty());
+  EXPECT_TRUE(session.plot.overlays.fetched.empty());
   Press("cmd1");
   Fetch(2);  // the transmission alone needs no more
   EXPECT_EQ(platform.messages.size(), 1U);
