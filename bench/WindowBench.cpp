@@ -12,6 +12,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QEventLoop>
 #include <QKeyEvent>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -160,28 +161,32 @@ class TuningWindow {
   void With(const std::function<void()>& act) {
     QTimer::singleShot(0, &desktop_.window, [this, &act] {
       Type(*Find("txtPercentageValue"), "1");
+      AwaitFrame();
       act();
       Press("cmdExit");
     });
     Press("cmdTunePart");
   }
 
-  // From the key to the pixels: the handler, the sweep, the new curves and readings painted.
+  // From the key to the pixels: the handler, the sweep, the new curves and readings painted. The frame before must be
+  // over, since a view paints once a frame at most.
   void Step(Qt::Key key) {
     QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier);
     QApplication::sendEvent(Find("UpDown1"), &press);
-    Plot().repaint();
     QApplication::processEvents();
   }
 
   void Press(const char* name) { qobject_cast<QAbstractButton*>(Find(name))->click(); }
 
+  static void AwaitFrame() {
+    constexpr int frame = 20;
+    QEventLoop loop;
+    QTimer::singleShot(frame, &loop, &QEventLoop::quit);
+    loop.exec();
+  }
+
  private:
   QWidget* Find(const char* name) { return desktop_.TopView()->Find(QString::fromLatin1(name)); }
-  PictureView& Plot() {
-    const Page* page = desktop_.session.pages.Find(PageId::Plotted);
-    return *desktop_.platform.Stage().ViewOf(*page)->findChild<PictureView*>(QStringLiteral("picPlot"));
-  }
   static void Type(QWidget& box, const char* text) {
     box.setFocus();
     QKeyEvent press(QEvent::KeyPress, 0, Qt::NoModifier, QString::fromLatin1(text));
@@ -199,10 +204,9 @@ void TuningStep(benchmark::State& state) {
     int steps = 0;
     for (auto _ : state) {
       window.Step(steps % 2 == 0 ? Qt::Key_Up : Qt::Key_Down);
-      if (++steps % untilCleared != 0) continue;
       state.PauseTiming();
-      window.Press("cmdClear");
-      QApplication::processEvents();
+      if (++steps % untilCleared == 0) window.Press("cmdClear");
+      window.AwaitFrame();
       state.ResumeTiming();
     }
   });

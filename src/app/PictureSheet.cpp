@@ -36,6 +36,7 @@ bool PictureSheet::Take(const Picture& picture, const LiveLayer& live, const Pic
   const bool drawn = TakeDrawing(picture.Drawing(), picture.Operations().size(), picture_, pictureTaken_);
   const bool tried = TakeDrawing(live.Drawing(), live.Present().Drawn(), live_, liveTaken_);
   const bool marked = TakeDrawing(mark.Drawing(), mark.Operations().size(), mark_, markTaken_);
+  if (other || drawn || marked || !layerStands_) allChanged_ = true;
   return other || drawn || tried || marked;
 }
 
@@ -45,6 +46,7 @@ void PictureSheet::SetPaper(QSize size, f64 density) {
   density_ = density;
   sheetStands_ = false;
   layerStands_ = false;
+  allChanged_ = true;
 }
 
 // An image that is there already is used again: the system hands out fresh memory page by page.
@@ -83,8 +85,31 @@ void PictureSheet::CatchUpWithLive() {
   QtCanvas canvas(painter, surface);
   canvas.SetScale(scale_);
   for (; livePainted_ < live_->Drawn(); ++livePainted_) {
-    DrawOperation(live_->kept[livePainted_ - live_->dropped], canvas);
+    const PictureOp& operation = live_->kept[livePainted_ - live_->dropped];
+    DrawOperation(operation, canvas);
+    liveChange_ |= BoundsOf(operation);
   }
+}
+
+// Of traces, with the half of a pen and a pixel of softened edge around them; of all else the whole paper.
+QRectF PictureSheet::BoundsOf(const PictureOp& operation) const {
+  const auto* trace = std::get_if<PolylineOp>(&operation);
+  if (trace == nullptr || trace->points.empty()) return {QPointF(0, 0), size_};
+  const auto [left, right] = std::ranges::minmax(trace->points, {}, &Point::x);
+  const auto [top, bottom] = std::ranges::minmax(trace->points, {}, &Point::y);
+  const auto at = [this](f32 x, f32 y) {
+    return QPointF(static_cast<f64>((x - scale_.left) / scale_.width) * size_.width(),
+                   static_cast<f64>((y - scale_.top) / scale_.height) * size_.height());
+  };
+  const f64 margin = trace->pen.width + 1;
+  return QRectF(at(left.x, top.y), at(right.x, bottom.y)).adjusted(-margin, -margin, margin, margin);
+}
+
+QRectF PictureSheet::TakeChange() {
+  const QRectF change = allChanged_ ? QRectF(QPointF(0, 0), size_) : liveChange_;
+  allChanged_ = false;
+  liveChange_ = {};
+  return change;
 }
 
 void PictureSheet::Paint(QPainter& painter, QPointF corner) {

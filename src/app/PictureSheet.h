@@ -31,6 +31,10 @@ class PictureSheet {
   // Paints what is new of the live layer now, before it can be dropped. Nothing before there is paper.
   void CatchUpWithLive();
 
+  // What has to be painted anew since this was asked last, in the painter's units from the paper's corner: the part of
+  // the live layer that new traces lie in, when nothing else has changed.
+  QRectF TakeChange();
+
   // Paints everything with the paper's upper left corner at a place of a widget.
   void Paint(QPainter& painter, QPointF corner);
 
@@ -41,6 +45,7 @@ class PictureSheet {
   void MakeBlank(QImage& image, QImage::Format format, const QColor& color) const;
   void CatchUpWithPicture();
   void PaintMark(QPainter& painter, QPointF corner) const;
+  QRectF BoundsOf(const PictureOp& operation) const;
 
   Surface SurfaceOf(const QRectF& target) const;
 
@@ -64,6 +69,8 @@ class PictureSheet {
   QImage layer_;  // the live layer up to operation livePainted_
   bool layerStands_ = false;
   std::size_t livePainted_ = 0;
+  bool allChanged_ = true;
+  QRectF liveChange_;
 };
 
 }  // namespace quilm

@@ -46,7 +46,7 @@ PictureView::PictureView(QWidget* parent) : QWidget(parent) {
   setMouseTracking(true);
   setAttribute(Qt::WA_OpaquePaintEvent, false);
   nextFrame_.setSingleShot(true);
-  connect(&nextFrame_, &QTimer::timeout, this, [this] { update(); });
+  connect(&nextFrame_, &QTimer::timeout, this, [this] { update(changed_); });
 }
 
 QSize PictureView::sizeHint() const {
@@ -66,14 +66,15 @@ void PictureView::Show(const Picture& picture, const LiveLayer& live, const Pict
     RefreshPaper();
     sheet_.CatchUpWithLive();
   }
-  RequestRepaint();
+  RequestRepaint(sheet_.TakeChange().translated(Paper().topLeft()).toAlignedRect());
 }
 
 // A run shows its trials as fast as they come; nobody sees more of them than the screen has frames.
-void PictureView::RequestRepaint() {
+void PictureView::RequestRepaint(const QRect& changed) {
+  changed_ |= changed;
   const qint64 elapsed = sincePaint_.isValid() ? sincePaint_.elapsed() : frameMilliseconds;
   if (elapsed >= frameMilliseconds) {
-    update();
+    update(changed_);
   } else if (!nextFrame_.isActive()) {
     nextFrame_.start(static_cast<int>(frameMilliseconds - elapsed));
   }
@@ -95,6 +96,7 @@ void PictureView::RefreshPaper() { sheet_.SetPaper(Paper().size().toSize(), devi
 void PictureView::paintEvent(QPaintEvent* /*event*/) {
   nextFrame_.stop();
   sincePaint_.start();
+  changed_ = {};
   RefreshPaper();
   QPainter painter(this);
   sheet_.Paint(painter, Paper().topLeft());

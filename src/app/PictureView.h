@@ -50,12 +50,13 @@ class PictureView : public QWidget {
  private:
   QImage Render() const;
   void RefreshPaper();
-  void RequestRepaint();
+  void RequestRepaint(const QRect& changed);
   bool Pass(MouseAct act, QMouseEvent* event);
   void ReleaseForMenu(QPointF place);
 
   PictureSheet sheet_;
   QElapsedTimer sincePaint_;
+  QRect changed_;  // since the last frame
   QTimer nextFrame_;
   bool leftDown_ = false;  // the page was told
   bool rightDown_ = false;

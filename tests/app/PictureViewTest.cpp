@@ -311,10 +311,12 @@ TEST_F(PictureViewOfASquare, ACopyHasTheTracesOfTrials) {
 class CountingView : public PictureView {
  public:
   int paints = 0;
+  QRect painted;  // by the last one
 
  protected:
   void paintEvent(QPaintEvent* event) override {
     ++paints;
+    painted = event->rect();
     PictureView::paintEvent(event);
   }
 };
@@ -395,6 +397,36 @@ TEST_F(PictureViewOfASquare, ShowingTheSameAgainRepaintsNothing) {
   counting.Show(picture, live, mark);
   QTest::qWait(40);
   EXPECT_EQ(counting.paints, 0);
+}
+
+// At a hundredth of the scale the trace lies from (26, 16) to (52, 32), and a mark is painted with all that is below
+// it.
+TEST(PictureViewInARun, ANewTraceHasItsPartPaintedAlone) {
+  CountingView counting;
+  counting.resize(260, 160);
+  const Picture picture(Scale{0, 0, 13000, 8000});
+  LiveLayer live;
+  Picture mark;
+  counting.Show(picture, live, mark);
+  counting.show();
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(&counting));
+  const auto painted = [&] {
+    counting.painted = {};
+    counting.Show(picture, live, mark);
+    QTest::qWait(40);
+    return counting.painted;
+  };
+  live.Line(100, 100, 200, 200, colorRed);
+  EXPECT_EQ(painted(), counting.rect());
+  live.Line(1300, 800, 2600, 1600, colorRed);
+  const QRect part = painted();
+  EXPECT_TRUE(part.contains(QRect(25, 15, 29, 19))) << part.left() << " " << part.top();
+  EXPECT_LT(part.width(), 36);
+  EXPECT_LT(part.height(), 26);
+  live.Line(5200, 800, 6500, 1600, colorRed);
+  EXPECT_GT(painted().left(), 90);
+  mark.PSet(1, 1, colorRed);
+  EXPECT_EQ(painted(), counting.rect());
 }
 
 TEST_F(PictureViewOfASquare, CopyPutsItOnTheClipboard) {

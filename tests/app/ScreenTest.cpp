@@ -66,6 +66,18 @@ TEST_F(OnTheScreen, AReadoutGoesWithTheButton) {
   EXPECT_TRUE(ComesToLook("picPlot", before));
 }
 
+// Each is painted where it lies alone, and what is seen is what a repaint of all shows.
+TEST_F(OnTheScreen, TracesThatComeOneByOneAreSeenWhole) {
+  for (int i = 0; i < 5; ++i) {
+    const auto x = static_cast<f32>(2500 + 1600 * i);
+    PlotBox().live.DrawWidth = static_cast<i16>(1 + i);
+    PlotBox().live.Line(x, 6500, x + 1500, 1500, i % 2 == 0 ? colorRed : colorBlue);
+    desktop_.platform.Stage().Sync();
+    const QImage seen = Seen("picPlot");
+    EXPECT_EQ(seen, Plot().grab().toImage().convertToFormat(QImage::Format_RGB32)) << i;
+  }
+}
+
 TEST_F(OnTheScreen, TracesOfTrialsAppearAndGo) {
   const QImage before = Seen("picPlot");
   PlotBox().live.Line(2500, 6500, 10500, 1500, colorBlack);
