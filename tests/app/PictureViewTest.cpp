@@ -413,7 +413,7 @@ TEST(PictureViewInARun, ANewTraceHasItsPartPaintedAlone) {
   const auto painted = [&] {
     counting.painted = {};
     counting.Show(picture, live, mark);
-    QTest::qWait(40);
+    EXPECT_TRUE(QTest::qWaitFor([&counting] { return !counting.painted.isEmpty(); }));
     return counting.painted;
   };
   live.Line(100, 100, 200, 200, colorRed);
