@@ -90,8 +90,8 @@ void GetOverlay(Session& session, int slot) {
   }
   DrawOverlay(SetupOf(session), curves, session.plot.picture);
   session.plot.overlays.OverlayShown = 1;
-  std::vector<int>& slots = session.plot.overlays.fetched;
-  if (std::find(slots.begin(), slots.end(), slot) == slots.end()) slots.push_back(slot);
+  std::vector<int>& fetched = session.plot.overlays.fetched;
+  if (std::find(fetched.begin(), fetched.end(), slot) == fetched.end()) fetched.push_back(slot);
   session.note = "Overlay " + std::to_string(slot);
   if (unread > 0) session.note += ": " + std::to_string(unread) + " lines that cannot be read are left out";
 }

@@ -10,8 +10,8 @@ namespace quilm {
 frmOverlaySaveList::frmOverlaySaveList(Session& session) : Page(session, PageId::OverlaySaveList, "Save overlays") {
   for (int slot = 1; slot <= overlaySlots; ++slot) {
     const std::string number = std::to_string(slot);
-    slots.push_back(std::make_unique<Button>(*this, "cmdSave" + number, "Save " + number));
-    slots.back()->onClick = [this, slot] {
+    saveButtons.push_back(std::make_unique<Button>(*this, "cmdSave" + number, "Save " + number));
+    saveButtons.back()->onClick = [this, slot] {
       SaveOverlay(session_, slot);
       session_.pages.UnloadPage(Id());
     };
@@ -22,17 +22,17 @@ frmOverlaySaveList::frmOverlaySaveList(Session& session) : Page(session, PageId:
 
 void frmOverlaySaveList::Load() {
   int slot = 0;
-  for (const auto& button : slots) {
+  for (const auto& button : saveButtons) {
     const bool used = HasOverlay(session_, ++slot);
     button->caption = "Save " + std::to_string(slot) + (used ? " (in use)" : " (empty)");
     button->toolTip = used ? "Save the responses over what is kept here" : "Save the responses here";
   }
-  SetFocus(*slots.front());
+  SetFocus(*saveButtons.front());
 }
 
 Layout frmOverlaySaveList::MakeLayout() {
   std::vector<Layout> buttons;
-  for (const auto& button : slots) buttons.push_back(Put(*button));
+  for (const auto& button : saveButtons) buttons.push_back(Put(*button));
   buttons.push_back(Put(cmdExit));
   return Column({Grid(1, std::move(buttons)), Space()});
 }

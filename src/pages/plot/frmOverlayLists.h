@@ -14,7 +14,7 @@ class frmOverlaySaveList : public Page {
   void Load() override;
   Layout MakeLayout() override;
 
-  std::vector<std::unique_ptr<Button>> slots;  // cmdSave1 to cmdSave10
+  std::vector<std::unique_ptr<Button>> saveButtons;  // cmdSave1 to cmdSave10
   Button cmdExit{*this, "cmdExit", "Return to Plot page", "Save nothing"};
 };
 
