@@ -11,6 +11,7 @@
 #include <QTemporaryDir>
 #include <QTimer>
 #include <cstdio>
+#include <functional>
 
 #include "app/Desktop.h"
 #include "app/Palettes.h"
@@ -155,6 +156,9 @@ class Walk {
     Tuning("cmdTunePart", "tune-part");
     Tuning("cmdTuneWidth", "tune-width");
     Tuning("cmdTuneApass", "tune-ripple");
+    Limits();
+    Overlays();
+    Markers();
   }
 
   // A dialog beside the plot after a few steps, which are taken back.
@@ -241,6 +245,83 @@ class Walk {
     Save("manual-part");
     Press("cmdAccept");
     Save("manual-parts");
+  }
+
+  // A tool that stands beside the plot is used from a timer.
+  void Beside(const char* button, const std::function<void()>& act) {
+    QTimer::singleShot(0, qApp, act);
+    Press(button);
+  }
+
+  void PlotMouse(f32 x, f32 y) {
+    auto& box = dynamic_cast<PictureBox&>(*desktop_.session.pages.Top()->Find("picPlot"));
+    desktop_.platform.Stage().Perform([&](Session& session) {
+      Mouse(session, box, MouseAct::Move, x, y, MouseButton::Left);
+      Mouse(session, box, MouseAct::Down, x, y, MouseButton::Left);
+      Mouse(session, box, MouseAct::Up, x, y, MouseButton::Left);
+    });
+    Settle();
+  }
+
+  void Limits() {
+    Press("cmd1");
+    Beside("cmdLimits", [this] {
+      Save("limits");
+      Press("cmdEnter");
+    });
+    Press("cmdLimit1");
+    PlotMouse(7900, 1200);
+    Press("cmdLimit2");
+    PlotMouse(9000, 5000);
+    Press("cmdLimit9");
+    PlotMouse(8400, 2600);
+    Press("cmdLimit6");
+    PlotMouse(3000, 4000);
+    PlotMouse(5000, 3000);
+    Save("limits-entry");
+    constexpr int milliseconds = 100;
+    QTimer::singleShot(milliseconds, qApp, [this] {
+      QWidget* front = desktop_.platform.Stage().FrontWindow();
+      desktop_.platform.Stage().Perform([&](Session& session) {
+        Choose(session, dynamic_cast<ListBox&>(*session.pages.Top()->Find("lstSelect")), 4);
+      });
+      Settle();
+      front->grab().save(folder_ + QStringLiteral("/limits-edit.png"));
+      front->close();
+    });
+    Beside("cmdLimits", [this] { Press("cmdLimitsEdit"); });
+  }
+
+  void Overlays() {
+    Beside("cmdSaveOverlay", [this] {
+      Save("overlays-save");
+      Press("cmdSave3");
+    });
+    Beside("cmdGetOverlay", [this] {
+      Save("overlays-get");
+      Press("cmdGet3");
+    });
+    Save("overlay");
+  }
+
+  void Markers() {
+    Press("cmd2");
+    Beside("cmdMarkers", [this] {
+      Type("txtMarkerFrequency1", "500k");
+      Type("txtMarkerFrequency2", "1M");
+      Type("txtMarkerFrequency3", "1.3M");
+      Type("txtMarkerFrequency4", "20M");
+      Press("cmdMarkerOn");
+      Save("markers");
+      Press("cmdExit");
+    });
+    Save("plot-markers");
+    if (Press("cmd11")) Save("plot-smith-markers");
+    Beside("cmdMarkers", [this] {
+      Press("cmdMarkerErase");
+      Press("cmdExit");
+    });
+    Press("cmd1");
   }
 
   void Visit(const char* button, const char* name) {

@@ -99,6 +99,11 @@ void ListView::ShowValues() {
   showing_ = true;
   const int scrolled = widget_->verticalScrollBar()->value();
   lines_->Show(list_.items);
+  // Such lines say little without their ends.
+  if (list_.fixedPitch) {
+    widget_->setMinimumWidth(widget_->sizeHintForColumn(0) + widget_->verticalScrollBar()->sizeHint().width() +
+                             2 * widget_->frameWidth());
+  }
   if (list_.mostRows > 0) FitRows();
   widget_->verticalScrollBar()->setValue(scrolled);
   // What the user has marked in a table is the user's alone.

@@ -32,10 +32,15 @@ void FillArea(const Corners& at, Canvas& canvas) {
   canvas.Rectangle(from.x, from.y, to.x, to.y, limitFill, true);
 }
 
-void OutlineArea(const Corners& at, Canvas& canvas) {
+// Of an area without width, or without height, a line is seen everywhere; a flat box is not.
+void OutlineArea(const Corners& at, i16 width, Canvas& canvas) {
   const auto& [from, to] = at;
-  canvas.DrawWidth = outlineWidth;
-  canvas.Rectangle(from.x, from.y, to.x, to.y, limitOutline, false);
+  canvas.DrawWidth = width;
+  if (from.x == to.x || from.y == to.y) {
+    canvas.Line(from.x, from.y, to.x, to.y, limitOutline);
+  } else {
+    canvas.Rectangle(from.x, from.y, to.x, to.y, limitOutline, false);
+  }
 }
 
 // A point has no room to be filled.
@@ -62,7 +67,7 @@ void DrawAreas(const PlotSetup& setup, Filled filled, Canvas& canvas) {
       continue;
     }
     if (filled == Filled::Yes) FillArea(corners, canvas);
-    OutlineArea(corners, canvas);
+    OutlineArea(corners, outlineWidth, canvas);
   }
 }
 
@@ -93,58 +98,66 @@ void DrawLimitOutlines(const PlotSetup& setup, Canvas& canvas) { DrawAreas(setup
 
 namespace {
 
-constexpr f32 signWidth = 500;
-constexpr f32 signHeight = 400;
-constexpr f32 signEdge = 20;
-constexpr Point signMiddle{signWidth / 2, signHeight / 2};
-
-// From left to right.
+// From left to right, as parts of the width.
 std::pair<f32, f32> SignReach(LimitReach reach) {
-  constexpr f32 halfBand = 100;
   switch (reach) {
     case LimitReach::FromDC:
-      return {signEdge, signMiddle.x};
+      return {0, 0.5F};
     case LimitReach::Upward:
-      return {signMiddle.x, signWidth - signEdge};
+      return {0.5F, 1};
     case LimitReach::Band:
-      return {signMiddle.x - halfBand, signMiddle.x + halfBand};
+      return {0.3F, 0.7F};
     case LimitReach::Single:
       break;
   }
-  return {signMiddle.x, signMiddle.x};
+  return {0.5F, 0.5F};
 }
 
-// From top to bottom.
+// From top to bottom, as parts of the height.
 std::pair<f32, f32> SignSide(LimitSide side) {
   switch (side) {
     case LimitSide::Floor:
-      return {signMiddle.y, signHeight - signEdge};
+      return {0.5F, 1};
     case LimitSide::Ceiling:
-      return {signEdge, signMiddle.y};
+      return {0, 0.5F};
     case LimitSide::Point:
       break;
   }
-  return {signMiddle.y, signMiddle.y};
+  return {0.5F, 0.5F};
 }
 
 }  // namespace
 
-Picture LimitShapePicture(int shape) {
+void DrawLimitShape(int shape, const PlotBox& box, Canvas& canvas) {
   constexpr Color frame = 0x999999;
-  constexpr f32 dot = 30;
+  constexpr f32 edge = 0.05F;  // of width and height
+  constexpr f32 dot = 0.07F;
+  const PenScope pen(canvas);
   const LimitShapeRow& row = ShapeOf(static_cast<f32>(shape));
+  const PlotBox inner{box.left + edge * box.width, box.top + edge * box.height, (1 - 2 * edge) * box.width,
+                      (1 - 2 * edge) * box.height};
+  const auto place = [&inner](f32 x, f32 y) {
+    return Point{inner.left + x * inner.width, inner.top + y * inner.height};
+  };
   const auto [left, right] = SignReach(row.reach);
   const auto [top, bottom] = SignSide(row.side);
-  Picture picture(Scale{0, 0, signWidth, signHeight});
-  picture.Rectangle(signEdge, signEdge, signWidth - signEdge, signHeight - signEdge, frame, false);
+  canvas.Rectangle(inner.left, inner.top, inner.Right(), inner.Bottom(), frame, false);
   if (row.side == LimitSide::Point) {
-    picture.DrawWidth = 2;
-    picture.Rectangle(left - dot, top - dot, right + dot, bottom + dot, colorRed, false);
-    return picture;
+    const Point from = place(left - dot, top - dot);
+    const Point to = place(right + dot, bottom + dot);
+    canvas.DrawWidth = 2;
+    canvas.Rectangle(from.x, from.y, to.x, to.y, colorRed, false);
+    return;
   }
-  picture.Rectangle(left, top, right, bottom, limitFill, true);
-  picture.DrawWidth = 2;
-  picture.Rectangle(left, top, right, bottom, limitOutline, false);
+  const Corners corners{place(left, top), place(right, bottom)};
+  FillArea(corners, canvas);
+  OutlineArea(corners, 2, canvas);
+}
+
+Picture LimitShapePicture(int shape) {
+  constexpr PlotBox whole{0, 0, 500, 400};
+  Picture picture(Scale{whole.left, whole.top, whole.width, whole.height});
+  DrawLimitShape(shape, whole, picture);
   return picture;
 }
 

@@ -30,7 +30,8 @@ void DrawLimitAreas(const PlotSetup& setup, Canvas& canvas);
 // The same without the filling: areas that are about to be.
 void DrawLimitOutlines(const PlotSetup& setup, Canvas& canvas);
 
-// What a shape 1..9 looks like, in a frame of 500 by 400 units.
+// Draws what a shape 1..9 looks like into a box of the canvas; as a picture of 500 by 400 units.
+void DrawLimitShape(int shape, const PlotBox& box, Canvas& canvas);
 Picture LimitShapePicture(int shape);
 
 // What it forbids: "Floor from DC".

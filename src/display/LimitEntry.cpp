@@ -91,7 +91,7 @@ void DrawCell(int shape, bool chosen, Canvas& canvas) {
   canvas.ShowOn = Medium::Screen;
   const PlotBox cell = LimitCell(shape);
   canvas.Rectangle(cell.left, cell.top, cell.Right(), cell.Bottom(), chosen ? chosenPaper : colorWhite, true);
-  LimitShapePicture(shape).ReplayInto(canvas, {cell.left, cell.top}, {cell.Right(), cell.Bottom()});
+  DrawLimitShape(shape, cell, canvas);
   canvas.Rectangle(cell.left, cell.top, cell.Right(), cell.Bottom(), chosen ? chosenEdge : edge, false);
 }
 

@@ -77,6 +77,19 @@ TEST_F(LimitAreas, APointIsABoxAboutItsPlace) {
   ExpectBox(boxes[0], 6470, 3970, 6530, 4030);
 }
 
+// A flat box has no picture on every surface.
+TEST_F(LimitAreas, ASingleFrequencyIsALine) {
+  setup.areas = {{7, 1e5F, 1e5F, -30, -300}};
+  Picture picture(plotScale);
+  DrawLimitAreas(setup, picture);
+  const auto* line = std::get_if<PolylineOp>(&picture.Operations().back());
+  ASSERT_NE(line, nullptr);
+  EXPECT_EQ(line->pen.color, 0x0000CCU);
+  EXPECT_EQ(line->pen.width, 3);
+  EXPECT_NEAR(line->points[0].y, 4000, 1);
+  EXPECT_NEAR(line->points[1].y, 7000, 1);
+}
+
 TEST_F(LimitAreas, ThePenIsPutBack) {
   setup.areas = {{5, 1e4F, 1e5F, -10, -20}, {9, 1e5F, 1e5F, -30, -30}};
   Picture picture(plotScale);

@@ -13,6 +13,12 @@
 namespace quilm {
 namespace {
 
+Medium MediumOf(const PictureOp& operation) {
+  if (const auto* text = std::get_if<TextOp>(&operation)) return text->showOn;
+  if (const auto* line = std::get_if<PolylineOp>(&operation)) return line->pen.showOn;
+  return std::get<RectangleOp>(operation).pen.showOn;
+}
+
 // A linear sweep of 9 intervals from 1 MHz to 10 MHz: 1 MHz for each 900 units of the frame.
 class LimitEntryTest : public testing::Test {
  protected:
@@ -189,6 +195,19 @@ TEST_F(LimitEntryTest, ThePointerSaysFrequencyAndValue) {
   mark.Clear();
   DrawLimitPointer(session, 1500, 4000, mark);
   EXPECT_TRUE(mark.Empty());
+}
+
+// Copies and prints show the plot alone.
+TEST_F(LimitEntryTest, PromptAndPaletteAreOnTheScreenAlone) {
+  RedrawPlot(session);
+  const std::size_t plain = session.plot.picture.Operations().size();
+  Begin(1);
+  ChooseLimitShape(session, 5);
+  const auto& operations = session.plot.picture.Operations();
+  ASSERT_GT(operations.size(), plain + 9);
+  for (std::size_t i = plain; i < operations.size(); ++i) {
+    EXPECT_EQ(MediumOf(operations[i]), Medium::Screen) << i;
+  }
 }
 
 TEST_F(LimitEntryTest, TheCellsOfThePaletteHaveTheirPlaces) {

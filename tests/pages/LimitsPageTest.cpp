@@ -91,6 +91,7 @@ TEST_F(LimitsPage, TheReadoutComesBackAfterwards) {
   Mouse(session, plot, MouseAct::Move, 5000, 3000, MouseButton::Left);
   EXPECT_FALSE(plot.mark.Empty());
   Press("cmd1");
+  EXPECT_TRUE(plot.mark.Empty());
   Mouse(session, plot, MouseAct::Move, 5000, 3000, MouseButton::Left);
   EXPECT_EQ(Limits().LimitCount[1], 0);
   Mouse(session, plot, MouseAct::Down, 5000, 3000, MouseButton::Left);

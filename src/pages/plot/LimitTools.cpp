@@ -46,6 +46,8 @@ HitAreas LimitTools::PaletteAreas() {
 
 void LimitTools::Refresh() {
   const bool entering = EntersLimits(session_);
+  if (entering_ && !entering) plot_.mark.Clear();  // what the pointer said
+  entering_ = entering;
   lblLimitShapes.visible = entering;
   for (std::size_t i = 0; i < shapeButtons.size(); ++i) {
     shapeButtons[i]->visible = entering;

@@ -30,6 +30,7 @@ class LimitTools {
 
   Session& session_;
   PictureBox& plot_;
+  bool entering_ = false;  // what was shown last
 };
 
 // Open the Limits and the Markers page beside the plot.
