@@ -142,7 +142,9 @@ f32 PrintWrapped(Canvas& canvas, f32 y, std::string_view text) {
   while (!rest.empty()) {
     const std::size_t blank = std::min(rest.find(' '), rest.size());
     const std::string word = rest.substr(0, blank);
-    const std::string longer = line.empty() ? word : line + " " + word;
+    std::string longer = line;
+    if (!longer.empty()) longer += ' ';
+    longer += word;
     if (!line.empty() && canvas.TextWidth(longer) > viewRight - viewLeft) {
       canvas.PrintAt(viewLeft, y, line);
       y += textPitch;

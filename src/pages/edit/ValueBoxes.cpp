@@ -46,7 +46,7 @@ f32 ParsedText(const std::string& text) {
   return value;
 }
 
-ValueBoxes::ValueBoxes(Page& page, const BoxCaptions& captions, std::function<void()> onTaken) {
+ValueBoxes::ValueBoxes(Page& page, const BoxCaptions& captions, const std::function<void()>& onTaken) {
   for (std::size_t i = 0; i < valueBoxCount; ++i) {
     const std::string caption = captions[i];
     labels_[i] = std::make_unique<Label>(page, std::string("lbl") + names[i], caption);

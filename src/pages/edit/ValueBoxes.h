@@ -47,7 +47,7 @@ class ValueBoxes {
  public:
   // Binds the boxes among the page's entries, to values of their own: a part changes when it is accepted. `onTaken`
   // runs after each keystroke.
-  ValueBoxes(Page& page, const BoxCaptions& captions, std::function<void()> onTaken = {});
+  ValueBoxes(Page& page, const BoxCaptions& captions, const std::function<void()>& onTaken = {});
   ValueBoxes(const ValueBoxes&) = delete;
   ValueBoxes& operator=(const ValueBoxes&) = delete;
 
