@@ -3,24 +3,25 @@
 //
 //   xvfb-run -a --server-args="-screen 0 1920x1200x24" build/bench/bin/bench-run
 
+// Before the toolkit's headers, which make a macro of "slots".
+#include "NgspiceAnalysis.h"
+#include "TrialLadder.h"
+
 #include <unistd.h>
 
 #include <QApplication>
 #include <QTemporaryDir>
+#include <QTimer>
 #include <chrono>
 #include <cstdio>
 #include <fstream>
 
-#include "NgspiceAnalysis.h"
-#include "TrialLadder.h"
 #include "app/Desktop.h"
 #include "desk/StartUp.h"
 #include "pages/PageDirectory.h"
 #include "shell/Acts.h"
 #include "shell/LongRun.h"
 #include "shell/Page.h"
-
-#include <QTimer>
 
 namespace {
 

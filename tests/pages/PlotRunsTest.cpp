@@ -273,6 +273,7 @@ TEST_F(OptimizerRun, ADesignThatMeetsAllAreasNeedsNoTrialAndIsByHandAllTheSame) 
   const DesignRecord before = Record();
   Press("cmdOptimize");
   EXPECT_EQ(yields, 0);
+  EXPECT_EQ(session.note, "The response lies within all limit areas already");
   for (int s = 1; s <= Record().Stages; ++s) EXPECT_EQ(Record().stage[s], before.stage[s]);
   EXPECT_EQ(Record().Family, familyManual);
   EXPECT_EQ(Record().NetworkEdited, 1);

@@ -66,6 +66,25 @@ class LongRunTest : public testing::Test {
         [this](Session& owner) { return std::make_unique<DemoRunPage>(owner, PageId::Schematic, log); }}}};
 };
 
+// For a program that ends in the middle of it, and in whatever way it ends itself.
+TEST_F(LongRunTest, PutsTheDesignBackWhenAskedAndAtItsEnd) {
+  int calls = 0;
+  const auto run = [&](bool fails) {
+    LongRun running(session, Page(),
+                    {.name = "Run", .steps = 3, .stops = {&Page().cmdEnd}, .putBack = [&] { ++calls; }});
+    running.Step();
+    EXPECT_EQ(calls, 0);
+    session.run->PutBack();
+    EXPECT_EQ(calls, 1);
+    if (fails) throw Fault("fails");
+  };
+  run(false);
+  EXPECT_EQ(calls, 2);
+  calls = 0;
+  EXPECT_THROW(run(true), Fault);
+  EXPECT_EQ(calls, 2);
+}
+
 TEST_F(LongRunTest, TakesAllItsStepsAndYieldsAtEach) {
   Start();
   EXPECT_EQ(log.trials, log.most);

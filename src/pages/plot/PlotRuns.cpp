@@ -57,6 +57,7 @@ std::string YieldText(const MonteCarlo& trials) {
 }
 
 std::string OutcomeText(const Optimiser& optimiser) {
+  if (optimiser.TrialCount() == 0) return "The response lies within all limit areas already";
   return "Error " + Trimmed(FormatValue(optimiser.StartError())) + " before, " +
          Trimmed(FormatValue(optimiser.BestError())) + " now, after " + std::to_string(optimiser.TrialCount()) +
          " trials";
