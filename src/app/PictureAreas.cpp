@@ -80,7 +80,7 @@ bool PictureAreas::MoveTo(std::optional<std::size_t> index) {
 }
 
 void PictureAreas::WalkTo(std::optional<std::size_t> index) {
-  if (MoveTo(index) && areas_[*index].walked) Press(*index);
+  if (index && MoveTo(index) && areas_[*index].walked) Press(*index);
 }
 
 // The first area (+1) or the last (-1); within a walk, its own.

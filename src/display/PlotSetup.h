@@ -25,9 +25,9 @@ struct PlotSetup {
   HorizontalAxis axis;
   PlotScales scales;  // with the code of the plot
   TraceColors colors;
-  SmithView chart;                          // of the charts alone
-  f32 reference = 0;                        // ohms, of the charts' input reflection
-  std::string title = {};                   // of the design, for paper
+  SmithView chart;         // of the charts alone
+  f32 reference = 0;       // ohms, of the charts' input reflection
+  std::string title = {};  // of the design, for paper
   PlotDress dress = PlotDress::Usual;
   std::vector<LimitArea> areas = {};        // that the plot shows
   std::vector<MarkerReading> markers = {};  // that it tells of

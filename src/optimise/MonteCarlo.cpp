@@ -32,7 +32,7 @@ std::string MonteCarlo::Trial() {
 }
 
 void MonteCarlo::Compare() {
-  if (!score_) score_.emplace(record_, record_.DelayTop, SweptFrequencies(responses_));
+  if (!score_) score_ = std::make_unique<LimitScore>(record_, record_.DelayTop, SweptFrequencies(responses_));
   if (score_->IsMet(responses_)) ++MetCount_;
 }
 

@@ -1,7 +1,7 @@
 // Tries a network with its parts spread over their tolerances.
 #pragma once
 
-#include <optional>
+#include <memory>
 #include <string>
 
 #include "core/RecordFwd.h"
@@ -42,7 +42,7 @@ class MonteCarlo {
   Responses& responses_;
   UniformNumbers& random_;
   BestParts best_;
-  std::optional<LimitScore> score_;  // while limits are shown, from the first sweep on
+  std::unique_ptr<LimitScore> score_;  // while limits are shown, from the first sweep on
   i16 TrialCount_ = 0;
   i16 MetCount_ = 0;
 };

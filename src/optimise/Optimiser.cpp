@@ -24,7 +24,7 @@ Optimiser::Optimiser(DesignRecord& record, Responses& responses, UniformNumbers&
 std::string Optimiser::Start() {
   std::string mark = SweepLadder(record_, responses_);
   if (!mark.empty()) return mark;
-  score_.emplace(record_, record_.DelayTop, SweptFrequencies(responses_));
+  score_ = std::make_unique<LimitScore>(record_, record_.DelayTop, SweptFrequencies(responses_));
   ErrorSum_ = BestError_ = StartError_ = score_->GetError(responses_);
   return {};
 }

@@ -1,7 +1,7 @@
 // Pulls a network towards the limit areas by a random walk about the best values so far.
 #pragma once
 
-#include <optional>
+#include <memory>
 #include <string>
 
 #include "core/RecordFwd.h"
@@ -51,7 +51,7 @@ class Optimiser {
   Responses& responses_;
   UniformNumbers& random_;
   BestParts best_;
-  std::optional<LimitScore> score_;  // from the first sweep on
+  std::unique_ptr<LimitScore> score_;  // from the first sweep on
   f32 ErrorSum_ = 0;
   f32 BestError_ = 0;
   f32 StartError_ = 0;

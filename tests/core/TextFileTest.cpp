@@ -141,8 +141,8 @@ TEST_F(TextFile, OnAFullFileSystemTheOldFileStaysAndTheReasonIsTold) {
     if (!mounted && setrlimit(RLIMIT_FSIZE, &limit) != 0) return false;
     const bool first = static_cast<bool>(WriteTextFile(Path(), "old"));
     const WriteOutcome second = WriteTextFile(Path(), longText);
-    const bool told = second.failure ==
-                      (mounted ? "the disk is full" : "the file would grow beyond the limit set for this user");
+    const bool told =
+        second.failure == (mounted ? "the disk is full" : "the file would grow beyond the limit set for this user");
     const bool kept = Read(Path()) == "old" && Names().size() == 1;
     // There is room again for what fits.
     return first && told && kept && WriteTextFile(Path(), "new");

@@ -209,7 +209,7 @@ TEST_F(Overlays, AnotherSweepLandsOnTheRightFrequencies) {
   Fetch(1);
   const auto& line = std::get<PolylineOp>(session.plot.picture.Operations().back());
   ASSERT_EQ(line.points.size(), 202U);
-  EXPECT_NEAR(line.points[51].x, 8750, 1);  // point 50, 1 MHz
+  EXPECT_NEAR(line.points[51].x, 8750, 1);   // point 50, 1 MHz
   EXPECT_NEAR(line.points[51].y, 1301, 15);  // 3.01 dB of 60, and what the losses add
 }
 

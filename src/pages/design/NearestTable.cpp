@@ -10,11 +10,11 @@ namespace quilm {
 namespace {
 
 // Where the columns begin, in characters of the line.
-constexpr std::size_t originalC = 11;
-constexpr std::size_t nearestC = 22;
-constexpr std::size_t originalL = 32;
-constexpr std::size_t nearestL = 44;
-constexpr std::size_t resonance = 53;
+constexpr std::size_t startOfC = 11;
+constexpr std::size_t startOfNearestC = 22;
+constexpr std::size_t startOfL = 32;
+constexpr std::size_t startOfNearestL = 44;
+constexpr std::size_t startOfResonance = 53;
 
 constexpr const char* blankCell = "     ";
 
@@ -38,11 +38,11 @@ std::vector<std::string> NearestTable(const Network& network, const NearestParts
     const f32 C = network.stage[s].Cval.value;
     const f32 L = network.stage[s].Lval.value;
     std::string line = std::string(blankCell) + (s < 10 ? "   " : "  ") + std::to_string(s);
-    Place(line, originalC, FormatCapacitance(C));
-    Place(line, nearestC, FormatCapacitance(nearest.NearestC[s]));
-    Place(line, originalL, FormatInductance(L));
-    Place(line, nearestL, FormatInductance(nearest.NearestL[s]));
-    Place(line, resonance, ResonanceText(C, L));
+    Place(line, startOfC, FormatCapacitance(C));
+    Place(line, startOfNearestC, FormatCapacitance(nearest.NearestC[s]));
+    Place(line, startOfL, FormatInductance(L));
+    Place(line, startOfNearestL, FormatInductance(nearest.NearestL[s]));
+    Place(line, startOfResonance, ResonanceText(C, L));
     lines.push_back(line);
   }
   return lines;

@@ -26,7 +26,7 @@ TunePage::TunePage(Session& session, PageId id, std::string heading, std::string
   cancelButton = &cmdExit_;
 }
 
-void TunePage::Connect(Spin& spin, std::function<void(StepWay)> step) {
+void TunePage::Connect(Spin& spin, const std::function<void(StepWay)>& step) {
   spin.oneAct = spin.large = true;
   spin.onUp = [step] { step(StepWay::Up); };
   spin.onDown = [step] { step(StepWay::Down); };

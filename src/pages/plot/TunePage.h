@@ -26,7 +26,7 @@ class TunePage : public Page {
            std::span<const TraceColors> colors);
 
   // Makes a spin control step: its acts in a row are one to undo.
-  void Connect(Spin& spin, std::function<void(StepWay)> step);
+  void Connect(Spin& spin, const std::function<void(StepWay)>& step);
 
   // Takes the box into the step and holds it at 0.01 to 100; TakeStep shows it there, too.
   void HoldStep();
