@@ -8,6 +8,7 @@
 #include <string>
 
 #include "display/OverlayCurves.h"
+#include "display/PlotFrame.h"
 #include "files/OverlayFile.h"
 #include "shell/Picture.h"
 
