@@ -175,8 +175,13 @@ void PageStage::Close() {
 }
 
 // A press can still be on its way when a dialog opens; the handler that waits for its answer knows of no other act.
+// What was typed in that moment is taken out of its box again.
 void PageStage::Perform(const std::function<void(Session&)>& act) {
-  if (waiting_ == 0) Do(act);
+  if (waiting_ == 0) {
+    Do(act);
+  } else {
+    Sync();
+  }
 }
 
 void PageStage::Do(const std::function<void(Session&)>& act) {

@@ -2,6 +2,7 @@
 // tenth of a second before it acts, in which a hand can open a menu or another page.
 #include <QDialog>
 #include <QElapsedTimer>
+#include <QLineEdit>
 #include <QTimer>
 
 #include "app/RealEvents.h"
@@ -35,6 +36,23 @@ TEST_F(QuickHands, AMenuThatOpensWhileAKeyLeavesThePageGoesWithIt) {
     ClickOn("cmdPlot");
     ASSERT_EQ(Top().Id(), PageId::Plotted);
   }
+}
+
+TEST_F(QuickHands, WhatIsTypedAsAMessageOpensStaysOutOfItsBox) {
+  DesignLowpass();
+  auto& box = dynamic_cast<QLineEdit&>(*Find("txtBandwidth"));
+  const QString before = box.text();
+  bool typed = false;
+  QTimer::singleShot(100, qApp, [&] {
+    QTest::sendKeyEvent(QTest::Press, &box, Qt::Key_7, QStringLiteral("7"), {});
+    typed = true;
+    EXPECT_EQ(box.text(), before);
+    OpenDialog()->accept();
+  });
+  desktop_.platform.Stage().Perform(
+      [](Session& session) { session.platform.MessageBox("Wait", Buttons::Ok, Icon::Information, ""); });
+  EXPECT_TRUE(typed);
+  EXPECT_EQ(box.text(), before);
 }
 
 TEST_F(QuickHands, AModalPageThatIsAskedForTwiceOpensOnce) {
