@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractButton>
+#include <QGuiApplication>
 #include <QProcess>
 #include <QStringList>
 #include <QTest>
@@ -15,6 +16,7 @@ namespace quilm {
 // Sends what xdotool's words say, one quickly after the other, and lets the events run.
 inline void Send(const QStringList& words) {
   constexpr int milliseconds = 10000;
+  ASSERT_EQ(QGuiApplication::platformName(), QStringLiteral("xcb")) << "xdotool knows no window but those of a display";
   QProcess tool;
   tool.setProcessChannelMode(QProcess::ForwardedChannels);
   tool.start(QStringLiteral("xdotool"), words);
