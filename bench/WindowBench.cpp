@@ -22,6 +22,7 @@
 
 #include "analysis/modAnalysis.h"
 #include "app/Desktop.h"
+#include "app/PictureSheet.h"
 #include "app/PictureView.h"
 #include "core/Responses.h"
 #include "display/HorizontalAxis.h"
@@ -47,7 +48,8 @@ struct ScreenSize {
   int height;
 };
 
-constexpr ScreenSize screens[] = {{1, 1280, 860}, {1, 1920, 1080}, {1, 3840, 2160}, {2, 1920, 1080}, {2, 3840, 2160}};
+constexpr ScreenSize screens[] = {{1, 1280, 860},  {1, 1920, 1080}, {1, 3840, 2160},
+                                  {2, 1920, 1080}, {2, 2560, 1720}, {2, 3840, 2160}};
 
 DesignRecord Ladder(int stages) {
   std::mt19937 random(1);
@@ -120,6 +122,21 @@ void Trial(benchmark::State& state) {
     }
     plot.DrawTrial(plot.live);
     plot.Show();
+  }
+}
+
+// What a trial of a run adds by itself: its trace painted into the layer that is kept, whoever shows it.
+void TrialTrace(benchmark::State& state) {
+  const auto scale = static_cast<int>(state.range(0));
+  Plot plot(state);
+  PictureSheet sheet;
+  sheet.SetPaper(QSize(static_cast<int>(state.range(1)), static_cast<int>(state.range(2))) / scale, scale);
+  for (auto _ : state) {
+    state.PauseTiming();
+    plot.DrawTrial(plot.live);
+    sheet.Take(plot.picture, plot.live, plot.mark);
+    state.ResumeTiming();
+    sheet.CatchUpWithLive();
   }
 }
 
@@ -234,6 +251,8 @@ void Register(const ScreenSize& screen) {
   add("TuningStep", TuningStep, {}, {});
   add("PlainSweep", PlainSweep, {}, {});
   for (const int pen : {1, 2}) add("TwoTraces", TwoTraces, {"pen"}, {pen});
+  constexpr int traces = 1000;
+  add("TrialTrace", TrialTrace, {}, {})->Iterations(traces);
   constexpr int trials = 50;
   for (const int before : {0, 99, 1999}) add("Trial", Trial, {"before"}, {before})->Iterations(trials);
 }

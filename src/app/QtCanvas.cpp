@@ -4,6 +4,7 @@
 #include <QPainterPath>
 #include <algorithm>
 #include <cmath>
+#include <cstring>
 #include <numbers>
 
 #include "app/QtText.h"
@@ -16,9 +17,15 @@ namespace {
 // Far outside any surface, and well within what the painter's rasteriser can count.
 constexpr f64 farAway = 16000;
 
-// Cuts a segment to the square of `farAway` around the origin. False when nothing of it lies inside.
+bool IsFinite(QPointF point) { return std::isfinite(point.x()) && std::isfinite(point.y()); }
+
+bool IsNear(QPointF point) { return std::fabs(point.x()) <= farAway && std::fabs(point.y()) <= farAway; }
+
+// Cuts a segment to the square of `farAway` around the origin. False when nothing of it lies inside, or when an end has
+// no place.
 // Liang and Barsky, A New Concept and Method for Line Clipping, ACM Transactions on Graphics 3 (1984).
 bool CutSegment(QPointF& from, QPointF& to) {
+  if (!IsFinite(from) || !IsFinite(to)) return false;
   const QPointF delta = to - from;
   f64 enter = 0;
   f64 leave = 1;
@@ -41,14 +48,22 @@ bool CutSegment(QPointF& from, QPointF& to) {
   return true;
 }
 
-bool IsFinite(QPointF point) { return std::isfinite(point.x()) && std::isfinite(point.y()); }
+// Whether the next eight pixels are not covered at all.
+bool EightAreBare(const std::uint8_t* cover) {
+  std::uint64_t eight = 0;
+  std::memcpy(&eight, cover, sizeof eight);
+  return eight == 0;
+}
 
 // Lays an opaque colour over pixels as far as they are covered. The alpha of a premultiplied pixel goes the same way as
-// its colours.
+// its colours. Of what lies near a trace most is bare.
 void Blend(QRgb* pixels, const std::uint8_t* cover, int count, QRgb ink) {
   constexpr QRgb odd = 0x00FF00FF;
   constexpr QRgb whole = 256;
+  constexpr int eight = 8;
   for (int i = 0; i < count; ++i) {
+    while (i + eight <= count && EightAreBare(cover + i)) i += eight;
+    if (i == count) return;
     if (cover[i] == 0) continue;
     // 255 becomes 256, so that full coverage leaves nothing of what was there.
     const QRgb part = cover[i] + (cover[i] >> 7U);
@@ -88,9 +103,11 @@ QtCanvas::QtCanvas(QPainter& painter, const Surface& surface)
 
 QColor QtCanvas::Ink(Color color) const { return ToQt(color); }
 
-QPointF QtCanvas::Map(Point point) const {
-  return {surface_.target.left() + (static_cast<f64>(point.x) - static_cast<f64>(ScaleLeft)) * UnitsPerX(),
-          surface_.target.top() + (static_cast<f64>(point.y) - static_cast<f64>(ScaleTop)) * UnitsPerY()};
+QPointF QtCanvas::Map(Point point) const { return Map(point, UnitsPerX(), UnitsPerY()); }
+
+QPointF QtCanvas::Map(Point point, f64 perX, f64 perY) const {
+  return {surface_.target.left() + (static_cast<f64>(point.x) - static_cast<f64>(ScaleLeft)) * perX,
+          surface_.target.top() + (static_cast<f64>(point.y) - static_cast<f64>(ScaleTop)) * perY};
 }
 
 f64 QtCanvas::PenWidth() const {
@@ -155,7 +172,7 @@ void QtCanvas::DrawPolyline(std::span<const Point> points, Color color) {
   }
   QPointF from = Map(points[0]);
   QPointF to = Map(points[1]);
-  if (!IsFinite(from) || !IsFinite(to) || !CutSegment(from, to) || !Prepare(ink, false)) return;
+  if (!CutSegment(from, to) || !Prepare(ink, false)) return;
   QPen pen = painter_.pen();
   if (Style() == LineStyle::Solid) pen.setCapStyle(Qt::SquareCap);
   painter_.setPen(pen);
@@ -188,8 +205,16 @@ void QtCanvas::SetTrace(std::span<const Point> points, const QColor& ink) {
     for (const QPointF& place : places) run.push_back({static_cast<f32>(place.x()), static_cast<f32>(place.y())});
     mask.AddTrace(run, width);
   }
-  mask.ForEachRun([this, word = ink.rgb()](int x, int y, const std::uint8_t* cover, int count) {
-    Blend(reinterpret_cast<QRgb*>(image_->scanLine(y)) + x, cover, count, word);
+  // The rows of an image lie pages apart, so that of a steep trace every row is a wait for memory unless it was asked
+  // for some rows before.
+  constexpr int rowsAhead = 8;
+  const int lastRow = image_->height() - 1;
+  const qsizetype toRow = image_->bytesPerLine();
+  uchar* const bits = image_->bits();
+  const auto pixelsAt = [=](int x, int y) { return reinterpret_cast<QRgb*>(bits + y * toRow) + x; };
+  mask.ForEachRun([=, word = ink.rgb()](int x, int y, const std::uint8_t* cover, int count) {
+    __builtin_prefetch(pixelsAt(x, std::min(y + rowsAhead, lastRow)), 1);
+    Blend(pixelsAt(x, y), cover, count, word);
   });
 }
 
@@ -198,19 +223,31 @@ void QtCanvas::StrokeTrace(std::span<const Point> points) {
 }
 
 // The places of the points, in runs of two and more. A trace is broken where it leaves what the painter can count, or
-// where a point has no place.
+// where a point has no place. Runs of trials and tuning draw thousands of points a frame, nearly all of them near.
 std::vector<QPolygonF> QtCanvas::RunsOf(std::span<const Point> points, const QTransform& place) const {
+  const f64 perX = UnitsPerX();
+  const f64 perY = UnitsPerY();
+  const auto placeOf = [&](Point point) {
+    const QPointF at = Map(point, perX, perY);
+    return QPointF(place.m11() * at.x() + place.m21() * at.y() + place.dx(),
+                   place.m12() * at.x() + place.m22() * at.y() + place.dy());
+  };
   std::vector<QPolygonF> runs;
+  if (points.empty()) return runs;
   bool open = false;
-  for (std::size_t i = 1; i < points.size(); ++i) {
-    QPointF from = place.map(Map(points[i - 1]));
-    QPointF to = place.map(Map(points[i]));
-    const QPointF end = to;
-    if (!IsFinite(from) || !IsFinite(to) || !CutSegment(from, to)) {
+  QPointF end = placeOf(points.front());
+  for (const Point& point : points.subspan(1)) {
+    QPointF from = end;
+    QPointF to = end = placeOf(point);
+    if (!(IsNear(from) && IsNear(to)) && !CutSegment(from, to)) {
       open = false;
       continue;
     }
-    if (!open || runs.back().last() != from) runs.push_back(QPolygonF{from});
+    if (!open || runs.back().last() != from) {
+      runs.emplace_back();
+      runs.back().reserve(static_cast<qsizetype>(points.size()));
+      runs.back() << from;
+    }
     runs.back() << to;
     open = to == end;
   }

@@ -46,6 +46,7 @@ class QtCanvas : public Canvas {
   f64 UnitsPerX() const { return surface_.target.width() / static_cast<f64>(ScaleWidth); }
   f64 UnitsPerY() const { return surface_.target.height() / static_cast<f64>(ScaleHeight); }
   QPointF Map(Point point) const;
+  QPointF Map(Point point, f64 perX, f64 perY) const;
   f64 PenWidth() const;
   LineStyle Style() const;
   QPen MakePen(const QColor& ink) const;
