@@ -1,5 +1,4 @@
 // Entry by hand and editing in the real window, by mouse alone and by keyboard alone.
-#include "app/PictureAreas.h"
 #include "app/WalkBench.h"
 #include "core/DesignRecord.h"
 #include "core/ElementTypes.h"
@@ -39,42 +38,9 @@ constexpr NamedElement elements[] = {
 
 class EditWalk : public Walk {
  protected:
-  PictureView& Sheet(const char* name) { return dynamic_cast<PictureView&>(*Find(name)); }
-  PictureAreas& Areas(const char* name) { return *Sheet(name).findChild<PictureAreas*>(); }
-
-  const HitArea& AreaOf(const char* picture, const std::string& name) {
-    for (const HitArea& area : Areas(picture).Areas()) {
-      if (area.name == name) return area;
-    }
-    throw Fault("no area " + name);
-  }
-
-  void ClickArea(const char* picture, const std::string& name) {
-    const QPoint place = Areas(picture).PlaceOf(AreaOf(picture, name)).center();
-    QTest::mouseClick(&Sheet(picture), Qt::LeftButton, {}, place);
-    QApplication::processEvents();
-  }
-
-  void Key(int key, Qt::KeyboardModifiers held = Qt::NoModifier) {
-    QTest::keyClick(QApplication::focusWidget(), static_cast<Qt::Key>(key), held);
-    QApplication::processEvents();
-  }
-  void Keys(const char* text) { QTest::keyClicks(QApplication::focusWidget(), QString::fromLatin1(text)); }
   std::string Focused() {
     return QApplication::focusWidget() == nullptr ? "" : QApplication::focusWidget()->objectName().toStdString();
   }
-  std::string Present(const char* picture) {
-    const auto at = Areas(picture).Present();
-    return at ? Areas(picture).Areas()[*at].name : "";
-  }
-
-  // With arrow keys alone from the present band of the palette to another one.
-  void WalkToBand(const std::string& name) {
-    Key(Qt::Key_Home);
-    for (int steps = 0; steps < 40 && Present("picEntry") != name; ++steps) Key(Qt::Key_Tab);
-    ASSERT_EQ(Present("picEntry"), name);
-  }
-
   // The value boxes that are seen take "2", ".5" for the coupling.
   static const char* ValueFor(const std::string& box) { return box == "txtCouplingCoefficient" ? ".5" : "2"; }
 
@@ -115,28 +81,28 @@ TEST_F(EditWalk, ANetworkOfEveryElementIsEnteredByMouseAndItsBoxes) {
 
 TEST_F(EditWalk, ANetworkOfEveryElementIsEnteredByKeyboardAlone) {
   Find("cmdManualEntry")->setFocus();
-  Key(Qt::Key_Return);
+  PressKey(Qt::Key_Return);
   ASSERT_EQ(Focused(), "txtInputTermination");
   Keys("50");
-  Key(Qt::Key_Tab);
+  PressKey(Qt::Key_Tab);
   ASSERT_EQ(Focused(), "txtOutputTermination");
   Keys("75");
   Find("picEntry")->setFocus(Qt::TabFocusReason);
   for (const NamedElement& element : elements) {
     ASSERT_EQ(Focused(), "picEntry") << element.name;
-    WalkToBand(element.name);
-    Key(Qt::Key_Return);
+    WalkToBand("picEntry", element.name);
+    PressKey(Qt::Key_Return);
     const auto boxes = OpenBoxes();
     for (std::size_t i = 0; i < boxes.size(); ++i) {
       const std::string box = Focused();
-      Key(Qt::Key_A);  // the text of a box that gets the focus is selected
-      Key(Qt::Key_Backspace);
+      PressKey(Qt::Key_A);  // the text of a box that gets the focus is selected
+      PressKey(Qt::Key_Backspace);
       Keys(ValueFor(box));
-      if (i + 1 < boxes.size()) Key(Qt::Key_Tab);
+      if (i + 1 < boxes.size()) PressKey(Qt::Key_Tab);
     }
     // The first shows what was understood, the second accepts.
-    Key(Qt::Key_Return);
-    if (Find("cmdAccept")->isVisible()) Key(Qt::Key_Return);
+    PressKey(Qt::Key_Return);
+    if (Find("cmdAccept")->isVisible()) PressKey(Qt::Key_Return);
   }
   ExpectAllElements();
 }
@@ -147,38 +113,38 @@ TEST_F(EditWalk, StagesAreSelectedWithArrowKeysAndEditedWithKeys) {
   QApplication::processEvents();
   ASSERT_EQ(Top().Id(), PageId::Edit);
   ASSERT_EQ(Focused(), "picEdit");
-  Key(Qt::Key_End);
+  PressKey(Qt::Key_End);
   EXPECT_TRUE(AreaOf("picEdit", "load").present);
-  Key(Qt::Key_Home);
+  PressKey(Qt::Key_Home);
   EXPECT_TRUE(AreaOf("picEdit", "source").present);
   EXPECT_TRUE(Find("cmdEditValues")->isEnabled());
-  Key(Qt::Key_Delete);
+  PressKey(Qt::Key_Delete);
   EXPECT_EQ(Record().Stages, 3) << "the source cannot be deleted";
-  Key(Qt::Key_Right);
-  Key(Qt::Key_Right);
+  PressKey(Qt::Key_Right);
+  PressKey(Qt::Key_Right);
   EXPECT_TRUE(AreaOf("picEdit", "stage2").present);
-  Key(Qt::Key_Delete);
+  PressKey(Qt::Key_Delete);
   EXPECT_EQ(Record().Stages, 2);
   EXPECT_EQ(Record().stage[2].ElementType, ShuntC);
-  Key(Qt::Key_Z, Qt::ControlModifier);
+  PressKey(Qt::Key_Z, Qt::ControlModifier);
   EXPECT_EQ(Record().Stages, 3);
   ClickArea("picEdit", "stage2");
-  Key(Qt::Key_Left);
+  PressKey(Qt::Key_Left);
   EXPECT_TRUE(AreaOf("picEdit", "stage1").present) << "the keys go on from the click";
-  Key(Qt::Key_Insert);
+  PressKey(Qt::Key_Insert);
   EXPECT_EQ(Record().Stages, 4);
   EXPECT_FALSE(Find("cmdPlot")->isEnabled());
-  Key(Qt::Key_Tab);
+  PressKey(Qt::Key_Tab);
   EXPECT_EQ(Present("picEdit"), "SeriesL");
-  Key(Qt::Key_Down);
-  Key(Qt::Key_Return);
+  PressKey(Qt::Key_Down);
+  PressKey(Qt::Key_Return);
   EXPECT_EQ(Record().stage[1].ElementType, ShuntL);
   EXPECT_EQ(Focused(), "txtInductorsValue");
   Keys("12");
-  Key(Qt::Key_Delete);
+  PressKey(Qt::Key_Delete);
   EXPECT_EQ(Record().Stages, 4) << "within a box the key is the box's";
   Keys("u");
-  Key(Qt::Key_Return);
+  PressKey(Qt::Key_Return);
   EXPECT_EQ(Record().stage[1].Lval.value, 12e-6F);
   EXPECT_EQ(Focused(), "picEdit");
 }

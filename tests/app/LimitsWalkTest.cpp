@@ -1,6 +1,4 @@
 // Limit areas, markers and overlays in the real window, by the mouse and the keyboard.
-#include <QTimer>
-
 #include "app/WalkBench.h"
 #include "core/DesignRecord.h"
 
@@ -14,36 +12,13 @@ class LimitsWalk : public Walk {
     ClickOn("cmdPlot");
     QApplication::processEvents();
   }
-
-  // Opens a page beside the plot, does `act` there, and returns when it has closed.
-  void With(const char* button, const std::function<void()>& act) {
-    constexpr int untilItStands = 100;  // milliseconds
-    QTimer::singleShot(untilItStands, &desktop_.window, act);
-    ClickOn(button);
-    QApplication::processEvents();
-  }
-  PictureView& PlotBeside() {
-    Page& page = *desktop_.session.pages.Find(PageId::Plotted);
-    return dynamic_cast<PictureView&>(*desktop_.platform.Stage().ViewOf(page)->Find(QStringLiteral("picPlot")));
-  }
-
-  void Hover(f32 x, f32 y) {
-    QMouseEvent move(QEvent::MouseMove, PlaceOf(x, y), Plot().mapToGlobal(PlaceOf(x, y)), Qt::NoButton, Qt::NoButton,
-                     Qt::NoModifier);
-    QApplication::sendEvent(&Plot(), &move);
-  }
-  void ClickPlot(f32 x, f32 y) {
-    Hover(x, y);
-    QTest::mouseClick(&Plot(), Qt::LeftButton, {}, PlaceOf(x, y));
-    QApplication::processEvents();
-  }
 };
 
 // Pale red as the user sees it: 0xE0E0FF is a blue-green-red word.
 const QColor paleRed(0xFF, 0xE0, 0xE0);
 
 TEST_F(LimitsWalk, AnAreaIsEnteredByMouseAndSeen) {
-  With("cmdLimits", [this] { ClickOn("cmdEnter"); });
+  WithTool("cmdLimits", [this] { ClickOn("cmdEnter"); });
   ASSERT_TRUE(Find("cmdLimit1")->isVisible());
   ClickOn("cmdLimit5");
   ClickPlot(4300, 3000);
@@ -57,7 +32,7 @@ TEST_F(LimitsWalk, AnAreaIsEnteredByMouseAndSeen) {
 }
 
 TEST_F(LimitsWalk, ACellOfThePaletteIsClicked) {
-  With("cmdLimits", [this] { ClickOn("cmdEnter"); });
+  WithTool("cmdLimits", [this] { ClickOn("cmdEnter"); });
   ClickPlot(635 * 2 + 3495, 700);
   EXPECT_EQ(desktop_.session.plot.limitEntry.LimitShapeChoice, 2);
   ClickPlot(8500, 2500);
@@ -69,7 +44,7 @@ TEST_F(LimitsWalk, ACellOfThePaletteIsClicked) {
 }
 
 TEST_F(LimitsWalk, ThePointerTellsItsPlaceWithoutAButton) {
-  With("cmdLimits", [this] { ClickOn("cmdEnter"); });
+  WithTool("cmdLimits", [this] { ClickOn("cmdEnter"); });
   Hover(5000, 3000);
   ASSERT_FALSE(PlotBox().mark.Empty());
   const Picture first = PlotBox().mark;
@@ -78,7 +53,7 @@ TEST_F(LimitsWalk, ThePointerTellsItsPlaceWithoutAButton) {
 }
 
 TEST_F(LimitsWalk, MarkersShowWhileTheirPageStandsBeside) {
-  With("cmdMarkers", [this] {
+  WithTool("cmdMarkers", [this] {
     Type("txtMarkerFrequency1", "1M");
     const QImage before = PlotBeside().grab().toImage();
     ClickOn("cmdMarkerOn");
@@ -93,13 +68,13 @@ TEST_F(LimitsWalk, MarkersShowWhileTheirPageStandsBeside) {
 }
 
 TEST_F(LimitsWalk, AnOverlayIsSavedAndLaidOver) {
-  With("cmdSaveOverlay", [this] { ClickOn("cmdSave1"); });
+  WithTool("cmdSaveOverlay", [this] { ClickOn("cmdSave1"); });
   ASSERT_EQ(Top().Id(), PageId::Plotted);
   ClickOn("cmd2");
   const QImage before = Plot().grab().toImage();
   desktop_.session.record.LossBottom = -30;
   ClickOn("cmd1");
-  With("cmdGetOverlay", [this] { ClickOn("cmdGet1"); });
+  WithTool("cmdGetOverlay", [this] { ClickOn("cmdGet1"); });
   EXPECT_EQ(desktop_.session.plot.overlays.fetched, std::vector<int>{1});
   EXPECT_NE(Plot().grab().toImage(), before);
 }

@@ -18,38 +18,9 @@ class TuneWalk : public Walk {
     QApplication::processEvents();
   }
 
-  // Opens a dialog by its button, does `act` while it stands beside the plot and ends it if that is still to be done.
-  void With(const char* button, const std::function<void()>& act) {
-    QTimer::singleShot(0, &desktop_.window, [this, &act] {
-      QTest::qWait(untilLaidOut);
-      act();
-      if (desktop_.session.pages.Beside() != nullptr) ClickOn("cmdExit");
-    });
-    ClickOn(button);
-    EXPECT_EQ(Top().Id(), PageId::Plotted);
-  }
-
-  static constexpr int untilLaidOut = 50;
-
   SidePanel* Panel() { return desktop_.window.findChild<SidePanel*>(); }
 
-  // The plot beside the dialog.
-  PictureView& Shown() {
-    return *desktop_.platform.Stage()
-                .ViewOf(*desktop_.session.pages.Find(PageId::Plotted))
-                ->findChild<PictureView*>(QStringLiteral("picPlot"));
-  }
-
-  QImage Seen() { return Shown().grab().toImage(); }
-
-  void Turn(QWidget& over, int notches) {
-    const QPoint middle = over.rect().center();
-    QWheelEvent event(middle, over.mapToGlobal(middle), {}, QPoint(0, 120 * notches), Qt::NoButton, Qt::NoModifier,
-                      Qt::NoScrollPhase, false);
-    // As if it came from the mouse: the toolkit hands on to parents nothing else.
-    QSpontaneKeyEvent::setSpontaneous(&event);
-    QCoreApplication::instance()->notify(&over, &event);
-  }
+  QImage Seen() { return PlotBeside().grab().toImage(); }
 
   void ClickArrow(const char* name, int direction) {
     auto& spin = dynamic_cast<SpinBox&>(*Find(name));
@@ -60,13 +31,13 @@ class TuneWalk : public Walk {
 };
 
 TEST_F(TuneWalk, TheDialogStandsBesideThePlotAtEverySize) {
-  With("cmdTunePart", [&] {
+  WithTool("cmdTunePart", [&] {
     for (const QSize size : {QSize(1024, 700), QSize(1280, 860), QSize(1800, 1000)}) {
       desktop_.window.resize(size);
       QApplication::processEvents();
       EXPECT_EQ(desktop_.window.size(), size);
       const QRect panel(Panel()->mapToGlobal(QPoint(0, 0)), Panel()->size());
-      const QRect plot(Shown().mapToGlobal(QPoint(0, 0)), Shown().size());
+      const QRect plot(PlotBeside().mapToGlobal(QPoint(0, 0)), PlotBeside().size());
       EXPECT_FALSE(panel.intersects(plot));
       EXPECT_TRUE(QRect(desktop_.window.mapToGlobal(QPoint(0, 0)), desktop_.window.size()).contains(panel));
       EXPECT_GT(plot.width(), 2 * panel.width());
@@ -75,7 +46,7 @@ TEST_F(TuneWalk, TheDialogStandsBesideThePlotAtEverySize) {
 }
 
 TEST_F(TuneWalk, ArrowsKeysAndWheelStepAndThePlotFollows) {
-  With("cmdTunePart", [&] {
+  WithTool("cmdTunePart", [&] {
     Type("txtPercentageValue", "10");
     f32 before = C1();
     QImage seen = Seen();
@@ -96,7 +67,7 @@ TEST_F(TuneWalk, ArrowsKeysAndWheelStepAndThePlotFollows) {
     moved("arrow key", true);
     Turn(*Find("UpDown1"), -2);
     moved("wheel on the control", false);
-    Turn(Shown(), +3);
+    Turn(PlotBeside(), +3);
     moved("wheel over the plot", true);
     Turn(*Find("picPart"), -3);
     moved("wheel over the dialog", false);
@@ -128,19 +99,19 @@ TEST_F(TuneWalk, ByKeyboardAlone) {
 }
 
 TEST_F(TuneWalk, APartWithAStepHasTheFocusOnItsControl) {
-  With("cmdTunePart", [&] {
+  WithTool("cmdTunePart", [&] {
     Type("txtPercentageValue", "5");
     ClickOn("cmdForward");
     EXPECT_EQ(QApplication::focusWidget(), Find("txtPercentageValue"));
     ClickOn("cmdReverse");
     EXPECT_EQ(QApplication::focusWidget(), Find("UpDown1"));
   });
-  With("cmdTunePart", [&] { EXPECT_EQ(QApplication::focusWidget(), Find("UpDown1")); });
+  WithTool("cmdTunePart", [&] { EXPECT_EQ(QApplication::focusWidget(), Find("UpDown1")); });
 }
 
 TEST_F(TuneWalk, UndoByItsKeyTakesThePartBack) {
   const f32 before = C1();
-  With("cmdTunePart", [&] {
+  WithTool("cmdTunePart", [&] {
     Type("txtPercentageValue", "5");
     for (int i = 0; i < 5; ++i) ClickArrow("UpDown1", +1);
     EXPECT_GT(C1(), before * 1.2F);
@@ -151,7 +122,7 @@ TEST_F(TuneWalk, UndoByItsKeyTakesThePartBack) {
 
 // By 100 %, up and down return exactly.
 TEST_F(TuneWalk, ClearPlotTakesTheCurvesAway) {
-  With("cmdTunePart", [&] {
+  WithTool("cmdTunePart", [&] {
     const QImage before = Seen();
     Type("txtPercentageValue", "100");
     ClickArrow("UpDown1", +1);
@@ -163,18 +134,18 @@ TEST_F(TuneWalk, ClearPlotTakesTheCurvesAway) {
 }
 
 TEST_F(TuneWalk, WidthStepsToo) {
-  With("cmdTuneWidth", [&] {
+  WithTool("cmdTuneWidth", [&] {
     EXPECT_EQ(QApplication::focusWidget(), Find("UpDown1"));
     QTest::keyClick(Find("UpDown1"), Qt::Key_Up);
     EXPECT_EQ(Record().Width, 1.01e6F);
-    Turn(Shown(), -1);
+    Turn(PlotBeside(), -1);
     EXPECT_NEAR(Record().Width, 1e6, 1);
   });
 }
 
 // From the key to the painted window, the sweep included. The limit leaves room for a busy machine and for sanitizers.
 TEST_F(TuneWalk, AStepIsSeenWithoutLag) {
-  With("cmdTunePart", [&] {
+  WithTool("cmdTunePart", [&] {
     Type("txtPercentageValue", "1");
     Find("UpDown1")->setFocus();
     constexpr int steps = 100;
@@ -182,7 +153,7 @@ TEST_F(TuneWalk, AStepIsSeenWithoutLag) {
     clock.start();
     for (int i = 0; i < steps; ++i) {
       QTest::keyClick(Find("UpDown1"), i % 2 == 0 ? Qt::Key_Up : Qt::Key_Down);
-      Shown().repaint();
+      PlotBeside().repaint();
     }
     const f64 milliseconds = static_cast<f64>(clock.nsecsElapsed()) / 1e6 / steps;
     RecordProperty("millisecondsAStep", std::to_string(milliseconds));

@@ -7,13 +7,8 @@ namespace {
 
 class UndoWalk : public Walk {
  protected:
-  void Key(Qt::KeyboardModifiers modifiers) {
-    QWidget* focused = QApplication::focusWidget();
-    QTest::keyClick(focused == nullptr ? &desktop_.window : focused, Qt::Key_Z, modifiers);
-    QApplication::processEvents();
-  }
-  void UndoKey() { Key(Qt::ControlModifier); }
-  void RedoKey() { Key(Qt::ControlModifier | Qt::ShiftModifier); }
+  void UndoKey() { PressKey(Qt::Key_Z, Qt::ControlModifier); }
+  void RedoKey() { PressKey(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier); }
   QString Text(const char* name) { return qobject_cast<QLineEdit*>(Find(name))->text(); }
 };
 

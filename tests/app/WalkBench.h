@@ -6,8 +6,10 @@
 #include <QLineEdit>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 
 #include "app/Desktop.h"
+#include "app/PictureAreas.h"
 #include "app/PictureView.h"
 #include "desk/StartUp.h"
 #include "pages/PageDirectory.h"
@@ -20,9 +22,11 @@ class Walk : public testing::Test {
   Walk() : desktop_(AllPages(), folder_.path()) {
     desktop_.Start(StartProgram);
     EXPECT_TRUE(QTest::qWaitForWindowExposed(&desktop_.window));
-    // There is no window manager that would give it the keyboard.
-    QApplication::setActiveWindow(&desktop_.window);
+    GiveKeyboardToWindow();
   }
+
+  // There is no window manager that would.
+  void GiveKeyboardToWindow() { QApplication::setActiveWindow(&desktop_.window); }
 
   QWidget* Find(const char* name) {
     QWidget* widget = desktop_.TopView()->Find(QString::fromLatin1(name));
@@ -68,6 +72,96 @@ class Walk : public testing::Test {
     return QPointF(paper.left() + paper.width() * static_cast<f64>((x - scale.left) / scale.width),
                    paper.top() + paper.height() * static_cast<f64>((y - scale.top) / scale.height))
         .toPoint();
+  }
+
+  // The pointer over the plot, without a button.
+  void Hover(f32 x, f32 y) {
+    QMouseEvent move(QEvent::MouseMove, PlaceOf(x, y), Plot().mapToGlobal(PlaceOf(x, y)), Qt::NoButton, Qt::NoButton,
+                     Qt::NoModifier);
+    QApplication::sendEvent(&Plot(), &move);
+  }
+
+  void ClickPlot(f32 x, f32 y) {
+    Hover(x, y);
+    QTest::mouseClick(&Plot(), Qt::LeftButton, {}, PlaceOf(x, y));
+    QApplication::processEvents();
+  }
+
+  // The plot while a dialog stands beside it and is the page on top.
+  PictureView& PlotBeside() {
+    Page& page = *desktop_.session.pages.Find(PageId::Plotted);
+    return dynamic_cast<PictureView&>(*desktop_.platform.Stage().ViewOf(page)->Find(QStringLiteral("picPlot")));
+  }
+
+  // Opens a dialog beside the plot by its button, does `act` there, ends it if that is still to be done, and returns
+  // when it has closed.
+  void WithTool(const char* button, const std::function<void()>& act) {
+    constexpr int untilLaidOut = 50;  // milliseconds
+    QTimer::singleShot(0, &desktop_.window, [this, &act] {
+      QTest::qWait(untilLaidOut);
+      act();
+      if (desktop_.session.pages.Beside() != nullptr) ClickOn("cmdExit");
+    });
+    ClickOn(button);
+    QApplication::processEvents();
+    EXPECT_EQ(Top().Id(), PageId::Plotted);
+  }
+
+  // The same with a page of a window of its own.
+  void WithModal(const char* button, const std::function<void()>& act) {
+    constexpr int untilItStands = 100;  // milliseconds
+    QTimer::singleShot(untilItStands, &desktop_.window, act);
+    ClickOn(button);
+    GiveKeyboardToWindow();
+    QApplication::processEvents();
+  }
+
+  // One notch or more of the wheel, away from the user when positive.
+  void Turn(QWidget& over, int notches) {
+    const QPoint middle = over.rect().center();
+    QWheelEvent event(middle, over.mapToGlobal(middle), {}, QPoint(0, 120 * notches), Qt::NoButton, Qt::NoModifier,
+                      Qt::NoScrollPhase, false);
+    // As if it came from the mouse: the toolkit hands on to parents nothing else.
+    QSpontaneKeyEvent::setSpontaneous(&event);
+    QCoreApplication::instance()->notify(&over, &event);
+  }
+
+  void PressKey(int key, Qt::KeyboardModifiers held = Qt::NoModifier) {
+    QWidget* focused = QApplication::focusWidget();
+    QTest::keyClick(focused == nullptr ? &desktop_.window : focused, static_cast<Qt::Key>(key), held);
+    QApplication::processEvents();
+  }
+
+  void Keys(const char* text) { QTest::keyClicks(QApplication::focusWidget(), QString::fromLatin1(text)); }
+
+  // The named areas of a picture.
+  PictureView& Sheet(const char* picture) { return dynamic_cast<PictureView&>(*Find(picture)); }
+  PictureAreas& Areas(const char* picture) { return *Sheet(picture).findChild<PictureAreas*>(); }
+
+  const HitArea& AreaOf(const char* picture, const std::string& name) {
+    for (const HitArea& area : Areas(picture).Areas()) {
+      if (area.name == name) return area;
+    }
+    throw Fault("no area " + name);
+  }
+
+  void ClickArea(const char* picture, const std::string& name) {
+    const QPoint place = Areas(picture).PlaceOf(AreaOf(picture, name)).center();
+    QTest::mouseClick(&Sheet(picture), Qt::LeftButton, {}, place);
+    QApplication::processEvents();
+  }
+
+  // The area that the keyboard is at.
+  std::string Present(const char* picture) {
+    const auto at = Areas(picture).Present();
+    return at ? Areas(picture).Areas()[*at].name : "";
+  }
+
+  // With keys alone from the present band of a palette to another one.
+  void WalkToBand(const char* picture, const std::string& name) {
+    PressKey(Qt::Key_Home);
+    for (int steps = 0; steps < 40 && Present(picture) != name; ++steps) PressKey(Qt::Key_Tab);
+    ASSERT_EQ(Present(picture), name);
   }
 
   // The colour of the plot at a point in user scale, as the user sees it.

@@ -1,6 +1,4 @@
 // The first evening with the program.
-#include <QTimer>
-
 #include "app/WalkBench.h"
 #include "core/DesignRecord.h"
 
@@ -77,22 +75,14 @@ TEST_F(Walk, ThePagesHaveTheirKeys) {
   EXPECT_EQ(Top().Id(), PageId::Design);
 }
 
-// Does `act` on the modal page that the next click opens.
-void OnNextModal(const std::function<void()>& act) {
-  constexpr int milliseconds = 100;
-  QTimer::singleShot(milliseconds, qApp, act);
-}
-
 TEST_F(Walk, AnMderivedDesignAsksForItsZerosAndShowsItsSchematic) {
   DesignLowpass();
-  OnNextModal([this] {
+  WithModal("optMderived", [this] {
     Type("txtZeroFreq1", "1.25M");
     ClickOn("cmdOk");
   });
-  ClickOn("optMderived");
   EXPECT_EQ(Record().Order, 7);
-  OnNextModal([this] { ClickOn("cmdOk"); });
-  ClickOn("cmdSchematic");
+  WithModal("cmdSchematic", [this] { ClickOn("cmdOk"); });
   ASSERT_EQ(Top().Id(), PageId::Schematic);
   EXPECT_EQ(Record().Stages, 5);
 
