@@ -4,11 +4,8 @@
 
 #include <algorithm>
 
-#include "core/DesignRecord.h"
-#include "core/Responses.h"
+#include "display/SheetBench.h"
 #include "display/SheetDrawing.h"
-#include "shell/HeadlessPlatform.h"
-#include "shell/Session.h"
 
 namespace quilm {
 namespace {
@@ -20,21 +17,14 @@ Medium MediumOf(const PictureOp& operation) {
 }
 
 // A linear sweep of 9 intervals from 1 MHz to 10 MHz: 1 MHz for each 900 units of the frame.
-class LimitEntryTest : public testing::Test {
+class LimitEntryTest : public SheetBench {
  protected:
-  LimitEntryTest() : platform(""), session(platform, {}) {
+  LimitEntryTest() {
     DesignRecord& record = session.record;
-    record.SweepMode = 1;
     record.Fstart = 1e6F;
     record.Fstop = 1e7F;
     record.NrIntervals = 9;
     record.NrXints = 9;
-    record.NrYints = 6;
-    record.LossBottom = -60;
-    record.DelayTop = 6e-6F;
-    record.VSWRTop = 7;
-    record.ImpedanceTop = 120;
-    record.Rstandard = 50;
     record.ResponsesValid = 1;
     record.PlotCode = 1;
     for (int i = 0; i <= 9; ++i) {
@@ -60,9 +50,6 @@ class LimitEntryTest : public testing::Test {
     }
     return {};
   }
-
-  HeadlessPlatform platform;
-  Session session;
 };
 
 TEST_F(LimitEntryTest, ShowsTheLimitsAndThePrompt) {

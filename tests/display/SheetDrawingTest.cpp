@@ -1,4 +1,3 @@
-#include "core/DesignRecord.h"
 #include "display/SheetDrawing.h"
 
 #include <gtest/gtest.h>
@@ -7,31 +6,22 @@
 #include <array>
 #include <vector>
 
-#include "core/Responses.h"
 #include "display/PlotKinds.h"
+#include "display/SheetBench.h"
 #include "display/modSmith.h"
-#include "shell/HeadlessPlatform.h"
-#include "shell/Session.h"
 
 namespace quilm {
 namespace {
 
-// A session without pages: the plot needs none.
-class Sheet : public testing::Test {
+class Sheet : public SheetBench {
  protected:
-  Sheet() : platform(""), session(platform, {}) {
+  Sheet() {
     DesignRecord& record = session.record;
     record.SweepMode = 2;
     record.Fstart = 1e6F;
     record.Fstop = 1e8F;
     record.NrIntervals = 2;
     record.NrXints = 4;
-    record.NrYints = 6;
-    record.LossBottom = -60;
-    record.DelayTop = 6e-6F;
-    record.VSWRTop = 7;
-    record.ImpedanceTop = 120;
-    record.Rstandard = 50;
     for (int i = 0; i <= 2; ++i) {
       session.responses.RespFreq[i] = i == 0 ? 1e6F : i == 1 ? 1e7F : 1e8F;
       session.responses.RespTrans[i] = static_cast<f32>(-10 * i);
@@ -58,9 +48,6 @@ class Sheet : public testing::Test {
   }
 
   ResponseSpans Present() { return SpansOf(session.responses, 2); }
-
-  HeadlessPlatform platform;
-  Session session;
 };
 
 TEST_F(Sheet, EveryPlotDrawnTwiceIsTheSame) {

@@ -57,10 +57,7 @@ frmPlotted::frmPlotted(Session& session)
   cmdStepSize.onClick = [this] { EnterStepsizes(); };
   cmdGetOverlay.onClick = [this] { session_.pages.ShowBeside(PageId::OverlayGetList); };
   cmdSaveOverlay.onClick = [this] { session_.pages.ShowBeside(PageId::OverlaySaveList); };
-  for (Button* tool : {&cmdAutoScale, &cmdFitSweep, &cmdLimits, &cmdMarkers, &cmdStepSize, &cmdTunePart, &cmdTuneWidth,
-                       &cmdTuneApass, &cmdOptimize, &cmdMonteCarlo, &cmdGetOverlay, &cmdSaveOverlay}) {
-    tool->role = ButtonRole::Tool;
-  }
+  for (Button* tool : tools_) tool->role = ButtonRole::Tool;
 }
 
 void frmPlotted::Load() {
@@ -106,10 +103,7 @@ void frmPlotted::RefreshTools() { cmdTuneApass.visible = RippleCanBeTuned(sessio
 // All that a run takes away meanwhile.
 void frmPlotted::ShowTools(bool shown) {
   for (const auto& button : plotButtons) button->visible = shown;
-  for (Button* tool : {&cmdAutoScale, &cmdFitSweep, &cmdLimits, &cmdMarkers, &cmdStepSize, &cmdTunePart, &cmdTuneWidth,
-                       &cmdTuneApass, &cmdOptimize, &cmdMonteCarlo, &cmdGetOverlay, &cmdSaveOverlay}) {
-    tool->visible = shown;
-  }
+  for (Button* tool : tools_) tool->visible = shown;
   limitTools.Refresh();
   if (shown) {
     RefreshTools();
@@ -153,12 +147,11 @@ Layout frmPlotted::MakeLayout() {
   std::vector<Layout> strip;
   for (const auto& button : plotButtons) strip.push_back(KeepPlace(Put(*button)));
   strip.push_back(Space());
-  const Layout tools = SidePlace(
-      Column({KeepPlace(Grid(1, {Put(cmdAutoScale), Put(cmdFitSweep), Put(cmdLimits), Put(cmdMarkers), Put(cmdStepSize),
-                                 Put(cmdTunePart), Put(cmdTuneWidth), Put(cmdTuneApass), Put(cmdOptimize),
-                                 Put(cmdMonteCarlo), Put(cmdGetOverlay), Put(cmdSaveOverlay)})),
-              Grid(1, {Put(cmdEnd), Put(cmdExtremes)}), limitTools.MakeLayout(), smithControls.MakeLayout(), Space()}));
-  return Column({navigation.MakeLayout(), Row(std::move(strip)), Fill(Row({Fill(Put(picPlot)), tools}))});
+  std::vector<Layout> tools;
+  for (Button* tool : tools_) tools.push_back(Put(*tool));
+  const Layout side = SidePlace(Column({KeepPlace(Grid(1, std::move(tools))), Grid(1, {Put(cmdEnd), Put(cmdExtremes)}),
+                                        limitTools.MakeLayout(), smithControls.MakeLayout(), Space()}));
+  return Column({navigation.MakeLayout(), Row(std::move(strip)), Fill(Row({Fill(Put(picPlot)), side}))});
 }
 
 }  // namespace quilm

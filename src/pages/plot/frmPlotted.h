@@ -1,6 +1,7 @@
 // The Plot page: the twelve plots, and the tools that work on them.
 #pragma once
 
+#include <array>
 #include <memory>
 #include <vector>
 
@@ -52,6 +53,10 @@ class frmPlotted : public Page {
   void OpenTuning(PageId dialog);
   void EnterStepsizes();
 
+  // In the order in which they stand; a run takes them away meanwhile.
+  const std::array<Button*, 12> tools_{&cmdAutoScale, &cmdFitSweep,   &cmdLimits,     &cmdMarkers,
+                                       &cmdStepSize,  &cmdTunePart,   &cmdTuneWidth,  &cmdTuneApass,
+                                       &cmdOptimize,  &cmdMonteCarlo, &cmdGetOverlay, &cmdSaveOverlay};
   PlotMouse mouse_;
   PlotRuns runs_;
 };
