@@ -148,10 +148,9 @@ void PageView::RefreshMnemonics() {
   }
 }
 
-// The letter of a group leads to the walk in it.
+// The letter of a group leads to the walk in it. Groups that are seen when the page comes choose first.
 void PageView::MarkGroups() {
   std::vector<GroupBox*> groups;
-  std::vector<QString> captions;
   for (FocusWalk* walk : walks_) {
     GroupBox* group = GroupOf(walk->First());
     while (group != nullptr && !walk->StandsIn(*group)) group = GroupOf(group);
@@ -160,8 +159,10 @@ void PageView::MarkGroups() {
       if (QWidget* stop = walk->Stop()) stop->setFocus(Qt::ShortcutFocusReason);
     };
     groups.push_back(group);
-    captions.push_back(group->Title());
   }
+  std::ranges::stable_partition(groups, [this](const GroupBox* group) { return group->isVisibleTo(this); });
+  std::vector<QString> captions;
+  for (const GroupBox* group : groups) captions.push_back(group->Title());
   const std::vector<QChar> chosen = ChooseMnemonics(captions, takenLetters_);
   for (std::size_t i = 0; i < groups.size(); ++i) groups[i]->SetMnemonic(chosen[i]);
 }
