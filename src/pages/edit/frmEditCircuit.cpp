@@ -92,7 +92,6 @@ void frmEditCircuit::ConnectButtons() {
 
 void frmEditCircuit::Load() {
   CutTooManyStages();
-  StageEdge_.clear();
   Browse();
   SetFocus(picEdit_);
 }
@@ -215,7 +214,6 @@ void frmEditCircuit::BringIntoView(int cell) {
 void frmEditCircuit::ChooseElement(i16 element) {
   inserting_ = false;
   session_.network.stage[SelectedStage_].ElementType = element;
-  StandByHand(session_.record);
   const std::vector<ValueBox> boxes = EntryOrder(element);
   boxes_.Show(boxes);
   SetFocus(boxes_.Box(boxes.front()));
