@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "core/NumberText.h"
+#include "core/ScaledText.h"
 
 namespace quilm {
 
@@ -88,71 +89,31 @@ void TrimAndCut(std::string& text) { text = FirstCharacters(Trimmed(text), longe
 
 // ---- display --------------------------------------------------------------------------------------------------------
 
-constexpr int byMask = -1;
-
-// From `threshold` up a value is divided by `divisor` and followed by `unit`. The number of decimals is the row's own,
-// or chosen by the scaled value. Thresholds compare in 32 bits.
-struct Row {
-  f32 threshold;
-  f64 divisor;
-  const char* unit;
-  int decimals = byMask;
-};
-
-// Decimals of a scaled value above 1000, 100, 10, 1, and of the rest.
-struct Mask {
-  int decimals[5];
-};
-
-int DecimalsOf(f32 scaled, const Mask& mask) {
-  const f32 limits[] = {1000, 100, 10, 1};
-  const auto* at = std::find_if(std::begin(limits), std::end(limits), [scaled](f32 limit) { return scaled > limit; });
-  return mask.decimals[at - std::begin(limits)];
-}
-
-// The last row serves everything below the others.
-const Row& RowOf(f32 magnitude, std::span<const Row> rows) {
-  const auto at =
-      std::find_if(rows.begin(), rows.end() - 1, [magnitude](const Row& row) { return magnitude >= row.threshold; });
-  return *at;
-}
-
-std::string ScaledText(f32 value, const Row& row, const Mask& mask, bool signedMask) {
-  const f32 scaled = static_cast<f32>(static_cast<f64>(value) / row.divisor);
-  const int decimals =
-      row.decimals != byMask ? row.decimals : DecimalsOf(signedMask ? scaled : std::fabs(scaled), mask);
-  return ShortText(RoundedTo(scaled, decimals), LeadingZero::Keep) + row.unit;
-}
-
-constexpr Row frequencyRows[] = {
+constexpr ScaleRow frequencyRows[] = {
     {1e9F, 1e9, "G "}, {1e6F, 1e6, "M "}, {1000, 1000, "k "}, {1, 1, "  "}, {0, 0.001, "m "}};
-constexpr Mask frequencyMask = {{3, 3, 4, 5, 6}};
+constexpr DecimalMask frequencyMask = {{3, 3, 4, 5, 6}};
 
-constexpr Row inductanceRows[] = {{1e9F, 1e9, "GH"},     {1e6F, 1e6, "MH"},   {1000, 1000, "kH"}, {1, 1, "H"},
-                                  {0.001F, 0.001, "mH"}, {1e-6F, 1e-6, "uH"}, {0, 1e-9, "nH"}};
-constexpr Mask partMask = {{2, 3, 4, 5, 6}};
+constexpr ScaleRow inductanceRows[] = {{1e9F, 1e9, "GH"},     {1e6F, 1e6, "MH"},   {1000, 1000, "kH"}, {1, 1, "H"},
+                                       {0.001F, 0.001, "mH"}, {1e-6F, 1e-6, "uH"}, {0, 1e-9, "nH"}};
+constexpr DecimalMask partMask = {{2, 3, 4, 5, 6}};
 
 // The thresholds sit a hundredfold away from the divisors so that capacitors from 0.01 uF up read in uF and all below
 // in pF. The divisor of the first row is out of this line; no part comes near its 1e7 F, and scripts compare the texts.
-constexpr Row capacitanceRows[] = {{1e7F, 1e11, "GF"},   {10000, 1e6, "MF"},  {10, 1000, "kF"}, {1, 1, "F"},
-                                   {0.01F, 0.001, "mF"}, {1e-8F, 1e-6, "uF"}, {0, 1e-12, "pF"}};
+constexpr ScaleRow capacitanceRows[] = {{1e7F, 1e11, "GF"},   {10000, 1e6, "MF"},  {10, 1000, "kF"}, {1, 1, "F"},
+                                        {0.01F, 0.001, "mF"}, {1e-8F, 1e-6, "uF"}, {0, 1e-12, "pF"}};
 constexpr f32 smallestCapacitance = 1e-15F;
 
-constexpr Row resistanceRows[] = {{1e9F, 1e9, "G", 3}, {1e6F, 1e6, "M", 3}, {1000, 1000, "k", 3}, {100, 1, " ", 2},
-                                  {10, 1, " ", 3},     {1, 1, " ", 4},      {0, 1, " ", 5}};
+constexpr ScaleRow resistanceRows[] = {{1e9F, 1e9, "G", 3}, {1e6F, 1e6, "M", 3}, {1000, 1000, "k", 3}, {100, 1, " ", 2},
+                                       {10, 1, " ", 3},     {1, 1, " ", 4},      {0, 1, " ", 5}};
 constexpr f32 smallestResistance = 0.001F;
 
-constexpr Row timeRows[] = {{1e9F, 1e9, "G"},     {1e6F, 1e6, "M"},   {1000, 1000, "k"},  {1, 1, "  "},
-                            {0.001F, 0.001, "m"}, {1e-6F, 1e-6, "u"}, {1e-9F, 1e-9, "n"}, {0, 1e-12, "p"}};
-constexpr Mask timeMask = {{0, 1, 2, 3, 4}};
+constexpr ScaleRow timeRows[] = {{1e9F, 1e9, "G"},     {1e6F, 1e6, "M"},   {1000, 1000, "k"},  {1, 1, "  "},
+                                 {0.001F, 0.001, "m"}, {1e-6F, 1e-6, "u"}, {1e-9F, 1e-9, "n"}, {0, 1e-12, "p"}};
+constexpr DecimalMask timeMask = {{0, 1, 2, 3, 4}};
 
-constexpr Row valueRows[] = {{1e9F, 1e9, "G", 3}, {1e6F, 1e6, "M", 3}, {1000, 1000, "k", 3}, {100, 1, " ", 2},
-                             {10, 1, " ", 3},     {1, 1, " ", 4},      {0, 1, " ", 5}};
+constexpr ScaleRow valueRows[] = {{1e9F, 1e9, "G", 3}, {1e6F, 1e6, "M", 3}, {1000, 1000, "k", 3}, {100, 1, " ", 2},
+                                  {10, 1, " ", 3},     {1, 1, " ", 4},      {0, 1, " ", 5}};
 constexpr f32 smallestValue = 1e-5F;
-
-std::string ByMagnitude(f32 value, std::span<const Row> rows, const Mask& mask) {
-  return ScaledText(value, RowOf(std::fabs(value), rows), mask, false);
-}
 
 }  // namespace
 
@@ -189,24 +150,24 @@ std::string FormatFrequency(f32 Value) {
   return ScaledText(Value, RowOf(Value, frequencyRows), frequencyMask, true);
 }
 
-std::string FormatInductance(f32 Value) { return Value == 0 ? "" : ByMagnitude(Value, inductanceRows, partMask); }
+std::string FormatInductance(f32 Value) { return Value == 0 ? "" : TextByMagnitude(Value, inductanceRows, partMask); }
 
 std::string FormatCapacitance(f32 Value) {
   if (Value == 0) return "";
   if (std::fabs(Value) < smallestCapacitance) return "0  ";
-  return ByMagnitude(Value, capacitanceRows, partMask);
+  return TextByMagnitude(Value, capacitanceRows, partMask);
 }
 
 std::string FormatResistance(f32 Value) {
   if (!(Value > smallestResistance)) return "0.0   ";
-  return ByMagnitude(Value, resistanceRows, {});
+  return TextByMagnitude(Value, resistanceRows, {});
 }
 
-std::string FormatTime(f32 Value) { return Value == 0 ? "0  " : ByMagnitude(Value, timeRows, timeMask); }
+std::string FormatTime(f32 Value) { return Value == 0 ? "0  " : TextByMagnitude(Value, timeRows, timeMask); }
 
 std::string FormatValue(f32 Value) {
   if (!(std::fabs(Value) > smallestValue)) return " 0.0000  ";
-  return ByMagnitude(Value, valueRows, {});
+  return TextByMagnitude(Value, valueRows, {});
 }
 
 std::string PadCell(f32 Value) {
