@@ -1,6 +1,5 @@
 #include "network/NetworkEdits.h"
 
-#include <algorithm>
 #include <utility>
 
 #include "core/NumericFault.h"
@@ -95,9 +94,15 @@ void MoveStagesUp(Network& network, int first, int places) { MoveUp(network, fir
 
 void MovePartsUp(Network& network, int first, int places) { MoveUp(network, first, places, TakePart); }
 
-void Reverse(Network& network) {
-  network.Rsource[1] = std::max(network.Rsource[1], leastSource);
-  std::swap(network.Rsource[1], network.Rload[1]);
+bool RaiseSource(Network& network) {
+  if (!(network.Rsource[1] < leastSource)) return false;
+  network.Rsource[1] = leastSource;
+  return true;
+}
+
+void SwapEndForEnd(Network& network) {
+  RaiseSource(network);
+  std::swap(network.Rsource, network.Rload);
   for (int s = 1; s <= network.Stages / 2; ++s) std::swap(network.stage[s], network.stage[network.Stages + 1 - s]);
 }
 

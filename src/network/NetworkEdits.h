@@ -46,10 +46,13 @@ void MoveStagesUp(Network& network, int first, int places);
 // way, so that the step sizes of tuning, which rest in the tolerances, stay with the numbers of their stages.
 void MovePartsUp(Network& network, int first, int places);
 
-// End for end: the last stage becomes the first, whole, and the terminations change sides; a source below 0.01 ohm
-// becomes 0.01 first, the least that can drive a network as load. Coupled inductors and transformers keep their primary
-// where it is within the stage.
-void Reverse(Network& network);
+// Raises a source below 0.01 ohm to 0.01, the least that can stand at a network's end as its load. True when it was
+// raised.
+bool RaiseSource(Network& network);
+
+// End for end: the last stage becomes the first, whole, and the terminations change sides with their step sizes, after
+// RaiseSource. Coupled inductors and transformers keep their primary where it is within the stage.
+void SwapEndForEnd(Network& network);
 
 // Raises all impedances by the factor: terminations, reference and inductors times `factor`, capacitors divided by it.
 // Only parts above 0 change. Nothing happens for a factor of 0 or less.

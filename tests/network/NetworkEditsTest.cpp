@@ -238,28 +238,49 @@ TEST(MovePartsUp, TolerancesAndOtherValuesKeepTheirPlaces) {
   EXPECT_EQ(network.stage[3], third);
 }
 
-TEST(Reverse, TurnsStagesAndTerminationsRound) {
+TEST(SwapEndForEnd, TurnsStagesAndTerminationsRound) {
   for (const int stages : {4, 5}) {
     Network network = Ladder(stages);
-    Reverse(network);
+    SwapEndForEnd(network);
     EXPECT_EQ(OrderOf(network), stages == 4 ? (Order{4, 3, 2, 1}) : (Order{5, 4, 3, 2, 1}));
     EXPECT_EQ(network.Rsource[1], 75);
     EXPECT_EQ(network.Rload[1], 50);
   }
 }
 
-TEST(Reverse, TwiceIsTheSameNetwork) {
+TEST(SwapEndForEnd, TwiceIsTheSameNetwork) {
   Network network = Ladder(7);
-  Reverse(network);
-  Reverse(network);
+  SwapEndForEnd(network);
+  SwapEndForEnd(network);
   EXPECT_EQ(network, Ladder(7));
 }
 
-TEST(Reverse, ASourceThatCannotBecomeALoadIsRaised) {
+TEST(SwapEndForEnd, ASourceThatCannotBecomeALoadIsRaised) {
   Network network = Ladder(2);
   network.Rsource[1] = 0.009F;
-  Reverse(network);
+  SwapEndForEnd(network);
   EXPECT_EQ(network.Rload[1], 0.01F);
+}
+
+// The step sizes of tuning rest beside the values.
+TEST(SwapEndForEnd, StepSizesGoWithTheirTerminations) {
+  Network network = Ladder(2);
+  network.Rsource[2] = 5;
+  network.Rload[2] = 10;
+  SwapEndForEnd(network);
+  EXPECT_EQ(network.Rsource[2], 10);
+  EXPECT_EQ(network.Rload[2], 5);
+}
+
+TEST(RaiseSource, RaisesWhatIsTooLowAndNothingElse) {
+  Network network = Ladder(2);
+  EXPECT_FALSE(RaiseSource(network));
+  EXPECT_EQ(network, Ladder(2));
+  network.Rsource[1] = 0.01F;
+  EXPECT_FALSE(RaiseSource(network));
+  network.Rsource[1] = 0;
+  EXPECT_TRUE(RaiseSource(network));
+  EXPECT_EQ(network.Rsource[1], 0.01F);
 }
 
 TEST(ScaleImpedance, RaisesInductorsAndTerminationsAndLowersCapacitors) {
