@@ -52,14 +52,16 @@ class Descriptor {
   // like, one where another process has it EWOULDBLOCK.
   bool Lock() const { return flock(fd_, LOCK_EX | LOCK_NB) == 0; }
 
-  bool Write(std::string_view text) const {
-    while (!text.empty()) {
-      const ssize_t written = write(fd_, text.data(), text.size());
+  // The number of bytes that it got to.
+  std::size_t Write(std::string_view text) const {
+    std::size_t done = 0;
+    while (done < text.size()) {
+      const ssize_t written = write(fd_, text.data() + done, text.size() - done);
       if (written < 0 && errno == EINTR) continue;
-      if (written <= 0) return false;
-      text.remove_prefix(static_cast<std::size_t>(written));
+      if (written <= 0) break;
+      done += static_cast<std::size_t>(written);
     }
-    return true;
+    return done;
   }
 
   // Some file systems tell only at a close that they could not store all of it. A second descriptor is closed for
@@ -105,7 +107,7 @@ WriteOutcome Failed(int error) { return {InWords(error)}; }
 
 WriteOutcome WriteStraight(const fs::path& path, std::string_view text) {
   Descriptor file(Open(path, O_WRONLY | O_CREAT | O_TRUNC));
-  return file.IsOpen() && file.Write(text) && file.Close() ? WriteOutcome{} : Failed(errno);
+  return file.IsOpen() && file.Write(text) == text.size() && file.Close() ? WriteOutcome{} : Failed(errno);
 }
 
 // Where a path leads after all symbolic links; the last of them may lead to a file that is not there yet.
@@ -195,21 +197,24 @@ void FlushFolder(const fs::path& path) {
   if (folder.IsOpen()) folder.Flush();
 }
 
-WriteOutcome Replace(const fs::path& path, const struct stat* old, std::string_view text) {
+WriteOutcome Replace(const fs::path& path, const struct stat* old, std::string_view text, OnFailure onFailure) {
   const fs::path folder = path.has_parent_path() ? path.parent_path() : fs::path(".");
   RemoveStale(folder);
   fs::path temporary;
   Descriptor file(OpenTemporary(folder, temporary));
   if (!file.IsOpen()) return errno == EACCES ? WriteOutcome{"its folder takes no new files"} : Failed(errno);
-  const bool stored = (old == nullptr || TakeOver(*old, file.Get())) && file.Write(text) && file.Flush() &&
-                      rename(temporary.c_str(), path.c_str()) == 0;
-  if (!stored) {
-    WriteOutcome failed = Failed(errno);
+  WriteOutcome outcome;
+  const bool takenOver = old == nullptr || TakeOver(*old, file.Get());
+  const std::size_t written = takenOver ? file.Write(text) : 0;
+  if (!takenOver || written < text.size() || !file.Flush()) outcome = Failed(errno);
+  const bool stays = outcome || (onFailure == OnFailure::KeepWhatWasWritten && written > 0);
+  if (!stays || rename(temporary.c_str(), path.c_str()) != 0) {
+    if (outcome) outcome = Failed(errno);
     unlink(temporary.c_str());
-    return failed;
+    return outcome;
   }
   FlushFolder(folder);
-  return {};
+  return outcome;
 }
 
 }  // namespace
@@ -231,11 +236,9 @@ WriteOutcome WriteTextFile(const std::string& path, std::string_view text, OnFai
   struct stat old {};
   const bool exists = stat(target.c_str(), &old) == 0;
   if (!exists && errno != ENOENT) return Failed(errno);  // links in a circle, a folder that may not be searched
-  if (onFailure == OnFailure::KeepWhatWasWritten || (exists && !S_ISREG(old.st_mode))) {
-    return WriteStraight(target, text);
-  }
+  if (exists && !S_ISREG(old.st_mode)) return WriteStraight(target, text);
   if (exists && faccessat(AT_FDCWD, target.c_str(), W_OK, AT_EACCESS) != 0) return Failed(errno);
-  return Replace(target, exists ? &old : nullptr, text);
+  return Replace(target, exists ? &old : nullptr, text, onFailure);
 }
 
 }  // namespace quilm

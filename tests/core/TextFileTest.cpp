@@ -108,6 +108,15 @@ TEST_F(TextFile, WhatWasWrittenStaysWhereAskedFor) {
   EXPECT_FALSE(
       InAProcess([&] { return WithFileSizeLimit(limitOfSize, Path(), longText, OnFailure::KeepWhatWasWritten); }));
   EXPECT_EQ(Read(Path()), longText.substr(0, limitOfSize));
+  EXPECT_EQ(Names(), std::vector<std::string>{"a.QLM"});
+}
+
+// An empty file in the place of the old one would keep nothing of either.
+TEST_F(TextFile, AWriteThatDoesNotBeginLeavesTheOldFile) {
+  WriteTextFile(Path(), "old");
+  EXPECT_FALSE(InAProcess([&] { return WithFileSizeLimit(0, Path(), longText, OnFailure::KeepWhatWasWritten); }));
+  EXPECT_EQ(Read(Path()), "old");
+  EXPECT_EQ(Names(), std::vector<std::string>{"a.QLM"});
 }
 
 TEST_F(TextFile, TheSignalOfTheSizeLimitIsAsBeforeAfterwards) {
