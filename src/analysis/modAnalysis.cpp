@@ -100,6 +100,11 @@ void AnalyzeSweep(Session& session) {
   if (!mark.empty()) TellOfFailedSweep(session, mark);
 }
 
+bool HaveResponses(Session& session) {
+  if (session.record.ResponsesValid != 1) AnalyzeSweep(session);
+  return session.record.ResponsesValid == 1;
+}
+
 void TellOfFailedSweep(Session& session, const std::string& mark) {
   session.platform.MessageBox("We had a plotting routine problem.\r\nSee modAnalysis line " + mark +
                                   "\r\nCheck analysis starting and stopping frequencies\r\n"

@@ -43,6 +43,9 @@ std::span<const f32> SweptFrequencies(const Responses& responses);
 // SweepLadder, with the message of a failure; the Schematic page then shows what the network is.
 void AnalyzeSweep(Session& session);
 
+// Sweeps only when the responses are not valid. True when they are afterwards.
+bool HaveResponses(Session& session);
+
 // Tells of a sweep that failed, by its line mark, as AnalyzeSweep does.
 void TellOfFailedSweep(Session& session, const std::string& mark);
 

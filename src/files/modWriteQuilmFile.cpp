@@ -1,6 +1,5 @@
 #include "files/modWriteQuilmFile.h"
 
-#include <cstdio>
 #include <filesystem>
 
 #include "core/Identity.h"
@@ -10,6 +9,7 @@
 #include "files/modReadQuilmFiles.h"
 #include "shell/History.h"
 #include "shell/Session.h"
+#include "shell/ShortDate.h"
 #include "shell/modWriteConfig.h"
 
 namespace quilm {
@@ -18,12 +18,6 @@ namespace {
 
 constexpr f64 emptySeconds = 2;
 constexpr const char* unnamedDesign = "design.QLM";
-
-std::string ShortDate(const DateTime& now) {
-  char text[32];
-  std::snprintf(text, sizeof text, "%04d-%02d-%02d", now.year, now.month, now.day);
-  return text;
-}
 
 // The configuration and session files are the program's own; a design is offered under its own name or a new one.
 std::string OfferedName(Session& session) {

@@ -14,6 +14,8 @@
 #include "pages/edit/frmEditCircuit.h"
 #include "pages/edit/frmManualEntry.h"
 #include "pages/edit/frmManualEntryOptions.h"
+#include "pages/export/frmGetSnPoptions.h"
+#include "pages/export/frmWriteFiles.h"
 #include "pages/guidance/frmHelp.h"
 #include "pages/plot/frmBlank.h"
 #include "pages/plot/frmEditLimits.h"
@@ -65,6 +67,8 @@ PageDirectory AllPages() {
       {PageId::ManualEntryOptions, Make<frmManualEntryOptions>},
       {PageId::OverlaySaveList, Make<frmOverlaySaveList>},
       {PageId::OverlayGetList, Make<frmOverlayGetList>},
+      {PageId::WriteFiles, Make<frmWriteFiles>},
+      {PageId::GetSnPoptions, Make<frmGetSnPoptions>},
       {PageId::Exit, Make<frmExit>},
       {PageId::ChangeTitle, Make<frmChangeTitle>},
       {PageId::AddInfo, Make<frmAddInfo>},

@@ -1,8 +1,6 @@
 #include "reports/PartsList.h"
 
-#include <array>
 #include <cmath>
-#include <cstdio>
 #include <iterator>
 #include <string>
 #include <string_view>
@@ -14,6 +12,7 @@
 #include "core/modGeneral.h"
 #include "reports/Report.h"
 #include "shell/Session.h"
+#include "shell/ShortDate.h"
 #include "shell/Version.h"
 
 namespace quilm {
@@ -129,19 +128,13 @@ void PrintDesignData(Report& report, const DesignRecord& record) {
   report.Line("Output termination: " + Trimmed(FormatResistance(record.Rload[1])));
 }
 
-std::string DateText(const DateTime& today) {
-  std::array<char, 32> text{};
-  std::snprintf(text.data(), text.size(), "%04d-%02d-%02d", today.year, today.month, today.day);
-  return text.data();
-}
-
 }  // namespace
 
 void PrintParts(const DesignRecord& record, const DateTime& today, Canvas& printer) {
   printer.FontName = "Arial";
   printer.FontSize = 10;
   Report report(printer, grid);
-  report.SetFoot({record.DesignFileName, DateText(today) + "   -   Quilm " + ProgramVersion()});
+  report.SetFoot({record.DesignFileName, ShortDate(today) + "   -   Quilm " + ProgramVersion()});
   report.Line("Parts List");
   if (!record.CircuitTitle.empty()) report.Line(record.CircuitTitle);
   report.Skip();

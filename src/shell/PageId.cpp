@@ -26,6 +26,8 @@ std::string_view FormName(PageId id) {
       return "frmManualEntryOptions";
     case PageId::WriteFiles:
       return "frmWriteFiles";
+    case PageId::GetSnPoptions:
+      return "frmGetSnPoptions";
     case PageId::Exit:
       return "frmExit";
     case PageId::ChangeTitle:

@@ -17,6 +17,7 @@ enum class PageId {
   ManualEntry,
   ManualEntryOptions,
   WriteFiles,
+  GetSnPoptions,
   Exit,
   ChangeTitle,
   AddInfo,

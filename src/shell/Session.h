@@ -5,6 +5,7 @@
 #include <memory>
 #include <string>
 
+#include "core/ExportChoices.h"
 #include "core/RecordFwd.h"
 #include "core/SchematicView.h"
 #include "core/SmithView.h"
@@ -55,6 +56,7 @@ class Session {
   SmithView smithView;
   SchematicView schematicView;
   StepTexts stepTexts;
+  ExportChoices exports;
 
   PlotSheet plot;  // the plot on display
 
