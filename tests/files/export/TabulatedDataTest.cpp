@@ -54,7 +54,7 @@ TEST_F(Tabulated, EasyCellsAreDisplayTextsFromTheRight) {
             " Hz:        dB:      degrees:   dB:      secs:    v/v:      ohms:      degrees:\r\n"
             "\r\n"
             "        1k   -3.0103        45    -1E-05      320n         1        75    0.0000\r\n"
-            "  1.23457M    -120.5      -180      -140     -1.5p      20M     62.5G     -89.5\r\n"
+            "  1.23457M    -120.5      -180      -140     -1.5p       20M     62.5G     -89.5\r\n"
             "\r\n");
 }
 
