@@ -123,11 +123,10 @@ void Compiler::Tank(CompiledStage& out, const Stage& stage, StageForm form) {
 
 void Compiler::LineOf(CompiledStage& out, const Stage& stage, StageForm form, bool open) {
   const LineValue& line = stage.TLval;
-  const f64 degrees = line.degrees == quarterWave ? beyondQuarterWave : line.degrees;
   out.form = form;
   out.open = open;
   out.z = line.impedance;
-  out.t = degrees / (static_cast<f64>(line.freq) * 360);
+  out.t = LineDelay(stage);
   const bool dividesByImpedance = form == StageForm::Line || (form == StageForm::ShuntStub && open);
   if (line.freq == 0 || (dividesByImpedance && line.impedance == 0)) fails = true;
 }
@@ -246,6 +245,12 @@ f32 QualityFrequency(const Entries& entries, const SweepSettings& sweep) {
   if (entries.Width > 0) return entries.Width;
   NumericFaultScope scope;
   return scope.Store(std::sqrt(static_cast<f64>(sweep.Fstop) * static_cast<f64>(sweep.Fstart)));
+}
+
+f64 LineDelay(const Stage& stage) {
+  const LineValue& line = stage.TLval;
+  const f64 degrees = line.degrees == quarterWave ? beyondQuarterWave : line.degrees;
+  return degrees / (static_cast<f64>(line.freq) * 360);
 }
 
 Ladder Compile(const Network& network, f32 Fq) {

@@ -64,8 +64,11 @@ struct Ladder {
 // the sweep limits. Throws NumericFault when that mean does not exist.
 f32 QualityFrequency(const Entries& entries, const SweepSettings& sweep);
 
-// Compiles the stage list. Never fails: what cannot be analysed is marked in the result. A line of exactly 90 degrees
-// is analysed as 90.0001 degrees, so that its tangent exists at the reference frequency.
+// The delay of a line or stub, seconds, as it is analysed: a line of exactly 90 degrees as one of 90.0001 degrees, so
+// that its tangent exists at the reference frequency. Not finite for a frequency of 0.
+f64 LineDelay(const Stage& stage);
+
+// Compiles the stage list. Never fails: what cannot be analysed is marked in the result.
 Ladder Compile(const Network& network, f32 Fq);
 
 }  // namespace quilm
