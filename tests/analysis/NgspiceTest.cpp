@@ -5,13 +5,10 @@
 
 #include <cmath>
 #include <complex>
-#include <cstdlib>
-#include <filesystem>
-#include <fstream>
-
-#include <unistd.h>
+#include <vector>
 
 #include "analysis/Kernel.h"
+#include "support/NgspiceBatch.h"
 #include "support/NgspiceNetlist.h"
 #include "support/RandomLadder.h"
 
@@ -20,46 +17,17 @@ namespace {
 
 constexpr f64 f0 = 1e6;  // where inductor Q is quoted
 
-// The analysis of one frequency, its result in a file.
-std::string Deck(const NgspiceNetlist& netlist, const std::string& result) {
-  std::string text;
-  for (const std::string& line : netlist.Lines()) text += line + "\n";
-  return text + ".control\nset wr_singlescale\nset numdgt=15\nac lin 1 1e6 1e6\nwrdata " + result + " v(" +
-         netlist.Output() + ")\nquit\n.endc\n.end\n";
+NgspiceCircuit Circuit(const DesignRecord& record) {
+  const NgspiceNetlist netlist(record, f0);
+  std::string deck;
+  for (const std::string& line : netlist.Lines()) deck += line + "\n";
+  return {deck + ".end\n", "lin 1 1e6 1e6", netlist.Output()};
 }
 
-class Ngspice : public testing::Test {
- protected:
-  void SetUp() override {
-    folder_ = std::filesystem::temp_directory_path() / ("quilm-ngspice-" + std::to_string(::getpid()));
-    std::filesystem::create_directories(folder_);
-    ASSERT_EQ(std::system("ngspice --version >/dev/null 2>&1"), 0)
-        << "ngspice is not installed; tools/install-packages test installs it";
-  }
-  void TearDown() override { std::filesystem::remove_all(folder_); }
-
-  // The voltage across the load for a source of 1 V.
-  std::complex<f64> OutputOf(const DesignRecord& record) {
-    const std::string circuit = (folder_ / "ladder.cir").string();
-    const std::string result = (folder_ / "ladder.data").string();
-    std::filesystem::remove(result);
-    std::ofstream(circuit) << Deck(NgspiceNetlist(record, f0), result);
-    EXPECT_EQ(std::system(("ngspice -b " + circuit + " >/dev/null 2>&1").c_str()), 0);
-    std::ifstream in(result);
-    f64 frequency = 0;
-    f64 re = 0;
-    f64 im = 0;
-    in >> frequency >> re >> im;
-    EXPECT_TRUE(in) << "no result in " << result;
-    return {re, im};
-  }
-
-  std::filesystem::path folder_;
-};
-
-TEST_F(Ngspice, AgreesOnRandomLaddersOfEveryElement) {
+std::vector<DesignRecord> Ladders() {
   std::mt19937 random(11);
   const f32 ratios[] = {0.25F, 0.5F, 2, 4};  // with exact reciprocals
+  std::vector<DesignRecord> ladders;
   for (int trial = 0; trial < 60; ++trial) {
     DesignRecord record = RandomLadder(random, 1 + trial % 9, AnalysableTypes());
     // Every type stands in some ladder on its own, too.
@@ -72,12 +40,42 @@ TEST_F(Ngspice, AgreesOnRandomLaddersOfEveryElement) {
       // The reciprocal of a shunt resistance rests in 32 bits; a power of two has an exact one.
       if (record.stage[s].ElementType == ShuntR) record.stage[s].Rval.value = 64;
     }
+    ladders.push_back(record);
+  }
+  return ladders;
+}
+
+TEST(Ngspice, AgreesOnRandomLaddersOfEveryElement) {
+  const std::vector<DesignRecord> ladders = Ladders();
+  std::vector<NgspiceCircuit> circuits;
+  for (const DesignRecord& record : ladders) circuits.push_back(Circuit(record));
+  const auto results = RunNgspice(circuits);
+  for (std::size_t trial = 0; trial < ladders.size(); ++trial) {
+    const DesignRecord& record = ladders[trial];
+    ASSERT_EQ(results[trial].size(), 1U) << "trial " << trial;
+    const std::complex<f64> V = results[trial][0].voltage;
     const Figures ours = EvaluateOne(Compile(record, static_cast<f32>(f0)), static_cast<f32>(f0));
-    const std::complex<f64> V = OutputOf(record);
     const f64 available = static_cast<f64>(record.Rload[1]) / (4 * static_cast<f64>(record.Rsource[1]));
     EXPECT_NEAR(ours.transDB, 10 * std::log10(std::norm(V) / available), 1e-6) << "trial " << trial;
     EXPECT_NEAR(std::remainder(ours.angle - std::arg(V) * 180 / Pi, 360), 0, 1e-5) << "trial " << trial;
   }
+}
+
+// A name used twice is refused by ngspice; the figures of the circuit before must not stand in for it.
+TEST(Ngspice, ARefusedCircuitHasNoFiguresAndTheNextOneHasItsOwn) {
+  const std::string divider = "divider\nV1 1 0 AC 2\nR1 1 2 50\nR2 2 0 50\n";
+  const std::string sweep = "dec 1 1000 10000";
+  std::string log;
+  const auto results =
+      RunNgspice({{divider, sweep, "2"}, {divider + "R2 2 0 75\n", sweep, "2"}, {divider, sweep, "1"}}, &log);
+  ASSERT_EQ(results.size(), 3U);
+  ASSERT_EQ(results[0].size(), 2U) << log;
+  EXPECT_EQ(results[0][1].frequency, 10000);
+  EXPECT_NEAR(std::abs(results[0][1].voltage - 1.0), 0, 1e-12);
+  EXPECT_TRUE(results[1].empty());
+  EXPECT_NE(log.find("already exists"), std::string::npos);
+  ASSERT_EQ(results[2].size(), 2U);
+  EXPECT_NEAR(std::abs(results[2][0].voltage - 2.0), 0, 1e-12);
 }
 
 }  // namespace
