@@ -95,6 +95,9 @@ class Writer {
 
   std::string Take() { return out_.Take(); }
 
+  // Where a fault came up, in words.
+  std::string Place() const { return k_ >= 1 && k_ <= record_.Stages ? " in stage " + Digits(k_) : std::string(); }
+
  private:
   int Ground() const { return static_cast<int>(common_); }
   int Inner() const { return 10 * k_; }
@@ -413,7 +416,7 @@ ExportText SpiceNetlist(const DesignRecord& record, SpiceFileKind kind, std::str
   try {
     writer.Write(date);
   } catch (const Fault& fault) {
-    out.failure = fault.what();
+    out.failure = fault.what() + writer.Place();
   }
   out.text = writer.Take();
   return out;
