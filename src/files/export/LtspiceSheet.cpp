@@ -1,0 +1,34 @@
+#include "files/export/LtspiceSheet.h"
+
+#include "core/NumberText.h"
+
+namespace quilm {
+
+namespace {
+
+constexpr i16 mainWire = 80;
+
+std::string X(int x) { return NumText(static_cast<i16>(x)); }
+std::string Y(int y) { return NumText(static_cast<i16>(mainWire + y)); }
+
+}  // namespace
+
+void LtspiceSheet::Line(std::string_view text) { text_.append(text).append("\r\n"); }
+
+std::string LtspiceSheet::At(GridPoint place) const { return X(x_ + place.x) + Y(place.y); }
+
+void LtspiceSheet::Symbol(std::string_view symbol, GridPoint place, std::string_view turn) {
+  Line(std::string(symbol) + At(place) + std::string(turn));
+}
+
+void LtspiceSheet::Wires(std::initializer_list<GridWire> wires) {
+  for (const GridWire& wire : wires) Line("WIRE " + At(wire.from) + At(wire.to));
+}
+
+void LtspiceSheet::Ground(GridPoint place) { Line("FLAG " + At(place) + "0"); }
+
+void LtspiceSheet::Text(GridPoint place, std::string_view rest) { Line("TEXT " + At(place) + std::string(rest)); }
+
+void LtspiceSheet::Label(i16 x, i16 number) { Line("TEXT " + X(x_ + x) + "512 Center 0 ;" + NumText(number)); }
+
+}  // namespace quilm
