@@ -9,7 +9,8 @@
 
 namespace quilm {
 
-// The values of a stage of its type: 10 uH, 1 nF, 75 ohms, a line of 90 degrees at 1 MHz, coils of 1 uH and 4 uH coupled by 0.5.
+// The values of a stage of its type: 10 uH, 1 nF, 75 ohms, a line of 90 degrees at 1 MHz, coils of 1 uH and 4 uH
+// coupled by 0.5.
 inline void SetValues(Stage& stage) {
   const i16 type = stage.ElementType;
   if (HasSlot(type, SlotCode::Inductance)) stage.Lval.value = 10e-6F;

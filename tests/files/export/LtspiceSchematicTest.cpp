@@ -151,6 +151,15 @@ TEST(LtspiceSchematic, ASmallLossIsWrittenAsItIs) {
   EXPECT_THAT(Written(record), Contains("SYMATTR Value  "));
 }
 
+// Parts below zero, of coupled resonators of wide designs, lose their sign.
+TEST(LtspiceSchematic, APartIsWrittenByItsMagnitude) {
+  DesignRecord record = LadderOf({SeriesSLC});
+  const std::vector<std::string> positive = Written(record);
+  record.stage[1].Lval.value *= -1;
+  record.stage[1].Cval.value *= -1;
+  EXPECT_EQ(Written(record), positive);
+}
+
 TEST(LtspiceSchematic, WithoutALossThereIsNoFile) {
   DesignRecord record = LadderOf({ShuntL, SeriesC});
   record.Width = record.Fstart = 0;
