@@ -51,6 +51,7 @@ class Walk {
     Schematic();
     Edit();
     Visit("cmdAnalysis", "analysis");
+    WriteFiles();
     Visit("cmdTabulate", "tabulated");
     Visit("cmdDesign", "design-return");
     Cauer();
@@ -124,6 +125,12 @@ class Walk {
     Tool("Command4", "singly-terminated", "cmdIgnore");
     Tool("Command11", "end-sections", "cmdIgnore");
     Modal("optMderived", "m-derived");
+  }
+
+  void WriteFiles() {
+    Visit("cmdSpice", "write-files");
+    Visit("cmdWriteSnP", "s-parameters");
+    Press("cmdExit");
   }
 
   void StepUp(const char* name, int count) {

@@ -1,6 +1,7 @@
 // The page that writes the design and its responses for other programs.
 #pragma once
 
+#include "files/export/SpiceNetlist.h"
 #include "shell/Page.h"
 
 namespace quilm {
@@ -16,6 +17,8 @@ class frmWriteFiles : public Page {
   Layout MakeLayout() override;
 
  private:
+  void WriteSpice(const ExportKind& kind, SpiceFileKind file);
+  void WriteVerified();
   void WriteTable(const ExportKind& kind, std::string (*table)(const ResponseSpans&));
   void GoTo(PageId target);
 
@@ -35,6 +38,15 @@ class frmWriteFiles : public Page {
                                  "The network with source and load as a drawing for LTspice"};
   Button cmdWriteSpiceSymbol_{*this, "cmdWriteSpiceSymbol", " Write LTspice symbol file (.ASY)",
                               "A block for schematics that goes with the subcircuit file"};
+  OptionGroup dialects_;
+  OptionButton optNgspice_{*this, dialects_, "optNgspice", "For ngspice", "In the dialect of ngspice"};
+  OptionButton optLTspice_{*this, dialects_, "optLTspice", "For LTspice", "In the dialect of LTspice"};
+  Button cmdWriteVerified_{*this, "cmdWriteVerified", "Write verified netlist (.CIR)",
+                           "A deck whose results are those of the Plot page at every frequency"};
+  Label lblWhich_{*this, "lblWhich",
+                  "To simulate in ngspice or LTspice take the verified netlist; the generic one has limits, and is for "
+                  "other programs."};
+
   Button cmdExit_{*this, "cmdExit", "Return to Quilm", "Go to the Analysis page"};
 };
 
