@@ -39,13 +39,13 @@ void DrawSource(LtspiceSheet& sheet, const DesignRecord& record) {
   WriteDirective(sheet, record);
   sheet.Line("TEXT 0 576 Left 0  ;Schematic drawn by Quilm");
   sheet.Advance(48);
-  DrawResistor(sheet, "SYMBOL res", {144, -16}, Stance::Along, "RS", record.Rsource[1]);
+  DrawLtspiceResistor(sheet, "SYMBOL res", {144, -16}, Stance::Along, "RS", record.Rsource[1]);
   sheet.Wires({{{0, 0}, {48, 0}}, {{128, 0}, {176, 0}}});
   sheet.Advance(176);
 }
 
 void DrawLoad(LtspiceSheet& sheet, const DesignRecord& record) {
-  DrawResistor(sheet, "SYMBOL res ", {48, 64}, Stance::Upright, "RL", record.Rload[1]);
+  DrawLtspiceResistor(sheet, "SYMBOL res ", {48, 64}, Stance::Upright, "RL", record.Rload[1]);
   sheet.Wires({{{0, 0}, {64, 0}}, {{64, 0}, {64, 80}}, {{64, 256}, {64, 160}}});
   sheet.Ground({64, 256});
 }
@@ -56,7 +56,7 @@ std::string Schematic(const DesignRecord& record) {
   sheet.Line("Version 4");
   sheet.Line("SHEET 1 " + NumText(SheetWidthFor(record)) + " 600");
   DrawSource(sheet, record);
-  for (i16 s = 1; s <= record.Stages; ++s) DrawStage(sheet, record, s, Fq);
+  for (i16 s = 1; s <= record.Stages; ++s) DrawLtspiceStage(sheet, record, s, Fq);
   DrawLoad(sheet, record);
   return sheet.Take();
 }
@@ -75,7 +75,7 @@ i16 SheetWidthFor(const Network& network) {
   constexpr int withoutStages = 304;
   constexpr int least = 800;
   int width = withoutStages;
-  for (int s = 1; s <= network.Stages; ++s) width += StageWidth(network.stage[s].ElementType);
+  for (int s = 1; s <= network.Stages; ++s) width += LtspiceStageWidth(network.stage[s].ElementType);
   return static_cast<i16>(std::max(width, least));
 }
 

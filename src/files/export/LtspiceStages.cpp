@@ -73,7 +73,7 @@ struct Drawing {
   }
 
   void Resistor(std::string_view symbol, GridPoint place, Stance stance) const {
-    DrawResistor(sheet, symbol, place, stance, Numbered('R'), stage.Rval.value);
+    DrawLtspiceResistor(sheet, symbol, place, stance, Numbered('R'), stage.Rval.value);
   }
 
   // Td is the delay of the line, seconds.
@@ -333,14 +333,14 @@ const StageForm& FormOf(i16 elementType) {
 
 }  // namespace
 
-void DrawResistor(LtspiceSheet& sheet, std::string_view symbol, GridPoint place, Stance stance, std::string_view name,
-                  f32 ohms) {
+void DrawLtspiceResistor(LtspiceSheet& sheet, std::string_view symbol, GridPoint place, Stance stance,
+                         std::string_view name, f32 ohms) {
   Place(sheet, symbol, resistorForm, place, stance);
   Name(sheet, name);
   Value(sheet, SpiceQResistor(ohms));
 }
 
-void DrawStage(LtspiceSheet& sheet, const DesignRecord& record, i16 s, f32 Fq) {
+void DrawLtspiceStage(LtspiceSheet& sheet, const DesignRecord& record, i16 s, f32 Fq) {
   const Stage& stage = record.stage[s];
   const StageForm& form = FormOf(stage.ElementType);
   if (form.draw == nullptr) return;
@@ -349,6 +349,6 @@ void DrawStage(LtspiceSheet& sheet, const DesignRecord& record, i16 s, f32 Fq) {
   sheet.Advance(form.advance);
 }
 
-i16 StageWidth(i16 elementType) { return FormOf(elementType).width; }
+i16 LtspiceStageWidth(i16 elementType) { return FormOf(elementType).width; }
 
 }  // namespace quilm

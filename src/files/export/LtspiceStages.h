@@ -12,16 +12,16 @@ namespace quilm {
 enum class Stance { Upright, Along };
 
 // A resistor; the place is that of the symbol, some way off its pins. `symbol` comes with the blanks behind its name.
-void DrawResistor(LtspiceSheet& sheet, std::string_view symbol, GridPoint place, Stance stance, std::string_view name,
-                  f32 ohms);
+void DrawLtspiceResistor(LtspiceSheet& sheet, std::string_view symbol, GridPoint place, Stance stance,
+                         std::string_view name, f32 ohms);
 
 // Draws stage s at the pen and moves the pen behind it. Losses are those at Fq, Hz. A type without a drawing
 // (transformers and forms of entry) draws nothing and leaves the pen where it is, so that the main wire runs on.
 // Throws NumericFault where a loss or a delay does not exist: Qind, a capacitance, a line's frequency or Fq of 0.
-void DrawStage(LtspiceSheet& sheet, const DesignRecord& record, i16 s, f32 Fq);
+void DrawLtspiceStage(LtspiceSheet& sheet, const DesignRecord& record, i16 s, f32 Fq);
 
 // What a stage of a type adds to the width of the sheet. Not quite what its drawing takes: LTspice does not mind, and
 // files of the same design stay comparable.
-i16 StageWidth(i16 elementType);
+i16 LtspiceStageWidth(i16 elementType);
 
 }  // namespace quilm
