@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QPageLayout>
 #include <QPrintDialog>
 #include <QProcess>
 #include <QSettings>
@@ -97,8 +98,10 @@ bool WindowPlatform::MayReplace(const QString& path, const std::string& title) {
   return MessageBox(question, Buttons::YesNo, Icon::Question, title) == Answer::Yes;
 }
 
-Canvas* WindowPlatform::PrintDialog() {
+Canvas* WindowPlatform::PrintDialog(Orientation paper) {
   auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
+  printer->setPageOrientation(paper == Orientation::Portrait ? QPageLayout::Portrait : QPageLayout::Landscape);
+  printer->setCreator(QStringLiteral("Quilm"));
   QPrintDialog dialog(printer.get(), stage_.FrontWindow());
   if (stage_.RunDialog(dialog) != QDialog::Accepted) return nullptr;
   auto canvas = std::make_unique<PrinterCanvas>(std::move(printer));

@@ -25,7 +25,7 @@ class WindowPlatform : public Platform {
   std::optional<std::string> OpenDialog(const std::string& title, const std::string& filter) override;
   std::optional<std::string> SaveDialog(const std::string& title, const std::string& filter,
                                         const std::string& defaultName) override;
-  Canvas* PrintDialog() override;
+  Canvas* PrintDialog(Orientation paper) override;
   void Beep() override;
   bool ShellOpen(const std::string& path) override;
   bool ShowSystemInformation() override;

@@ -122,7 +122,7 @@ void DrawMarkers(const PlotSetup& setup, Canvas& canvas) {
   if (setup.markers.empty()) return;
   const PenScope pen(canvas);
   canvas.ForeColor = colorBlack;
-  DrawRows(setup.markers, canvas);
+  if (!setup.inReport) DrawRows(setup.markers, canvas);
   if (IsRectangular(setup.scales.PlotCode)) DrawTicks(setup, canvas);
 }
 

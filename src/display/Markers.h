@@ -35,8 +35,9 @@ std::vector<MarkerReading> ReadMarkers(const DesignRecord& record, const Respons
 // A sheet's scale with the rows of so many markers at its foot.
 Scale WithMarkerRows(Scale scale, std::size_t markers);
 
-// Draws the headings and rows of the setup's markers below the plot and, on a rectangular plot, their ticks; nothing
-// without markers. Throws NumericFault when a scale has no height or the axis no width.
+// Draws the headings and rows of the setup's markers below the plot, which a report has as a table, and, on a
+// rectangular plot, their ticks; nothing without markers. Throws NumericFault when a scale has no height or the axis no
+// width.
 void DrawMarkers(const PlotSetup& setup, Canvas& canvas);
 
 }  // namespace quilm

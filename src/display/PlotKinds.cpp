@@ -37,7 +37,10 @@ const std::array<PlotKind, 10> kinds = {
      {6, {impedance}, {{Q::Zin, 1}}},
      {7, {impedance, {"Angle of Input Impedance", Q::ZinAngle}}, {{Q::Zin, 1}, {Q::ZinAngle, 2}}},
      {9, {impedance, transmission}, {{Q::Zin, 1}, {Q::Transmission, 2}}},
-     {10, {{"Input (real)", Q::Real}, {"Input (imaginary)", Q::Imaginary}}, {{Q::Real, 1}, {Q::Imaginary, 2}}},
+     {10,
+      {{"Input (real)", Q::Real, "Input Impedance (real)"},
+       {"Input (imaginary)", Q::Imaginary, "Input impedance (imaginary)"}},
+      {{Q::Real, 1}, {Q::Imaginary, 2}}},
      {13, {vswr, transmission}, {{Q::VSWR, 1}, {Q::Transmission, 2}}}}};
 
 }  // namespace

@@ -14,6 +14,7 @@ namespace quilm {
 struct PlotAxis {
   std::string title;
   Quantity quantity = Quantity::Transmission;  // decides the scale
+  std::string printedTitle = {};               // in reports, where that is another one
 };
 
 struct PlotTrace {

@@ -29,6 +29,7 @@ struct PlotSetup {
   f32 reference = 0;       // ohms, of the charts' input reflection
   std::string title = {};  // of the design, for paper
   PlotDress dress = PlotDress::Usual;
+  bool inReport = false;                    // on a sheet that has a title, tables and a foot of its own
   std::vector<LimitArea> areas = {};        // that the plot shows
   std::vector<MarkerReading> markers = {};  // that it tells of
 };

@@ -6,6 +6,7 @@
 
 #include "core/DesignRecord.h"
 #include "core/Fault.h"
+#include "core/Responses.h"
 #include "display/LimitDrawing.h"
 #include "display/LimitEntry.h"
 #include "display/PlotKinds.h"
@@ -66,6 +67,8 @@ void ClearSheet(PlotSheet& sheet) {
   sheet.colors = {};
   sheet.limitEntry = {};
   sheet.overlays.fetched.clear();
+  sheet.shown.reset();
+  sheet.extremesShown = false;
 }
 
 void ChoosePlot(Session& session, i16 code) {
@@ -79,6 +82,8 @@ void RedrawPlot(Session& session, PlotDress dress) {
   PlotSheet& sheet = session.plot;
   sheet.live.Clear();
   sheet.overlays.fetched.clear();
+  sheet.shown = std::make_shared<const Responses>(session.responses);
+  sheet.extremesShown = false;
   try {
     HoldLossBottom(session.record);
     const ResponseSpans responses = SpansOf(session.responses, LastPoint(session.record));
@@ -91,6 +96,27 @@ void RedrawPlot(Session& session, PlotDress dress) {
     ShowPlotFault(session);
   }
   sheet.live.SetScale(sheet.picture.CurrentScale());
+}
+
+void RedrawWithExtremes(Session& session) {
+  RedrawPlot(session, PlotDress::WithoutTraces);
+  PlotSheet& sheet = session.plot;
+  AddExtremes(SetupOf(session), session.responses, LastPoint(session.record), sheet.places, sheet.picture);
+  sheet.extremesShown = true;
+}
+
+void AddExtremes(PlotSetup setup, const Responses& responses, int last, AxisPlaces& places, Canvas& canvas) {
+  constexpr i16 extremeWidth = 2;  // pixels
+  constexpr Color nominalColor = 0x119911;
+  constexpr TraceColors extremeColors{0xFF1111, 0x1111FF};
+  setup.colors = {nominalColor, nominalColor};
+  AddTraces(setup, SpansOf(responses, last), places, canvas);
+  setup.colors = extremeColors;
+  if (!setup.inReport) setup.scales.PlotLineWidth = extremeWidth;
+  std::vector<f32> relative;
+  for (const ExtremeSelect which : {ExtremeSelect::Max, ExtremeSelect::Min}) {
+    AddTraces(setup, ExtremesOf(responses, last, which, setup.scales, relative), places, canvas);
+  }
 }
 
 void AddTraces(Session& session, const ResponseSpans& responses, Canvas& canvas) {

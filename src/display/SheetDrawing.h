@@ -32,6 +32,13 @@ void ChoosePlot(Session& session, i16 code);
 // LossBottom at -0.3 or below before. A failure is shown to the user; what was drawn until then stays.
 void RedrawPlot(Session& session, PlotDress dress = PlotDress::Usual);
 
+// The same with the nominal trace and the envelope of the trials and of the nominal sweep in the traces' stead.
+void RedrawWithExtremes(Session& session);
+
+// Adds these over what the canvas holds; the envelope 2 pixels wide, in a report as all traces there. `last` is the
+// sweep's last point. Throws like DrawSheet.
+void AddExtremes(PlotSetup setup, const Responses& responses, int last, AxisPlaces& places, Canvas& canvas);
+
 // Adds the traces of some responses in the sheet's colours to a canvas that shows the present plot: the sheet's
 // picture, or the layer over it. Throws like DrawSheet.
 void AddTraces(Session& session, const ResponseSpans& responses, Canvas& canvas);

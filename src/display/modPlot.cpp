@@ -102,7 +102,8 @@ void DrawScales(const PlotSetup& setup, const PlotKind& kind, Canvas& canvas) {
     const PlotTrace& trace = TraceOf(kind, axis);
     const ScaleSide side = SideOf(kind, axis);
     DrawScale(ScaleOf(setup.scales, axis.quantity), setup.scales.NrYints, side, canvas);
-    DrawTitle(setup, trace, axis.title, side, canvas);
+    const bool printed = setup.inReport && !axis.printedTitle.empty();
+    DrawTitle(setup, trace, printed ? axis.printedTitle : axis.title, side, canvas);
     if (kind.traces.size() > 1) DrawSample(setup, trace, side, canvas);
   }
 }
@@ -167,14 +168,14 @@ void DrawPlot(const PlotSetup& setup, const ResponseSpans& responses, AxisPlaces
   const PenScope pen(canvas);
   const PlotKind kind = KindOf(setup.scales);
   const Scale& scale = setup.dress == PlotDress::UnderProgress ? plotProgressScale : plotScale;
-  BeginPlot(WithMarkerRows(scale, setup.markers.size()), canvas);
+  BeginPlot(WithMarkerRows(scale, setup.inReport ? 0 : setup.markers.size()), canvas);
   DrawLimitAreas(setup, canvas);
   DrawHorizontalGrid(setup.scales.NrYints, canvas);
   DrawScales(setup, kind, canvas);
   DrawVerticalGrid(setup.axis, setup.scales.NrXints, canvas);
   DrawFrame(canvas);
   if (setup.dress != PlotDress::WithoutTraces) DrawTraces(setup, responses, places, canvas);
-  DrawFooters(setup.title, setup.markers.empty() ? BelowPlot::Free : BelowPlot::Markers, canvas);
+  if (!setup.inReport) DrawFooters(setup.title, setup.markers.empty() ? BelowPlot::Free : BelowPlot::Markers, canvas);
   DrawMarkers(setup, canvas);
 }
 

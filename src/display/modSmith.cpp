@@ -172,7 +172,7 @@ void DrawChart(const PlotSetup& setup, const ResponseSpans& responses, AxisPlace
   const PenScope pen(canvas);
   const bool traced = setup.dress != PlotDress::WithoutTraces;
   const Scale& scale = setup.dress == PlotDress::UnderProgress ? chartProgressScale : chartScale;
-  BeginPlot(WithMarkerRows(scale, setup.markers.size()), canvas);
+  BeginPlot(WithMarkerRows(scale, setup.inReport ? 0 : setup.markers.size()), canvas);
   DrawRoundGrid(setup, canvas);
   if (traced) DrawRoundTrace(setup, responses, canvas);
   if (IsSmith(setup) && setup.chart.VSWRCircleOn == 1) DrawVSWRCircle(ScaleFor(setup), setup.chart.VSWRCircle, canvas);
@@ -180,7 +180,7 @@ void DrawChart(const PlotSetup& setup, const ResponseSpans& responses, AxisPlace
   if (traced) DrawCornerTraces(setup, responses, places, canvas);
   PrintChartTitle(setup, canvas);
   PrintNote(setup, canvas);
-  DrawFooters(setup.title, setup.markers.empty() ? BelowPlot::Free : BelowPlot::Markers, canvas);
+  if (!setup.inReport) DrawFooters(setup.title, setup.markers.empty() ? BelowPlot::Free : BelowPlot::Markers, canvas);
   DrawMarkers(setup, canvas);
 }
 

@@ -75,25 +75,32 @@ void SaveOverlay(Session& session, int slot) {
   session.note = "The responses are overlay " + std::to_string(slot);
 }
 
-void GetOverlay(Session& session, int slot) {
-  StoredCurves curves;
-  int unread = 0;
-  for (const Quantity quantity : OverlaidQuantities(session.record.PlotCode)) {
-    std::ifstream in = OpenTextFile(OverlayPath(session.platform.ProgramFolder(), slot, quantity));
+OverlaySet ReadOverlaySet(const std::string& folder, int slot, i16 plotCode) {
+  OverlaySet set;
+  for (const Quantity quantity : OverlaidQuantities(plotCode)) {
+    std::ifstream in = OpenTextFile(OverlayPath(folder, slot, quantity));
     OverlayRead read = in ? ReadOverlay(in) : OverlayRead{};
-    if (read.curve.freq.empty()) {
-      TellMissing(session, slot);
-      return;
-    }
-    unread += read.unread;
-    curves[quantity] = std::move(read.curve);
+    if (read.curve.freq.empty()) return set;
+    set.unread += read.unread;
+    set.curves[quantity] = std::move(read.curve);
   }
-  DrawOverlay(SetupOf(session), curves, session.plot.picture);
+  set.complete = true;
+  return set;
+}
+
+void GetOverlay(Session& session, int slot) {
+  const OverlaySet overlay = ReadOverlaySet(session.platform.ProgramFolder(), slot, session.record.PlotCode);
+  if (!overlay.complete) {
+    TellMissing(session, slot);
+    return;
+  }
+  DrawOverlay(SetupOf(session), overlay.curves, session.plot.picture);
   session.plot.overlays.OverlayShown = 1;
   std::vector<int>& fetched = session.plot.overlays.fetched;
   if (std::find(fetched.begin(), fetched.end(), slot) == fetched.end()) fetched.push_back(slot);
   session.note = "Overlay " + std::to_string(slot);
-  if (unread > 0) session.note += ": " + std::to_string(unread) + " lines that cannot be read are left out";
+  if (overlay.unread > 0)
+    session.note += ": " + std::to_string(overlay.unread) + " lines that cannot be read are left out";
 }
 
 void DeleteOverlay(Session& session, int slot) {

@@ -20,6 +20,14 @@ bool HasOverlay(const Session& session, int slot);
 // written.
 void SaveOverlay(Session& session, int slot);
 
+// What the plot of a code draws of a slot.
+struct OverlaySet {
+  StoredCurves curves;
+  bool complete = false;  // no file is missing or without a point
+  int unread = 0;         // lines that hold no point
+};
+OverlaySet ReadOverlaySet(const std::string& folder, int slot, i16 plotCode);
+
 // Draws a slot over the present plot and remembers that it is there. A file that is missing, or has no point, is told
 // to the user, and nothing is drawn; lines that cannot be read are left out, which the status line tells.
 void GetOverlay(Session& session, int slot);

@@ -12,8 +12,6 @@
 #include "core/modGeneral.h"
 #include "reports/Report.h"
 #include "shell/Session.h"
-#include "shell/ShortDate.h"
-#include "shell/Version.h"
 
 namespace quilm {
 
@@ -134,7 +132,7 @@ void PrintParts(const DesignRecord& record, const DateTime& today, Canvas& print
   printer.FontName = "Arial";
   printer.FontSize = 10;
   Report report(printer, grid);
-  report.SetFoot({record.DesignFileName, ShortDate(today) + "   -   Quilm " + ProgramVersion()});
+  report.SetFoot({record.DesignFileName, FootLine(today)});
   report.Line("Parts List");
   if (!record.CircuitTitle.empty()) report.Line(record.CircuitTitle);
   report.Skip();

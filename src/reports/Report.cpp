@@ -1,10 +1,13 @@
 #include "reports/Report.h"
 
 #include <algorithm>
+#include <array>
+#include <cstdio>
 #include <utility>
 
 #include "core/Fault.h"
-#include "shell/Platform.h"
+#include "shell/PenScope.h"
+#include "shell/Version.h"
 
 namespace quilm {
 
@@ -31,13 +34,14 @@ void DrawAndClose(Canvas& printer, const std::function<void(Canvas&)>& draw) {
 
 }  // namespace
 
-Scale SheetScale(const Scale& paper, f32 width, f32 height) {
-  const f32 unitsPerTwip = std::max(width / paper.width, height / paper.height);
-  return {0, 0, paper.width * unitsPerTwip, paper.height * unitsPerTwip};
+Scale SheetScale(const Scale& paper, const Scale& sheet) {
+  const f32 unitsPerTwip = std::max(sheet.width / paper.width, sheet.height / paper.height);
+  const f32 width = paper.width * unitsPerTwip;
+  return {sheet.left - (width - sheet.width) / 2, sheet.top, width, paper.height * unitsPerTwip};
 }
 
-Report::Report(Canvas& printer, const LineGrid& grid) : printer_(printer), grid_(grid) {
-  printer_.SetScale(SheetScale(printer_.CurrentScale(), sheetWidth, sheetHeight));
+Report::Report(Canvas& printer, const LineGrid& grid, const Scale& sheet) : printer_(printer), grid_(grid) {
+  printer_.SetScale(SheetScale(printer_.CurrentScale(), sheet));
   printer_.ForeColor = colorBlack;
 }
 
@@ -46,13 +50,15 @@ void Report::SetHead(std::function<void(Canvas&)> head) {
   head_(printer_);
 }
 
+void Report::NextSheet() {
+  PrintFoot();
+  printer_.NewPage();
+  line_ = 0;
+  if (head_) head_(printer_);
+}
+
 f32 Report::NextLine() {
-  if (line_ >= grid_.lines) {
-    PrintFoot();
-    printer_.NewPage();
-    line_ = 0;
-    if (head_) head_(printer_);
-  }
+  if (line_ >= grid_.lines) NextSheet();
   return grid_.top + grid_.pitch * static_cast<f32>(line_++);
 }
 
@@ -83,9 +89,27 @@ void PrintColumns(Canvas& printer, f32 left, f32 y, f32 columnPitch, std::span<c
   }
 }
 
-std::string TryReport(Platform& platform, const std::function<void(Canvas&)>& draw) {
+std::string FootLine(const DateTime& today) {
+  std::array<char, 32> date{};
+  std::snprintf(date.data(), date.size(), "%04d-%02d-%02d", today.year, today.month, today.day);
+  return std::string(date.data()) + "   -   Quilm " + ProgramVersion();
+}
+
+void PrintTitle(Canvas& printer, f32 middle, f32 y, const std::string& title) {
+  constexpr f32 largest = 12;  // points
+  constexpr f32 widest = 10000;
+  const PenScope pen(printer);
+  printer.ForeColor = colorBlack;
+  printer.FontBold = true;
+  printer.FontSize = largest;
+  const f32 width = printer.TextWidth(title);
+  if (width > widest) printer.FontSize *= widest / width;
+  if (!title.empty()) printer.PrintAt(middle - printer.TextWidth(title) / 2, y, title);
+}
+
+std::string TryReport(Platform& platform, const std::function<void(Canvas&)>& draw, Orientation paper) {
   try {
-    Canvas* printer = platform.PrintDialog();
+    Canvas* printer = platform.PrintDialog(paper);
     if (printer != nullptr) DrawAndClose(*printer, draw);
     return {};
   } catch (const Fault& fault) {
@@ -93,10 +117,14 @@ std::string TryReport(Platform& platform, const std::function<void(Canvas&)>& dr
   }
 }
 
-void PrintReport(Platform& platform, const std::string& complaint, const std::function<void(Canvas&)>& draw) {
-  const std::string fault = TryReport(platform, draw);
-  if (fault.empty()) return;
-  platform.MessageBox(complaint + "\r\n" + fault, Buttons::Ok, Icon::Exclamation, "Printer Error");
+void TellPrinterError(Platform& platform, const std::string& text) {
+  platform.MessageBox(text, Buttons::Ok, Icon::Exclamation, "Printer Error");
+}
+
+void PrintReport(Platform& platform, const std::string& complaint, const std::function<void(Canvas&)>& draw,
+                 Orientation paper) {
+  const std::string fault = TryReport(platform, draw, paper);
+  if (!fault.empty()) TellPrinterError(platform, complaint + "\r\n" + fault);
 }
 
 }  // namespace quilm

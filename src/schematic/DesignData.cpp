@@ -45,14 +45,15 @@ f32 CauerStopband(const DesignRecord& record) {
 }
 
 // Cauer data of the lowpass that the design is made of.
-void AddStopband(std::vector<DataRow>& rows, const DesignRecord& record) {
+void AddStopband(std::vector<DataRow>& rows, const DesignRecord& record, DataFor whom) {
   if (record.Family != familyCauer) return;
+  const std::string stopband = whom == DataFor::Page ? "Cauer LP stopband " : "Stopband ";
   const f32 edge = CauerStopband(record);
-  if (edge > 0) rows.push_back({"Cauer LP stopband freq:  " + Text(edge, FormatFrequency), "Hz"});
-  if (record.Astop > 0) rows.push_back({"Cauer LP stopband depth:  " + Text(record.Astop, FormatValue), "dB"});
+  if (edge > 0) rows.push_back({stopband + "freq:  " + Text(edge, FormatFrequency), "Hz"});
+  if (record.Astop > 0) rows.push_back({stopband + "depth:  " + Text(record.Astop, FormatValue), "dB"});
 }
 
-DataGroup EntryGroup(const DesignRecord& record) {
+DataGroup EntryGroup(const DesignRecord& record, DataFor whom) {
   std::vector<DataRow> rows;
   if (record.Width > 0) rows.push_back({"Bandwidth:  " + Text(record.Width, FormatFrequency), "Hz"});
   if (record.Fcenter > 0) rows.push_back({"Center:  " + Text(record.Fcenter, FormatFrequency), "Hz"});
@@ -63,7 +64,7 @@ DataGroup EntryGroup(const DesignRecord& record) {
     if (record.Apass > 0) {
       rows.push_back({"Passband ripple:  " + ShortText(RoundedTo(record.Apass, decimals), LeadingZero::Drop), "dB"});
     }
-    AddStopband(rows, record);
+    AddStopband(rows, record, whom);
   }
   return {"Design data:", rows};
 }
@@ -88,24 +89,35 @@ std::string CapacitorRatioText(const Network& network) { return "Capacitors: " +
 
 std::string InductorRatioText(const Network& network) { return "Inductors: " + RatioText(InductorRange(network)); }
 
-std::vector<DataGroup> DesignData(const DesignRecord& record) {
+std::vector<DataGroup> DesignData(const DesignRecord& record, DataFor whom) {
   if (!(record.Width > 0 || record.Fcenter > 0 || record.Apass > 0 || record.Family != familyNone)) return {};
-  return {EntryGroup(record),
+  return {EntryGroup(record, whom),
           {"Q values:",
            {{"Inductors: " + Text(record.Qind[1], FormatValue)}, {"Capacitors: " + Text(record.Qcap[1], FormatValue)}}},
           {"Maximum / minimum ratios:", {{CapacitorRatioText(record)}, {InductorRatioText(record)}}},
           Extremes(record)};
 }
 
-void DrawDesignData(const DesignRecord& record, f32 left, f32 top, Canvas& canvas) {
+namespace {
+
+constexpr f32 rowPitch = 240;
+
+}  // namespace
+
+f32 DesignDataHeight(const DesignRecord& record) {
+  std::size_t rows = 0;
+  for (const DataGroup& group : DesignData(record)) rows = std::max(rows, group.rows.size() + 1);
+  return rowPitch * static_cast<f32>(rows);
+}
+
+void DrawDesignData(const DesignRecord& record, f32 left, f32 top, Canvas& canvas, DataFor whom) {
   constexpr f32 columnPitches[] = {2800, 1700, 2500, 2500};
-  constexpr f32 rowPitch = 240;
   constexpr f32 unitGap = 15;
   const PenScope pen(canvas);
   canvas.ForeColor = colorBlack;
   f32 x = left;
   std::size_t column = 0;
-  for (const DataGroup& group : DesignData(record)) {
+  for (const DataGroup& group : DesignData(record, whom)) {
     canvas.FontBold = true;
     if (!group.heading.empty()) canvas.PrintAt(x, top, group.heading);
     canvas.FontBold = false;

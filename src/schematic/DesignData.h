@@ -36,10 +36,17 @@ struct DataGroup {
   std::vector<DataRow> rows;
 };
 
+// How the stopband is called: its page says that it is that of the lowpass which a Cauer design is made of, its report
+// has shorter words.
+enum class DataFor { Page, Report };
+
 // Entries, Q values, ratios and extremes; none for a record without entries.
-std::vector<DataGroup> DesignData(const DesignRecord& record);
+std::vector<DataGroup> DesignData(const DesignRecord& record, DataFor whom = DataFor::Page);
 
 // Prints the groups side by side from (left, top) in user scale, in the canvas' size of text.
-void DrawDesignData(const DesignRecord& record, f32 left, f32 top, Canvas& canvas);
+void DrawDesignData(const DesignRecord& record, f32 left, f32 top, Canvas& canvas, DataFor whom = DataFor::Page);
+
+// How far below its top the longest group reaches; 0 for none.
+f32 DesignDataHeight(const DesignRecord& record);
 
 }  // namespace quilm

@@ -75,10 +75,42 @@ class Drawing {
     for (int s = 1; s <= StagesToDraw(record_); ++s) DrawNext(s, SchemX);
     Boundary(SchemX);
     DrawLoad(SchemX);
-    if (SchemX + loadWidth > canvas_.ScaleLeft + canvas_.ScaleWidth) PrintMore();
+    if (SchemX + loadWidth > canvas_.ScaleLeft + canvas_.ScaleWidth) {
+      PrintMore(canvas_.ScaleLeft + canvas_.ScaleWidth - moreWidth, bandBottom - moreRise);
+    }
+  }
+
+  void DrawRow(const SchematicRow& row) {
+    const f32 left = row.source ? sourceWidth : 0;
+    const f32 right = row.length - (row.load ? loadWidth : 0);
+    bottom_ = RowBottom();
+    canvas_.Rectangle(left, bandTop, right, bottom_, stageColor, true);
+    for (const f32 y : {bandTop, bottom_}) canvas_.Line(left, y, right, y, boundaryColor);
+    if (row.source) DrawSource(0);
+    f32 SchemX = left;
+    for (int s = row.first; s <= row.last; ++s) DrawNext(s, SchemX);
+    Boundary(SchemX);
+    if (row.load) {
+      DrawLoad(SchemX);
+    } else {
+      PrintMore(SchemX, SchemY + (railGap - canvas_.TextHeight(" >")) / 2);
+    }
+  }
+
+  // Where the band of a row ends: below what is written below the rails.
+  f32 RowBottom() const {
+    constexpr f32 values = 1900;  // below the upper rail
+    constexpr f32 losses = 2950;
+    bool toleranced = false;
+    for (int s = 1; s <= StagesToDraw(record_); ++s) toleranced |= !ToleranceLabels(record_.stage[s]).empty();
+    if (toleranced) return bandBottom;
+    return SchemY + (view_.ShowQ ? losses : values);
   }
 
  private:
+  static constexpr f32 moreWidth = 200;
+  static constexpr f32 moreRise = 280;
+
   bool Balanced() const { return view_.mode != SchematicMode::Unbalanced; }
   RailForm Form() const { return Balanced() ? RailForm::Balanced : RailForm::Unbalanced; }
   // What each rail shows of a series value.
@@ -90,7 +122,7 @@ class Drawing {
     for (const f32 y : {bandTop, bandBottom}) canvas_.Line(SchemLeft, y, SchemRight, y, boundaryColor);
   }
 
-  void Boundary(f32 x) { canvas_.Line(x, bandTop + 5, x, bandBottom, boundaryColor); }
+  void Boundary(f32 x) { canvas_.Line(x, bandTop + 5, x, bottom_, boundaryColor); }
 
   // Draws stage s at x and moves x on by its width.
   void DrawNext(int s, f32& x) {
@@ -219,19 +251,18 @@ class Drawing {
                {Trimmed(FormatResistance(record_.Rload[1])), record_.Rload[1] < 0, ohmSign});
   }
 
-  // There is more at the right than the page shows.
-  void PrintMore() {
-    constexpr f32 edge = 200;
-    constexpr f32 rise = 280;
+  // There is more at the right than the page or the row shows.
+  void PrintMore(f32 x, f32 y) {
     const PenScope pen(canvas_);
     canvas_.FontBold = true;
-    canvas_.PrintAt(canvas_.ScaleLeft + canvas_.ScaleWidth - edge, bandBottom - rise, " >");
+    canvas_.PrintAt(x, y, " >");
   }
 
   const DesignRecord& record_;
   const SchematicView& view_;
   Canvas& canvas_;
   f32 Fq_;
+  f32 bottom_ = bandBottom;
 };
 
 void Begin(const Scale& scale, Canvas& canvas) {
@@ -283,6 +314,31 @@ void DrawSchematic(const DesignRecord& record, const SchematicView& view, Canvas
   if (record.Stages < 1) return;
   Drawing(record, view, canvas).Draw();
   DrawDesignData(record, dataLeft, dataTop, canvas);
+}
+
+std::vector<SchematicRow> SchematicRows(const Network& network, f32 room) {
+  std::vector<SchematicRow> rows;
+  const int stages = StagesToDraw(network);
+  if (stages < 1) return rows;
+  rows.push_back({.source = true, .length = sourceWidth});
+  for (int s = 1; s <= stages; ++s) {
+    // The load follows the last stage into its row.
+    const f32 width = StageWidth(network.stage[s].ElementType) + (s == stages ? loadWidth : 0);
+    if (rows.back().length + width > room) rows.push_back({.first = s});
+    rows.back().last = s;
+    rows.back().length += width;
+  }
+  rows.back().load = true;
+  return rows;
+}
+
+void DrawSchematicRow(const DesignRecord& record, const SchematicView& view, const SchematicRow& row, Canvas& canvas) {
+  constexpr f32 moreRoom = 200;
+  Drawing drawing(record, view, canvas);
+  Begin({0, bandTop, row.length + moreRoom, drawing.RowBottom() - bandTop}, canvas);
+  const PenScope pen(canvas);
+  canvas.Fit = asLaidOut;
+  drawing.DrawRow(row);
 }
 
 void DrawArtwork(const Network& network, SchematicMode mode, Canvas& canvas) {

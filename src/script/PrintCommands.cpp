@@ -8,6 +8,7 @@
 #include "script/Commands.h"
 #include "script/Json.h"
 #include "shell/Page.h"
+#include "shell/PdfCanvas.h"
 #include "shell/SvgCanvas.h"
 
 namespace quilm {
@@ -57,18 +58,31 @@ void WriteFile(const std::filesystem::path& path, const std::string& text) {
   if (!WriteTextFile(path.string(), text)) throw CommandFailure{path.string() + " cannot be written"};
 }
 
+bool IsPdf(const std::filesystem::path& path) {
+  const std::string ending = path.extension().string();
+  return ending == ".pdf" || ending == ".PDF";
+}
+
 void WritePicture(ScriptRun& run, const std::string& arguments) {
   const auto words = Arguments(arguments, 1, 2, "picture FILE.svg [NAME]");
   const Pictured found = FindPictured(run, words.size() == 2 ? words[1] : std::string());
-  WriteFile(words[0], SvgText(found.box != nullptr ? found.box->AsSeen() : found.button->picture));
+  const Picture picture = found.box != nullptr ? found.box->AsSeen() : found.button->picture;
+  WriteFile(words[0], IsPdf(words[0]) ? PdfText(picture) : SvgText(picture));
 }
 
-// One sheet is FILE itself; of several, sheet 2 of "plot.svg" is "plot-2.svg".
+// The whole document as a PDF, or sheet by sheet: one sheet is FILE itself; of several, sheet 2 of "plot.svg" is
+// "plot-2.svg".
 void WritePrinted(ScriptRun& run, const std::string& arguments) {
   const std::filesystem::path path = WholeArgument(arguments, "printed FILE");
   const SheetPrinter& printer = run.platform.Printer();
   if (!printer.Ended()) throw CommandFailure{"nothing was printed"};
   const std::vector<Picture>& sheets = printer.Sheets();
+  if (IsPdf(path)) {
+    constexpr PaperSize letter{612, 792};
+    const bool upright = printer.Paper() == Orientation::Portrait;
+    WriteFile(path, PdfText(sheets, upright ? letter : PaperSize{letter.height, letter.width}));
+    return;
+  }
   for (std::size_t i = 0; i < sheets.size(); ++i) {
     std::filesystem::path sheet = path;
     if (sheets.size() > 1) {

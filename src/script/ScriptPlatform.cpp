@@ -46,9 +46,9 @@ std::optional<std::string> ScriptPlatform::SaveDialog(const std::string& title, 
   return HeadlessPlatform::SaveDialog(title, filter, defaultName);
 }
 
-Canvas* ScriptPlatform::PrintDialog() {
+Canvas* ScriptPlatform::PrintDialog(Orientation paper) {
   Ask(Asks::Printer);
-  return HeadlessPlatform::PrintDialog();
+  return HeadlessPlatform::PrintDialog(paper);
 }
 
 void ScriptPlatform::RunModal(Page& page) {

@@ -30,7 +30,7 @@ class ScriptPlatform : public HeadlessPlatform {
   std::optional<std::string> OpenDialog(const std::string& title, const std::string& filter) override;
   std::optional<std::string> SaveDialog(const std::string& title, const std::string& filter,
                                         const std::string& defaultName) override;
-  Canvas* PrintDialog() override;
+  Canvas* PrintDialog(Orientation paper) override;
   void RunModal(Page& page) override;
 
  private:

@@ -145,6 +145,7 @@ class ListBox : public Control {
   // The headings of a table whose rows are cells: the fields of an item are set apart by blanks, one for each heading.
   std::vector<std::string> columns;
   i32 mostRows = 0;  // shown without scrolling; 0: as many as there is room for
+  std::vector<Button*> menu;  // that the context menu of a table offers, too
   std::function<void()> onClick;
 };
 

@@ -60,9 +60,9 @@ std::optional<std::string> HeadlessPlatform::SaveDialog(const std::string& title
   return AskFile({true, title, filter, defaultName, {}});
 }
 
-Canvas* HeadlessPlatform::PrintDialog() {
+Canvas* HeadlessPlatform::PrintDialog(Orientation paper) {
   if (!TakeFirst(printers).value_or(false)) return nullptr;
-  printer_ = SheetPrinter();
+  printer_ = SheetPrinter(paper);
   printer_.onEnd = [this] {
     if (onPrinted) onPrinted(printer_);
   };

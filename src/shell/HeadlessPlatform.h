@@ -49,7 +49,10 @@ struct FileAnswer {
 class SheetPrinter : public Picture {
  public:
   // The paper is US letter, in twips.
-  SheetPrinter() : Picture({0, 0, 12240, 15840}) {}
+  explicit SheetPrinter(Orientation paper = Orientation::Portrait)
+      : Picture(paper == Orientation::Portrait ? Scale{0, 0, 12240, 15840} : Scale{0, 0, 15840, 12240}),
+        paper_(paper) {}
+  Orientation Paper() const { return paper_; }
   void NewPage() override;
   void EndDoc() override;
   // The finished document, valid after EndDoc.
@@ -58,6 +61,7 @@ class SheetPrinter : public Picture {
   std::function<void()> onEnd;
 
  private:
+  Orientation paper_;
   std::vector<Picture> sheets_;
   bool ended_ = false;
 };
@@ -104,7 +108,7 @@ class HeadlessPlatform : public Platform {
   std::optional<std::string> OpenDialog(const std::string& title, const std::string& filter) override;
   std::optional<std::string> SaveDialog(const std::string& title, const std::string& filter,
                                         const std::string& defaultName) override;
-  Canvas* PrintDialog() override;
+  Canvas* PrintDialog(Orientation paper) override;
   void Beep() override;
   bool ShellOpen(const std::string& path) override;
   bool ShowSystemInformation() override;

@@ -15,6 +15,7 @@ class Page;
 enum class Buttons { Ok, YesNo };
 enum class Icon { None, Information, Question, Exclamation, Critical };
 enum class Answer { Ok, Yes, No };
+enum class Orientation { Portrait, Landscape };
 
 struct DateTime {
   int year = 0;
@@ -38,9 +39,10 @@ class Platform {
   virtual std::optional<std::string> SaveDialog(const std::string& title, const std::string& filter,
                                                 const std::string& defaultName) = 0;
 
-  // Offers a printer. The canvas is valid until its EndDoc, and its scale is the paper's own in twips; nullptr when the
-  // user cancels. A printer that fails, here or at the ends of sheets and of the document, throws a Fault.
-  virtual Canvas* PrintDialog() = 0;
+  // Offers a printer whose sheets lie as `paper` says, unless the user chooses otherwise. The canvas is valid until its
+  // EndDoc, and its scale is the paper's own in twips; nullptr when the user cancels. A printer that fails, here or at
+  // the ends of sheets and of the document, throws a Fault.
+  virtual Canvas* PrintDialog(Orientation paper) = 0;
 
   virtual void Beep() = 0;
   // Opens a document or an address with the program that the desktop has for it; false when there is none.

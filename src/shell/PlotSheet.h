@@ -5,6 +5,7 @@
 // LimitsAndMarkers), how the charts are looked at to the session (SmithView).
 #pragma once
 
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -14,6 +15,8 @@
 #include "shell/Picture.h"
 
 namespace quilm {
+
+struct Responses;
 
 struct TraceColors {
   Color TraceColor1 = colorBlue;
@@ -51,6 +54,11 @@ struct PlotSheet {
   LimitEntry limitEntry;          // ended by the choice of a plot
   Overlays overlays;              // a plot that is drawn anew has none
   AxisPlaces places;              // of the frequencies drawn last
+
+  // What the picture's traces show, for drawing them again on paper: a run or a tuning step that lies over them may have
+  // swept anew since. Null before the first plot.
+  std::shared_ptr<const Responses> shown;
+  bool extremesShown = false;  // the picture has the envelope of tolerance trials, too
 };
 
 }  // namespace quilm

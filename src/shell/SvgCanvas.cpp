@@ -7,6 +7,7 @@
 #include <numbers>
 
 #include "shell/Picture.h"
+#include "shell/Utf8.h"
 
 namespace quilm {
 
@@ -50,22 +51,6 @@ std::string FontFamily(const std::string& name) {
   const std::string substitutes =
       fixed ? "'Courier New', 'Liberation Mono', monospace" : "Arial, 'Liberation Sans', Helvetica, sans-serif";
   return "'" + XmlEscaped(name) + "', " + substitutes;
-}
-
-// How many bytes the UTF-8 sequence at the front of `text` has, 0 when it is none (RFC 3629, section 4).
-std::size_t SequenceLength(std::string_view text) {
-  const auto byte = [text](std::size_t i) { return i < text.size() ? static_cast<unsigned char>(text[i]) : 0U; };
-  const unsigned lead = byte(0);
-  if (lead < 0x80) return 1;
-  const std::size_t length = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : 2;
-  if (lead < 0xC2 || lead > 0xF4) return 0;
-  for (std::size_t i = 1; i < length; ++i) {
-    if ((byte(i) & 0xC0) != 0x80) return 0;
-  }
-  const bool overlong = (lead == 0xE0 && byte(1) < 0xA0) || (lead == 0xF0 && byte(1) < 0x90);
-  const bool surrogate = lead == 0xED && byte(1) >= 0xA0;
-  const bool beyond = lead == 0xF4 && byte(1) >= 0x90;
-  return overlong || surrogate || beyond ? 0 : length;
 }
 
 std::string EscapedCharacter(char character) {

@@ -177,7 +177,7 @@ TEST_F(SchematicPage, TheArtworkOpensOverThePage) {
   platform.modalActs.push_back([this](Page& page) {
     EXPECT_EQ(page.Id(), PageId::SchematicSimple);
     EXPECT_FALSE(Get<PictureBox>("picArtwork").picture.Empty());
-    EXPECT_FALSE(Get<Button>("cmdPrint").Active());
+    EXPECT_TRUE(Get<Button>("cmdPrint").Active());
     Press("cmdExit");
   });
   Press("cmdSimple");

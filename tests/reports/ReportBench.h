@@ -1,6 +1,7 @@
 // What a report put on its sheets, and printers that fail.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -40,12 +41,14 @@ inline SheetPrinter PrinterWith(f32 width, f32 height) {
 class PrintingPlatform : public HeadlessPlatform {
  public:
   PrintingPlatform() : HeadlessPlatform("") {}
-  Canvas* PrintDialog() override {
+  Canvas* PrintDialog(Orientation paper) override {
+    asked = paper;
     if (refuses) throw Fault("no such printer");
     return printer;
   }
   Canvas* printer = nullptr;
   bool refuses = false;
+  std::optional<Orientation> asked;
 };
 
 constexpr f32 a4Width = 11906;  // 210 mm

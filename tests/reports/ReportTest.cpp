@@ -11,14 +11,14 @@ namespace {
 using testing::ElementsAre;
 
 TEST(SheetScale, APaperOfTheSheetsSizeIsTheSheet) {
-  EXPECT_EQ(SheetScale({0, 0, 12240, 15840}, 12240, 15840), (Scale{0, 0, 12240, 15840}));
+  EXPECT_EQ(SheetScale({0, 0, 12240, 15840}, textSheet), (Scale{0, 0, 12240, 15840}));
 }
 
 // On every paper a unit of x is as long as a unit of y, and the sheet lies on it whole.
 TEST(SheetScale, EveryPaperKeepsTheProportions) {
   const std::pair<f32, f32> papers[] = {{a4Width, a4Height}, {a4Height, a4Width}, {5953, 8391}, {100, 90000}};
   for (const auto& [width, height] : papers) {
-    const Scale scale = SheetScale({0, 0, width, height}, 12240, 15840);
+    const Scale scale = SheetScale({0, 0, width, height}, textSheet);
     EXPECT_FLOAT_EQ(scale.width / width, scale.height / height) << width;
     EXPECT_GE(scale.width, 12240 - 0.01F) << width;
     EXPECT_GE(scale.height, 15840 - 0.01F) << width;

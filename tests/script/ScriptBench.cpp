@@ -56,7 +56,7 @@ void BenchPage::ConnectDialogs() {
     log.push_back(session_.platform.SaveDialog("Write", "All|*", "a.QLM").value_or("cancelled"));
   };
   cmdPrint.onClick = [this] {
-    Canvas* sheet = session_.platform.PrintDialog();
+    Canvas* sheet = session_.platform.PrintDialog(Orientation::Portrait);
     log.push_back(sheet == nullptr ? "no printer" : "printer");
     if (sheet == nullptr) return;
     sheet->Print("one");

@@ -55,13 +55,13 @@ TEST_F(HeadlessPlatformTest, FileDialogsAreRecorded) {
   EXPECT_EQ(platform.fileDialogs[1].defaultName, "b.QLM");
 }
 
-TEST_F(HeadlessPlatformTest, APrintDialogIsCancelledByItself) { EXPECT_EQ(platform.PrintDialog(), nullptr); }
+TEST_F(HeadlessPlatformTest, APrintDialogIsCancelledByItself) { EXPECT_EQ(platform.PrintDialog(Orientation::Portrait), nullptr); }
 
 TEST_F(HeadlessPlatformTest, APrintedDocumentKeepsItsSheets) {
   std::size_t told = 0;
   platform.onPrinted = [&](const SheetPrinter& printer) { told = printer.Sheets().size(); };
   platform.printers = {true};
-  Canvas* sheet = platform.PrintDialog();
+  Canvas* sheet = platform.PrintDialog(Orientation::Portrait);
   ASSERT_NE(sheet, nullptr);
   sheet->SetScale({0, 0, 100, 50});
   sheet->Line(1, 2, 3, 4, colorRed);
@@ -81,8 +81,8 @@ TEST_F(HeadlessPlatformTest, APrintedDocumentKeepsItsSheets) {
 
 TEST_F(HeadlessPlatformTest, TheNextDocumentBeginsAnew) {
   platform.printers = {true, true};
-  platform.PrintDialog()->EndDoc();
-  platform.PrintDialog();
+  platform.PrintDialog(Orientation::Portrait)->EndDoc();
+  platform.PrintDialog(Orientation::Portrait);
   EXPECT_FALSE(platform.Printer().Ended());
   EXPECT_TRUE(platform.Printer().Sheets().empty());
 }

@@ -28,9 +28,6 @@ namespace {
 
 constexpr int fewestAreas = 2;
 constexpr int trialsToRefresh = 50;
-constexpr i16 extremeWidth = 2;  // pixels
-constexpr Color nominalColor = 0x119911;
-constexpr TraceColors extremeColors{0xFF1111, 0x1111FF};
 
 // The palest of the trials' colours is none for hundreds of them.
 TraceCycle TrialCycle() { return TraceCycle(TrialColors().first(7)); }
@@ -45,8 +42,6 @@ TraceColors OptimizerColors(i16 plotCode) {
 
 // Real and imaginary part are no response that has extremes, and the charts show two of them in one trace.
 bool CanShowExtremes(i16 plotCode) { return plotCode < 10 || plotCode > 12; }
-
-ResponseSpans LastResponses(const Session& session) { return SpansOf(session.responses, LastPoint(session.record)); }
 
 std::string YieldText(const MonteCarlo& trials) {
   const std::string done = std::to_string(trials.TrialCount());
@@ -260,24 +255,12 @@ void PlotRuns::StopForExtremes() {
   session_.run->Stop();
 }
 
-// The nominal trace with the envelope of the trials and of the nominal sweep, all on the picture that is kept.
 void PlotRuns::ShowExtremes() {
   AnalyzeSweep(session_);
   if (record_.ResponsesValid != 1) return;
-  PlotSheet& sheet = session_.plot;
-  sheet.limitEntry = {};
-  sheet.colors = {};
-  RedrawPlot(session_, PlotDress::WithoutTraces);
-  PlotSetup setup = SetupOf(session_);
-  setup.colors = {nominalColor, nominalColor};
-  AddTraces(setup, LastResponses(session_), sheet.places, sheet.picture);
-  setup.colors = extremeColors;
-  setup.scales.PlotLineWidth = extremeWidth;
-  std::vector<f32> relative;
-  for (const ExtremeSelect which : {ExtremeSelect::Max, ExtremeSelect::Min}) {
-    AddTraces(setup, ExtremesOf(session_.responses, LastPoint(record_), which, record_, relative), sheet.places,
-              sheet.picture);
-  }
+  session_.plot.limitEntry = {};
+  session_.plot.colors = {};
+  RedrawWithExtremes(session_);
   controls_.cmdExtremes.visible = controls_.cmdExtremes.enabled = false;
 }
 
@@ -291,7 +274,7 @@ void PlotRuns::OfferExtremes() {
 void PlotRuns::DrawTrial() {
   PlotSheet& sheet = session_.plot;
   sheet.colors = colors_.Next();
-  AddTraces(session_, LastResponses(session_), sheet.live);
+  AddTraces(session_, SpansOf(session_.responses, LastPoint(record_)), sheet.live);
   Picture& mark = controls_.plot.mark;
   mark.SetScale(sheet.picture.CurrentScale());
   mark.Clear();

@@ -10,6 +10,7 @@
 #include "display/SheetDrawing.h"
 #include "files/modReadQuilmFiles.h"
 #include "files/modWriteQuilmFile.h"
+#include "reports/PrintPlot.h"
 #include "schematic/Icons.h"
 #include "shell/History.h"
 #include "shell/Session.h"
@@ -39,6 +40,7 @@ frmPlotted::frmPlotted(Session& session)
   navigation.helpFile = "plots.htm";
   navigation.onSave = [&session] { SaveDesign(session, "Save Quilm File"); };
   navigation.onGet = [&session] { GetDesignFor(session, PageId::Plotted); };
+  navigation.onPrint = [&session] { PrintPlot(session); };
   int number = 0;
   for (const PlotButton& entry : PlotButtons()) {
     auto button = std::make_unique<Button>(*this, entry.name, "", entry.toolTip);

@@ -8,6 +8,7 @@
 #include "desk/Leaving.h"
 #include "files/modReadQuilmFiles.h"
 #include "files/modWriteQuilmFile.h"
+#include "reports/PrintSchematic.h"
 #include "shell/Session.h"
 #include "synthesis/DesignSummary.h"
 
@@ -29,6 +30,7 @@ frmSchematic::frmSchematic(Session& session)
   navigation_.helpFile = "schematic.htm";
   navigation_.onGet = [&session] { GetDesignFor(session, PageId::Schematic); };
   navigation_.onSave = [&session] { SaveDesign(session, "Write Quilm File"); };
+  navigation_.onPrint = [&session] { PrintSchematic(session); };
   // The drawing moves right to show what is further left.
   cmdLeftLeft_.onClick = [this] { Scroll(longScroll); };
   cmdLeft_.onClick = [this] { Scroll(shortScroll); };

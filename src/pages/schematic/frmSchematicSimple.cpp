@@ -1,12 +1,13 @@
 #include "pages/schematic/frmSchematicSimple.h"
 
 #include "core/Network.h"
+#include "reports/PrintSchematicSimple.h"
 #include "shell/Session.h"
 
 namespace quilm {
 
 frmSchematicSimple::frmSchematicSimple(Session& session) : Page(session, PageId::SchematicSimple, "Artwork only") {
-  cmdPrint_.enabled = false;
+  cmdPrint_.onClick = [&session] { PrintSchematicSimple(session); };
   cmdExit_.onClick = [this] { session_.pages.UnloadPage(Id()); };
   acceptButton = cancelButton = &cmdExit_;
 }

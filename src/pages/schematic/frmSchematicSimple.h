@@ -14,7 +14,7 @@ class frmSchematicSimple : public Page {
 
  private:
   PictureBox picArtwork_{*this, "picArtwork", "Artwork of the network"};
-  Button cmdPrint_{*this, "cmdPrint", "Print", "Print the artwork (not in this version yet)"};
+  Button cmdPrint_{*this, "cmdPrint", "Print", "Print the artwork"};
   Button cmdExit_{*this, "cmdExit", "Return", "Return to the Schematic page"};
 };
 
