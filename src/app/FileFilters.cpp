@@ -48,6 +48,7 @@ QString WithRightEnding(const QString& path, const QStringList& nameFilters, con
   for (const QString& filter : nameFilters) {
     if (!ending.isEmpty() && SuffixOf(filter).compare(ending, Qt::CaseInsensitive) == 0) return path;
   }
+  if (SuffixOf(chosen).isEmpty()) return path;
   const QString stem = IsPictureEnding(ending) ? path.chopped(ending.size() + 1) : path;
   return stem + QLatin1Char('.') + SuffixOf(chosen);
 }

@@ -16,7 +16,7 @@ QString SuffixOf(const QString& nameFilter);
 // The path with an ending that tells what will be written. Where the filters offer several kinds, one of their endings
 // decides, in capitals or not; any other is put right for the chosen filter: the ending of a picture that is none of
 // them is replaced, and what may be a part of the name ("at 1.5 GHz") is kept. A single filter leaves the path as it
-// is.
+// is, and so does the one for all files.
 QString WithRightEnding(const QString& path, const QStringList& nameFilters, const QString& chosen);
 
 }  // namespace quilm

@@ -40,6 +40,20 @@ TEST(RightEnding, WhereThereIsOneKindTheNameIsFree) {
             "/a/design.txt");
 }
 
+TEST(RightEnding, AmongAllFilesTheNameIsFree) {
+  const QStringList filters{"S-parameter files (*.S2P *.s2p)", "All files (*.*)"};
+  EXPECT_EQ(WithRightEnding("/a/filter.csv", filters, filters[1]), "/a/filter.csv");
+  EXPECT_EQ(WithRightEnding("/a/filter", filters, filters[1]), "/a/filter");
+  EXPECT_EQ(WithRightEnding("/a/filter", filters, filters[0]), "/a/filter.S2P");
+}
+
+// The bracket of the second name does not close.
+TEST(NameFilters, WhatStandsBehindANameInBracketsDoesNotMatter) {
+  EXPECT_EQ(NameFilters("Tabulated-data files (*.DAT)|*.DAT|Text files (*.TXT|*.TXT|All files (*.*)|*.*"),
+            (QStringList{"Tabulated-data files (*.DAT *.dat)", "Text files (*.TXT *.txt)", "All files (*.*)"}));
+  EXPECT_EQ(NameFilters("Spice files (*.CIR) | *.CIR"), QStringList{"Spice files (*.CIR *.cir)"});
+}
+
 TEST(SuffixOf, IsTheFirstExtension) {
   EXPECT_EQ(SuffixOf("Quilm files (*.QLM *.qlm)"), "QLM");
   EXPECT_EQ(SuffixOf("All files (*.*)"), "");

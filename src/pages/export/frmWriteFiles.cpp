@@ -135,11 +135,12 @@ Layout frmWriteFiles::MakeLayout() {
   const Layout responses =
       Group("Responses of the sweep", Grid(1, {Put(cmdWriteSnP_), Put(cmdWriteTabulatedS_), Put(cmdWriteTabulatedE_)}));
   const Layout verified =
-      Group("Verified netlist", Column({Row({Put(optNgspice_), Put(optLTspice_)}), Grid(1, {Put(cmdWriteVerified_)})}));
+      Group("Verified netlist",
+            Column({Put(lblWhich_), Row({Put(optNgspice_), Put(optLTspice_)}), Grid(1, {Put(cmdWriteVerified_)})}));
   const Layout spice = Group("SPICE", Grid(1, {Put(cmdWriteNetlist_), Put(cmdWriteSubcircuit_)}));
   const Layout ltspice = Group("LTspice", Grid(1, {Put(cmdWriteSpiceSchematic_), Put(cmdWriteSpiceSymbol_)}));
   return Row({Space(),
-              Column({Space(), Put(lblHeading_), responses, Row({spice, ltspice}), verified, Put(lblWhich_),
+              Column({Space(), Put(lblHeading_), responses, Row({spice, ltspice}), verified,
                       Row({Space(), Put(cmdExit_)}), Space()}),
               Space()});
 }

@@ -43,9 +43,7 @@ class frmWriteFiles : public Page {
   OptionButton optLTspice_{*this, dialects_, "optLTspice", "For LTspice", "In the dialect of LTspice"};
   Button cmdWriteVerified_{*this, "cmdWriteVerified", "Write verified netlist (.CIR)",
                            "A deck whose results are those of the Plot page at every frequency"};
-  Label lblWhich_{*this, "lblWhich",
-                  "To simulate in ngspice or LTspice take the verified netlist; the generic one has limits, and is for "
-                  "other programs."};
+  Label lblWhich_{*this, "lblWhich", "Take this one for ngspice or LTspice: the generic netlist has known limits."};
 
   Button cmdExit_{*this, "cmdExit", "Return to Quilm", "Go to the Analysis page"};
 };
