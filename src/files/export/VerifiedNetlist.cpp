@@ -264,17 +264,17 @@ void Writer::Sweep() {
   const f64 Fstart = record_.Fstart;
   const f64 Fstop = record_.Fstop;
   const f64 intervals = std::nearbyint(record_.NrIntervals);
-  if (!(Fstart >= 0) || !(Fstop > Fstart) || !(intervals >= 1)) {
+  const bool linear = record_.SweepMode == 1;
+  if (!(Fstart >= 0) || !(Fstop > Fstart) || !(intervals >= 1) || (Fstart == 0 && !linear)) {
     Line("* The design has no sweep.");
     return;
   }
-  if (record_.SweepMode == 1) {
-    const bool fromZero = Fstart == 0;
-    Line(".ac lin " + Number(fromZero ? intervals : intervals + 1) + " " +
-         Number(fromZero ? Fstop / intervals : Fstart) + " " + Number(Fstop));
-  } else if (Fstart > 0) {
-    const f64 perDecade = std::max(1.0, std::nearbyint(intervals / std::log10(Fstop / Fstart)));
-    Line(".ac dec " + Number(perDecade) + " " + Number(Fstart) + " " + Number(Fstop));
+  const f64 step = Fstart == 0 ? Fstop / intervals : 0;  // at 0 Hz there is no figure
+  const std::string range = Number(Fstart + step) + " " + Number(Fstop);
+  if (linear) {
+    Line(".ac lin " + Number(step > 0 ? intervals : intervals + 1) + " " + range);
+  } else {
+    Line(".ac dec " + Number(std::max(1.0, std::nearbyint(intervals / std::log10(Fstop / Fstart)))) + " " + range);
   }
   if (ngspice_) Line(".print ac vdb(out) vp(out)");
 }
