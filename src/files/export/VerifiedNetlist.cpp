@@ -256,7 +256,7 @@ void Writer::Source() {
   const f64 Rsource = record_.Rsource[1];
   NumericFaultScope scope;
   const f64 amplitude = scope.Checked(2 * std::sqrt(Rsource / static_cast<f64>(record_.Rload[1])));
-  Card("Vin", "src", common, "AC " + Number(amplitude));
+  Card("Vin", "src", common, "0 AC " + Number(amplitude));
   Card("Rsource", "src", LineNode(0), Number(Rsource));
 }
 

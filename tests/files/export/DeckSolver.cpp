@@ -131,7 +131,7 @@ void Equations::Take(const Card& card) {
       return Laplace(card);
     case 'V': {
       const int branch = BranchBetween(card[0], card[1], card[2]);
-      sources_[branch] = card[3] == "AC" ? SimulatorNumber(card[4]) : 0;
+      sources_[branch] = card.size() > 5 && card[4] == "AC" ? SimulatorNumber(card[5]) : 0;
       return;
     }
     case 'E':
