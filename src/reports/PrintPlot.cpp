@@ -6,6 +6,7 @@
 #include "core/DesignRecord.h"
 #include "core/Responses.h"
 #include "core/modGeneral.h"
+#include "display/ChartGrid.h"
 #include "display/OverlayCurves.h"
 #include "display/PlotKinds.h"
 #include "display/SheetDrawing.h"
@@ -28,7 +29,7 @@ constexpr f32 firstColumn = 1240;  // room for the number of a marker before it
 constexpr f32 columnPitch = 990;
 constexpr i16 widestTrace = 1;
 
-// Where a plot of a scale stands on the sheet. Charts keep the length of their units of x.
+// Where a plot of a scale stands on the sheet. Charts keep the length of their units of x, and their centre.
 struct PlotPlace {
   Point from;
   Point to;
@@ -38,10 +39,12 @@ PlotPlace PlaceOf(const Scale& scale) {
   if (scale.shape.xUnit == 1) {
     return {{scale.left, scale.top}, {scale.left + scale.width, scale.top + scale.height}};
   }
-  constexpr f32 left = 400;
-  constexpr f32 top = 420;
-  constexpr f32 width = 2 * (middle - left);
-  return {{left, top}, {left + width, top + width * scale.NaturalHeight() / scale.NaturalWidth()}};
+  constexpr f32 size = 0.84F;  // the largest that leaves the small plot in its corner on the sheet
+  const auto place = [&scale](f32 x, f32 y) {
+    return Point{chartCenter.x + (x - chartCenter.x) * scale.shape.xUnit * size,
+                 chartCenter.y + (y - chartCenter.y) * size};
+  };
+  return {place(scale.left, scale.top), place(scale.left + scale.width, scale.top + scale.height)};
 }
 
 // Whatever a run has drawn over the plot, its traces no wider than all traces on paper.

@@ -6,12 +6,15 @@
 #include "core/Fault.h"
 #include "core/NumberText.h"
 #include "core/Sweep.h"
+#include "core/TextFile.h"
 #include "desk/Leaving.h"
 #include "display/modTabulate.h"
+#include "files/export/CsvTable.h"
 #include "files/modReadQuilmFiles.h"
 #include "files/modWriteQuilmFile.h"
 #include "reports/PrintTable.h"
 #include "reports/Report.h"
+#include "shell/PictureName.h"
 #include "shell/Session.h"
 
 namespace quilm {
@@ -25,6 +28,8 @@ frmTabulated::frmTabulated(Session& session)
   navigation_.onPrint = [this] { PrintResponses(); };
   lstTabulatedOutput_.table = true;
   lstTabulatedOutput_.columns = TableCaptions();
+  lstTabulatedOutput_.menu = {&cmdSaveTable_};
+  cmdSaveTable_.onClick = [this] { SaveTable(); };
   SetFocus(lstTabulatedOutput_);
 }
 
@@ -64,6 +69,21 @@ void frmTabulated::PrintResponses() {
               [this](Canvas& printer) { PrintTable(session_.record, session_.responses, printer); });
 }
 
-Layout frmTabulated::MakeLayout() { return Column({navigation_.MakeLayout(), quilm::Fill(Put(lstTabulatedOutput_))}); }
+void frmTabulated::SaveTable() {
+  const std::optional<std::string> path = session_.platform.SaveDialog(
+      "Save table", "Comma-separated values (*.csv)|*.csv", PictureName(session_.identity, "table") + ".csv");
+  if (!path) return;
+  const WriteOutcome outcome = WriteTextFile(*path, CsvTable(session_.sweep, session_.responses));
+  if (outcome) {
+    session_.note = "Wrote " + *path;
+  } else {
+    session_.platform.MessageBox(*path + " was not written: " + outcome.failure, Buttons::Ok, Icon::Exclamation,
+                                 "Save table");
+  }
+}
+
+Layout frmTabulated::MakeLayout() {
+  return Column({navigation_.MakeLayout(), quilm::Fill(Put(lstTabulatedOutput_)), Row({Space(), Put(cmdSaveTable_)})});
+}
 
 }  // namespace quilm

@@ -17,9 +17,12 @@ class frmTabulated : public Page {
   void Fill();
   void PrintResponses();
   bool PaperIsWanted();
+  void SaveTable();
 
   NavigationRow navigation_;
   ListBox lstTabulatedOutput_{*this, "lstTabulatedOutput", "Tabulated responses"};
+  Button cmdSaveTable_{*this, "cmdSaveTable", "Save as CSV",
+                       "Save the table with all digits, for spreadsheets and programs (Ctrl+Shift+S)"};
 };
 
 }  // namespace quilm
