@@ -5,7 +5,9 @@
 #include <array>
 #include <cmath>
 
+#include "files/export/AscReader.h"
 #include "script/ProgramBench.h"
+#include "support/NgspiceBatch.h"
 #include "support/PlainAnalysis.h"
 
 namespace quilm {
@@ -96,11 +98,14 @@ DesignRecord NetworkOf(const json& stages) {
   return record;
 }
 
-f64 TransmissionAt(const DesignRecord& record, f32 frequency) {
+// Inductor Q is quoted at Fq.
+plain::Point FiguresAt(const DesignRecord& record, f32 frequency, f32 Fq) {
   plain::Point point;
-  plain::AnalyzePoint(record, 1e6F, frequency, 0, frequency, point);
-  return point.TransDB;
+  plain::AnalyzePoint(record, Fq, frequency, 0, frequency, point);
+  return point;
 }
+
+f64 TransmissionAt(const DesignRecord& record, f32 frequency) { return FiguresAt(record, frequency, 1e6F).TransDB; }
 
 bool IsOfSeries(f64 value) {
   constexpr std::array<int, 24> series = {10, 11, 12, 13, 15, 16, 18, 20, 22, 24, 27, 30,
@@ -150,6 +155,87 @@ TEST_F(Program, AnEveningAtTheBench) {
     EXPECT_THAT(text, testing::HasSubstr("<text")) << picture;
   }
   EXPECT_THAT(ContentOf(folder / "out" / "the-bench.QLM"), testing::StartsWith("Quilm circuit file 43"));
+}
+
+// The rows of numbers of a file; comments, keywords and headings are none.
+std::vector<std::vector<f64>> RowsOf(const std::string& text) {
+  std::vector<std::vector<f64>> rows;
+  std::istringstream lines(text);
+  for (std::string line; std::getline(lines, line);) {
+    std::istringstream words(line);
+    std::vector<f64> row;
+    for (f64 number = 0; words >> number;) row.push_back(number);
+    if (row.size() > 2) rows.push_back(row);
+  }
+  return rows;
+}
+
+// The column of the transmission, dB, against frequencies from 8 to 12 MHz.
+void ExpectTransmission(const std::vector<std::vector<f64>>& rows, std::size_t column, const DesignRecord& design) {
+  ASSERT_EQ(rows.size(), 401U);
+  for (std::size_t i = 0; i < rows.size(); ++i) {
+    const f32 frequency = 8e6F + 1e4F * static_cast<f32>(i);
+    EXPECT_NEAR(rows[i][column], FiguresAt(design, frequency, 1e7F).TransDB, 1e-3) << frequency;
+  }
+}
+
+// The decks at the centre, where their losses are those of the analysis.
+void ExpectDecks(const std::filesystem::path& out, const DesignRecord& design) {
+  const std::string center = "lin 1 1e7 1e7";
+  const AscSheet sheet = ReadAsc(ContentOf(out / "export.ASC"));
+  const std::string caller = "caller\nV1 1 0 AC 2\nRS 1 2 50\nX1 2 3 0 Filter\nRL 3 0 50\n";
+  std::string log;
+  const auto results = RunNgspice({{ContentOf(out / "export.CIR"), center, "8"},
+                                   {caller + ContentOf(out / "export.SUB") + ".end\n", center, "3"},
+                                   {NetlistOf(sheet), center, PartNamed(sheet, "RL").nodes[0]}},
+                                  &log);
+  for (const std::vector<NgspicePoint>& points : results) {
+    ASSERT_EQ(points.size(), 1U) << log;
+    EXPECT_NEAR(20 * std::log10(std::abs(points[0].voltage)), FiguresAt(design, 1e7F, 1e7F).TransDB, 1e-3);
+  }
+}
+
+// The deck that has the losses of the analysis at every frequency.
+void ExpectVerified(const std::filesystem::path& out, const DesignRecord& design) {
+  const auto results = RunNgspice({{ContentOf(out / "export-ngspice.CIR"), "lin 41 8e6 12e6", "out"}});
+  ASSERT_EQ(results[0].size(), 41U);
+  for (const NgspicePoint& point : results[0]) {
+    const f32 frequency = static_cast<f32>(point.frequency);
+    EXPECT_NEAR(20 * std::log10(std::abs(point.voltage)), FiguresAt(design, frequency, 1e7F).TransDB, 1e-5)
+        << frequency;
+  }
+}
+
+// Every file says what the plain analysis says of the network that the script prints.
+TEST_F(Program, AFilterIsWrittenForEveryoneElse) {
+  const Ended ended = Run("'" QUILM_EXAMPLES "/exports.qsc'");
+  ASSERT_EQ(ended.status, 0) << ended.err;
+  DesignRecord design;
+  for (const json& event : ended.Events()) {
+    EXPECT_NE(event["event"], "message") << event;
+    if (event["event"] == "record") design = NetworkOf(event["stages"]);
+  }
+  ASSERT_EQ(design.Stages, 5);
+  const std::filesystem::path out = folder / "out";
+  ExpectTransmission(RowsOf(ContentOf(out / "export.DAT")), 1, design);
+  ExpectTransmission(RowsOf(ContentOf(out / "export.S2P")), 3, design);
+  ExpectTransmission(RowsOf(ContentOf(out / "export-version-2.S2P")), 3, design);
+  EXPECT_THAT(ContentOf(out / "export-version-2.S2P"), testing::HasSubstr("[Version] 2.0\r\n# MHz S DB R 50"));
+  EXPECT_THAT(ContentOf(out / "export-readable.DAT"), testing::HasSubstr("8.01M "));
+  const auto reflection = RowsOf(ContentOf(out / "export.S1P"));
+  ASSERT_EQ(reflection.size(), 401U);
+  EXPECT_NEAR(reflection[0][0], 0.008, 1e-9);
+  EXPECT_NEAR(20 * std::log10(reflection[0][1]), FiguresAt(design, 8e6F, 1e7F).ReturnDB, 1e-4);
+  ExpectDecks(out, design);
+  ExpectVerified(out, design);
+  EXPECT_THAT(ContentOf(out / "export-ltspice.CIR"), testing::HasSubstr("LTspice"));
+  EXPECT_THAT(ContentOf(out / "export.ASY"), testing::StartsWith("Version 4\r\nSymbolType BLOCK\r\n"));
+  EXPECT_THAT(ContentOf(out / "export-transmission.svg"), testing::HasSubstr("<polyline"));
+  for (const char* document : {"transmission", "plot-report", "schematic-report"}) {
+    const std::string text = ContentOf(out / ("export-" + std::string(document) + ".pdf"));
+    EXPECT_THAT(text, testing::StartsWith("%PDF-")) << document;
+    EXPECT_THAT(text, testing::EndsWith("%%EOF\n")) << document;
+  }
 }
 
 }  // namespace
