@@ -272,11 +272,14 @@ TEST(LtspiceCircuit, LaddersOfEveryTypeAreTheCircuitsThatAreMeant) {
   ExpectAgreement(designs);
 }
 
-TEST(LtspiceCircuit, APathThatSharesItsNameIsRefused) {
+TEST(LtspiceCircuit, PathsAndPairsThatShareTheirNamesAreRefused) {
   std::vector<i16> types(10, SeriesR);
   types[0] = SeriesShortStub;
   std::string log;
-  EXPECT_TRUE(RunNgspice({CircuitOf(SheetOf(LadderOf(types)))}, &log)[0].empty());
+  const auto results = RunNgspice(
+      {CircuitOf(SheetOf(LadderOf(types))), CircuitOf(SheetOf(LadderOf({CoupledInductors, CoupledInductors})))}, &log);
+  EXPECT_TRUE(results[0].empty());
+  EXPECT_TRUE(results[1].empty());
   EXPECT_NE(log.find("already exists"), std::string::npos) << log;
 }
 
