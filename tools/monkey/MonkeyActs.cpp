@@ -31,6 +31,7 @@ constexpr std::array openPaths{"a.QLM",
                                "program/LASTSESSION.QLM",
                                "program/QuilmConfiguration.CFG"};
 constexpr std::array savePaths{"a.QLM", "a.QLM", "b.QLM", "none/c.QLM"};
+constexpr std::array exportPaths{"a.txt", "b", "none/c.txt", "program"};
 
 template <class Kind>
 std::vector<const Kind*> Usable(ScriptRun& run) {
@@ -51,6 +52,12 @@ bool LeavesTheProgram(const std::string& name) { return name.find("Exit") != std
 int MonkeyActs::Below(int count) { return static_cast<int>(random_() % static_cast<unsigned>(count)); }
 
 std::string MonkeyActs::Next(ScriptRun& run) {
+  std::string act = Choose(run);
+  savesDesign_ = act == "press cmdSave";
+  return act;
+}
+
+std::string MonkeyActs::Choose(ScriptRun& run) {
   if (!planned_.empty()) return std::exchange(planned_, {});
   if (undid_ && CanRedo(run.session) && !OneIn(3)) {
     undid_ = false;
@@ -165,7 +172,8 @@ std::string MonkeyActs::Answer(Asks what) {
     case Asks::OpenFile:
       return OneIn(6) ? "file cancel" : std::string("file open ") + Any(openPaths);
     case Asks::SaveFile:
-      return OneIn(6) ? "file cancel" : std::string("file save ") + Any(savePaths);
+      if (OneIn(6)) return "file cancel";
+      return std::string("file save ") + (savesDesign_ ? Any(savePaths) : Any(exportPaths));
     case Asks::Printer:
       break;
   }

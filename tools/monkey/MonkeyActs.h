@@ -31,6 +31,7 @@ class MonkeyActs {
     return list[static_cast<std::size_t>(Below(static_cast<int>(std::size(list))))];
   }
 
+  std::string Choose(ScriptRun& run);
   std::string Press(ScriptRun& run);
   std::string TypeText(ScriptRun& run);
   std::string TurnOrChoose(ScriptRun& run);
@@ -42,7 +43,8 @@ class MonkeyActs {
 
   std::mt19937 random_;
   bool undid_ = false;
-  std::string planned_;  // the next act, made together with the last one
+  bool savesDesign_ = false;  // the present act; what others save must not be taken for a design later
+  std::string planned_;       // the next act, made together with the last one
 };
 
 }  // namespace quilm

@@ -90,9 +90,10 @@ class Watched {
       Find(CheckNumbers(run_));
       if (!act_.empty()) Find(undo_.After(run_, act_, refused_));
     }
-    // A save without a design ends the program.
+    // What other buttons write is no design, whatever it is called. A save without a design ends the program.
     const std::string saved = std::exchange(saving_, {});
-    if (!saved.empty() && !(run_.session.ended && !std::filesystem::exists(saved))) Find(CheckSavedFile(saved));
+    if (!saved.empty() && act_ == "press cmdSave" && !(run_.session.ended && !std::filesystem::exists(saved)))
+      Find(CheckSavedFile(saved));
   }
 
   std::optional<std::string> Next() {
