@@ -135,6 +135,24 @@ TEST_F(Export, ANameWithoutAnExtensionGetsOne) {
   EXPECT_TRUE(Exists("lowpass.dat"));
 }
 
+// As that of a design, which would not be one any more.
+TEST_F(Export, AnExtensionThatIsNotOfferedIsReplaced) {
+  SaveAs("mine.QLM");
+  Press("cmdWriteSpiceSymbol");
+  EXPECT_FALSE(Exists("mine.QLM"));
+  EXPECT_TRUE(Exists("mine.ASY"));
+  SaveAs("mine.txt");
+  Press("cmdWriteNetlist");
+  EXPECT_TRUE(Exists("mine.CIR"));
+  Press("cmdWriteSnP");
+  SaveAs("mine.s1p");  // two ports
+  Press("cmdContinue");
+  EXPECT_TRUE(Exists("mine.S2P"));
+  SaveAs("mine.s2p");
+  Press("cmdContinue");
+  EXPECT_TRUE(Exists("mine.s2p"));
+}
+
 // The dialog has asked about another name.
 TEST_F(Export, AFileWhoseNameTheExtensionMakesIsAskedAbout) {
   std::ofstream(Path("a.DAT")) << "old";
@@ -224,7 +242,9 @@ TEST_F(Export, ASweepThatFailsIsToldAndNothingIsWritten) {
 
 // A folder stands where the file would go.
 TEST_F(Export, WhatCannotBeWrittenIsToldInTheWordsOfItsKind) {
-  std::filesystem::create_directory(Path("folder.DAT"));
+  for (const char* ending : {".DAT", ".CIR", ".SUB", ".ASC", ".ASY"}) {
+    std::filesystem::create_directory(Path(std::string("folder") + ending));
+  }
   const std::string netlist = "A problem was encountered and so we were unable to write the SPICE netlist";
   const std::pair<const char*, std::string> texts[] = {
       {"cmdWriteTabulatedS", "A problem was encountered and so the tabulated-data file was not written"},
@@ -232,13 +252,16 @@ TEST_F(Export, WhatCannotBeWrittenIsToldInTheWordsOfItsKind) {
       {"cmdWriteNetlist", netlist},
       {"cmdWriteSubcircuit", netlist},
       {"cmdWriteSpiceSchematic", "A problem was encountered and so we did not write the LTspice schematic file"},
-      {"cmdWriteSpiceSymbol", Path("folder.DAT") + " was not written.\r\nThe reason: it is a folder"},
-      {"cmdWriteVerified", Path("folder.DAT") + " was not written.\r\nThe reason: it is a folder"}};
+      {"cmdWriteSpiceSymbol", Path("folder.ASY") + " was not written.\r\nThe reason: it is a folder"},
+      {"cmdWriteVerified", Path("folder.CIR") + " was not written.\r\nThe reason: it is a folder"}};
   for (const auto& [button, text] : texts) {
-    SaveAs("folder.DAT");
+    const auto* kind = std::find_if(std::begin(kinds), std::end(kinds),
+                                    [&](const Kind& each) { return button == std::string(each.button); });
+    const std::string name = "folder" + std::string(kind->name).substr(std::string(kind->name).size() - 4);
+    SaveAs(name);
     Press(button);
     EXPECT_EQ(platform.messages.back().text, text) << button;
-    EXPECT_EQ(session.note, Path("folder.DAT") + " was not written whole: it is a folder");
+    EXPECT_EQ(session.note, name + " was not written: it is a folder");
     EXPECT_EQ(Top().Id(), PageId::WriteFiles);
   }
   EXPECT_EQ(platform.messages.size(), std::size(texts));
@@ -426,9 +449,10 @@ TEST_F(SnP, ASweepThatFailsIsToldAndNothingIsWritten) {
 
 TEST_F(SnP, AFileThatIsNotWrittenIsToldByItsKind) {
   std::filesystem::create_directory(Path("folder.S2P"));
+  std::filesystem::create_directory(Path("folder.S1P"));
   Write("folder.S2P");
   Press("Option8");
-  Write("folder.S2P");
+  Write("folder.S1P");
   EXPECT_THAT(MessageTexts(), ElementsAre("A problem was encountered and so the S2P file was not written",
                                           "A problem was encountered and so the S1P file was not written"));
   EXPECT_EQ(Top().Id(), PageId::GetSnPoptions);
@@ -442,7 +466,7 @@ TEST_F(SnP, WhatWasWrittenStays) {
   Write("a.S2P");
   EXPECT_THAT(MessageTexts(), ElementsAre("A problem was encountered and so the S2P file was not written"));
   EXPECT_EQ(Lines("a.S2P").size(), 4U);
-  EXPECT_EQ(session.note, Path("a.S2P") + " was not written whole: Division by zero");
+  EXPECT_EQ(session.note, Path("a.S2P") + " ends early: Division by zero");
 }
 
 TEST_F(SnP, ACancelledDialogWritesWhereNothingIsLost) {

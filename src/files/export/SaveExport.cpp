@@ -26,14 +26,31 @@ std::string ExtensionOf(const fs::path& path) {
   return known ? extension : std::string();
 }
 
+char Capital(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; }
+
+// Whether the dialog has a filter for the extension, in capitals or not.
+bool IsOffered(const std::string& filter, std::string extension) {
+  std::transform(extension.begin(), extension.end(), extension.begin(), Capital);
+  const std::string pattern = "*" + extension;
+  for (std::size_t at = filter.find(pattern); at != std::string::npos; at = filter.find(pattern, at + 1)) {
+    const std::size_t end = at + pattern.size();
+    if (end == filter.size() || !(IsLetter(filter[end]) || IsDigit(filter[end]))) return true;
+  }
+  return false;
+}
+
+std::string WithExtension(std::string path, const char* extension) {
+  path.resize(path.size() - ExtensionOf(path).size());
+  return path + extension;
+}
+
 std::string OfferedPath(Session& session, const ExportKind& kind) {
   const ExportChoices& choices = session.exports;
   std::string path = choices.*kind.path;
   if (path.empty()) {
     path = (choices.folder.empty() ? session.platform.ProgramFolder() : choices.folder) + "/" + kind.defaultName;
   }
-  path.resize(path.size() - ExtensionOf(path).size());
-  return path + kind.extension;
+  return WithExtension(path, kind.extension);
 }
 
 bool IsThere(const std::string& path) {
@@ -55,14 +72,15 @@ bool MayReplace(Session& session, const ExportKind& kind, const std::string& pat
 // The path to write; nothing when there is none.
 std::optional<std::string> AskPath(Session& session, const ExportKind& kind) {
   const std::string offered = OfferedPath(session, kind);
-  const std::optional<std::string> chosen = session.platform.SaveDialog(kind.title, kind.filter, offered);
+  std::optional<std::string> chosen = session.platform.SaveDialog(kind.title, kind.filter, offered);
   if (!chosen) {
     if (!IsThere(offered)) return offered;
     session.note = "Nothing was written: the dialog was cancelled, and " + NameOf(offered) + " is there already";
     return std::nullopt;
   }
-  if (!ExtensionOf(*chosen).empty()) return chosen;
-  const std::string path = *chosen + kind.extension;
+  const std::string extension = ExtensionOf(*chosen);
+  if (!extension.empty() && IsOffered(kind.filter, extension)) return chosen;
+  const std::string path = WithExtension(*chosen, kind.extension);
   return MayReplace(session, kind, path) ? std::optional(path) : std::nullopt;
 }
 
@@ -72,11 +90,27 @@ void Remember(Session& session, const ExportKind& kind, const std::string& path)
   session.exports.folder = fs::absolute(path, unknown).parent_path().string();
 }
 
+void TellFailure(Session& session, const ExportKind& kind, const std::string& path, const std::string& reason) {
+  const std::string message = kind.failure;
+  const std::string withReason = path + " was not written.\r\nThe reason: " + reason;
+  session.platform.MessageBox(message.empty() ? withReason : message, Buttons::Ok, Icon::Exclamation, "");
+}
+
 // A text that is not whole is written only where what there is of it is kept.
-WriteOutcome WriteExport(const std::string& path, const ExportText& made, OnFailure kept) {
-  if (!made.failure.empty() && kept == OnFailure::KeepOldFile) return {made.failure};
-  const WriteOutcome outcome = WriteTextFile(path, made.text, kept);
-  return outcome && !made.failure.empty() ? WriteOutcome{made.failure} : outcome;
+void WriteExport(Session& session, const ExportKind& kind, const std::string& path, const ExportText& made) {
+  const bool whole = made.failure.empty();
+  const WriteOutcome outcome = whole || kind.kept == OnFailure::KeepWhatWasWritten
+                                   ? WriteTextFile(path, made.text, kind.kept)
+                                   : WriteOutcome{made.failure};
+  if (!outcome) {
+    session.note = NameOf(path) + " was not written: " + outcome.failure;
+    TellFailure(session, kind, path, outcome.failure);
+  } else if (!whole) {
+    session.note = path + " ends early: " + made.failure;
+    TellFailure(session, kind, path, made.failure);
+  } else {
+    session.note = "Wrote " + path;
+  }
 }
 
 }  // namespace
@@ -85,15 +119,7 @@ void SaveExport(Session& session, const ExportKind& kind, const std::function<Ex
   const std::optional<std::string> path = AskPath(session, kind);
   if (!path) return;
   Remember(session, kind, *path);
-  const WriteOutcome outcome = WriteExport(*path, make(), kind.kept);
-  if (outcome) {
-    session.note = "Wrote " + *path;
-    return;
-  }
-  session.note = *path + " was not written whole: " + outcome.failure;
-  const std::string message = kind.failure;
-  session.platform.MessageBox(message.empty() ? *path + " was not written.\r\nThe reason: " + outcome.failure : message,
-                              Buttons::Ok, Icon::Exclamation, "");
+  WriteExport(session, kind, *path, make());
 }
 
 }  // namespace quilm

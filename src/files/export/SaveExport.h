@@ -25,7 +25,8 @@ struct ExportKind {
 
 // Asks for the file and writes what `make` gives. The dialog begins with the path that was last used for the kind, or
 // with the default name in the folder that was last used for any, else in the program's folder; the path has the kind's
-// extension. A name that is entered without an extension gets it, and a file that stands there is asked about.
+// extension. A name that is entered without an extension gets it, and one that the dialog has no filter for is replaced
+// by it; a file that stands there is asked about.
 //
 // After a cancelled dialog the file is written under the name that was offered, as scripts count on, unless a file has
 // that name. The note says what was written, and why nothing was.

@@ -86,7 +86,7 @@ class Writer {
   }
 
   std::string Heading() const {
-    const std::string onePort = "! Freq:       S11 mag:      S11 angle:";
+    std::string onePort = "! Freq:       S11 mag:      S11 angle:";
     if (!HasTwoPorts()) return onePort;
     return onePort + "    S21 mag:      S21 angle:    S12 mag:      S12 angle:    S22 mag:      S22 angle:";
   }
