@@ -183,7 +183,12 @@ void PageView::AddShortcuts() {
   connect(copy, &QShortcut::activated, this, [this] {
     if (const PictureView* picture = PictureToCopy()) picture->Copy();
   });
-  shortcuts_.insert(shortcuts_.end(), {undo, redo, copy});
+  auto* save = new QShortcut(SavePictureKeys(), this);
+  connect(save, &QShortcut::activated, this, [this] {
+    if (PressNamed("cmdSaveTable")) return;
+    if (PictureView* picture = PictureToCopy()) emit picture->SaveRequested(0);
+  });
+  shortcuts_.insert(shortcuts_.end(), {undo, redo, copy, save});
 }
 
 bool PageView::HasTool() const { return side_ != nullptr && side_->Panel() != nullptr; }

@@ -3,7 +3,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QContextMenuEvent>
-#include <QFileInfo>
+#include <QInputDialog>
 #include <QMenu>
 #include <QMouseEvent>
 #include <algorithm>
@@ -40,6 +40,8 @@ QRectF PlaceIn(const Scale& scale, QSizeF room) {
 }
 
 }  // namespace
+
+QKeySequence SavePictureKeys() { return QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S); }
 
 PictureView::PictureView(QWidget* parent) : QWidget(parent) {
   setFocusPolicy(Qt::ClickFocus);
@@ -141,33 +143,30 @@ void PictureView::contextMenuEvent(QContextMenuEvent* event) {
   auto* menu = new QMenu(this);
   menu->setAttribute(Qt::WA_DeleteOnClose);
   menu->addAction(tr("&Copy picture"), QKeySequence::Copy, this, [this] { Copy(); });
-  menu->addAction(tr("&Save picture as..."), this, [this] { emit SaveRequested(); });
+  menu->addAction(tr("&Save picture as..."), SavePictureKeys(), this, [this] { emit SaveRequested(0); });
+  menu->addAction(tr("Save as PNG of a &width..."), this, [this] { AskWidth(); });
   menu->popup(event->globalPos());
 }
 
-// In its natural size, twice as dense as the screen: for documents that are printed.
-QImage PictureView::Render() const {
-  constexpr f64 density = 2;
-  PictureSheet natural(Medium::Paper);
-  natural.Take(sheet_.Whole(), LiveLayer(), Picture());
-  natural.SetPaper(sizeHint(), density);
-  QImage image(sizeHint() * density, QImage::Format_RGB32);
-  image.setDevicePixelRatio(density);
-  {
-    QPainter painter(&image);
-    natural.Paint(painter, QPointF(0, 0));
-  }
-  image.setDevicePixelRatio(1);
-  return image;
+void PictureView::Copy() const { QApplication::clipboard()->setMimeData(ClipboardForms(sheet_.Whole()).release()); }
+
+WriteOutcome PictureView::SaveAs(const QString& path, int width) const {
+  return SavePicture(sheet_.Whole(), path, width);
 }
 
-void PictureView::Copy() const { QApplication::clipboard()->setImage(Render()); }
-
-bool PictureView::SaveAs(const QString& path) const {
-  const QString kind = QFileInfo(path).suffix().toLower();
-  if (kind == QLatin1String("svg")) return SavePictureAsSvg(sheet_.Whole(), path);
-  if (kind == QLatin1String("pdf")) return SavePictureAsPdf(sheet_.Whole(), path);
-  return kind == QLatin1String("png") && SaveImageAsPng(Render(), path);
+// A child on the heap, as the menu.
+void PictureView::AskWidth() {
+  constexpr int least = 100;
+  constexpr int most = 12000;
+  auto* dialog = new QInputDialog(this);
+  dialog->setAttribute(Qt::WA_DeleteOnClose);
+  dialog->setWindowTitle(tr("Save picture"));
+  dialog->setLabelText(tr("Width in pixels:"));
+  dialog->setInputMode(QInputDialog::IntInput);
+  dialog->setIntRange(least, most);
+  dialog->setIntValue(PrintWidth(sheet_.Whole()));
+  connect(dialog, &QInputDialog::intValueSelected, this, &PictureView::SaveRequested);
+  dialog->open();
 }
 
 }  // namespace quilm

@@ -3,14 +3,19 @@
 #pragma once
 
 #include <QElapsedTimer>
+#include <QKeySequence>
 #include <QTimer>
 #include <QWidget>
 #include <functional>
 
+#include "app/PictureFiles.h"
 #include "app/PictureSheet.h"
 #include "shell/Acts.h"
 
 namespace quilm {
+
+// The keys of "Save picture as..." and, where there is none, of saving what a page shows in its stead.
+QKeySequence SavePictureKeys();
 
 class PictureView : public QWidget {
   Q_OBJECT
@@ -24,11 +29,14 @@ class PictureView : public QWidget {
   // Called with the position in user scale. The pages get no event outside the paper, but for a release.
   std::function<void(MouseAct, f32 x, f32 y, MouseButton)> onMouse;
 
-  // Puts the picture on the clipboard, on white paper.
+  // Puts the picture on the clipboard, as vectors and as an image.
   void Copy() const;
 
-  // Writes it to a file: PNG, SVG or PDF by the ending. False for any other ending, and when that cannot be done.
-  bool SaveAs(const QString& path) const;
+  // Writes it to a file: PNG, SVG or PDF by the ending (SavePicture).
+  WriteOutcome SaveAs(const QString& path, int width = 0) const;
+
+  // Asks how many pixels wide an image of it should be, and then for it to be saved.
+  void AskWidth();
 
   // The paper within the widget.
   QRectF Paper() const;
@@ -38,7 +46,8 @@ class PictureView : public QWidget {
   QSize minimumSizeHint() const override;
 
  signals:
-  void SaveRequested();
+  // In a width in pixels as PNG; for 0 the user chooses the kind of file.
+  void SaveRequested(int width);
 
  protected:
   void paintEvent(QPaintEvent* event) override;
@@ -48,7 +57,6 @@ class PictureView : public QWidget {
   void contextMenuEvent(QContextMenuEvent* event) override;
 
  private:
-  QImage Render() const;
   void RefreshPaper();
   void RequestRepaint(const QRect& changed);
   bool Pass(MouseAct act, QMouseEvent* event);

@@ -22,6 +22,22 @@ bool HasLongLine(const QString& text) {
   return false;
 }
 
+// Asks for the file and tells what became of it.
+void SavePictureAs(Session& session, const PictureView& view, const std::string& page, int width) {
+  static const std::string title = "Save picture";
+  static const std::string png = "PNG picture (*.png)|*.png";
+  static const std::string vectors = "|SVG drawing (*.svg)|*.svg|PDF document (*.pdf)|*.pdf";
+  const auto path =
+      session.platform.SaveDialog(title, width > 0 ? png : png + vectors, PictureName(session.identity, page) + ".png");
+  if (!path) return;
+  const WriteOutcome outcome = view.SaveAs(ToQt(*path), width);
+  if (outcome) {
+    session.note = "Wrote " + *path;
+  } else {
+    session.platform.MessageBox(*path + " was not written: " + outcome.failure, Buttons::Ok, Icon::Exclamation, title);
+  }
+}
+
 }  // namespace
 
 LabelView::LabelView(Label& label, QWidget* parent) : ControlView(label), label_(label), widget_(new QLabel(parent)) {
@@ -116,16 +132,9 @@ PictureBoxView::PictureBoxView(PictureBox& box, ActSink& sink, QWidget* parent)
   areas_->onPress = [this, &sink](const std::string& name) {
     sink.Press([this, name](Session& session) { PressArea(session, box_, name); });
   };
-  QObject::connect(view_, &PictureView::SaveRequested, view_, [this, &sink] {
-    sink.Perform([view = view_, page = box_.Owner().title](Session& session) {
-      RunHandler(session, [&] {
-        const auto path = session.platform.SaveDialog(
-            "Save picture", "PNG picture (*.png)|*.png|SVG drawing (*.svg)|*.svg|PDF document (*.pdf)|*.pdf",
-            PictureName(session.identity, page) + ".png");
-        if (!path) return;
-        if (!view->SaveAs(ToQt(*path))) throw Fault("The picture could not be written to " + *path);
-        session.note = "Wrote " + *path;
-      });
+  QObject::connect(view_, &PictureView::SaveRequested, view_, [this, &sink](int width) {
+    sink.Perform([view = view_, page = box_.Owner().title, width](Session& session) {
+      RunHandler(session, [&] { SavePictureAs(session, *view, page, width); });
     });
   });
   SetWidget(view_);

@@ -2,9 +2,11 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QContextMenuEvent>
 #include <QFontDatabase>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QMenu>
 #include <QPainter>
 #include <algorithm>
 
@@ -131,6 +133,19 @@ void CellTable::keyPressEvent(QKeyEvent* event) {
   }
 }
 
+// In no loop of its own, so that the page can go while it is open.
+void CellTable::contextMenuEvent(QContextMenuEvent* event) {
+  auto* menu = new QMenu(this);
+  menu->setAttribute(Qt::WA_DeleteOnClose);
+  QAction* copy = menu->addAction(tr("&Copy marked rows"), QKeySequence::Copy, this, [this] { CopyRows(); });
+  copy->setEnabled(selectionModel()->hasSelection());
+  menu->addAction(tr("Mark &all rows"), QKeySequence::SelectAll, this, [this] { selectAll(); });
+  if (commands) {
+    for (const auto& [caption, act] : commands()) menu->addAction(caption, this, act);
+  }
+  menu->popup(event->globalPos());
+}
+
 // With their headings, set apart by tabs as spreadsheets take them; in the order of the table, whichever was marked
 // first.
 void CellTable::CopyRows() const {
@@ -156,6 +171,15 @@ TableView::TableView(ListBox& list, ActSink& sink, QWidget* parent)
   QObject::connect(widget_, &QTableView::clicked, widget_, [this, &sink](const QModelIndex& cell) {
     sink.Press([this, row = cell.row() + 1](Session& session) { Choose(session, list_, row); });
   });
+  widget_->commands = [this, &sink] {
+    std::vector<std::pair<QString, std::function<void()>>> offered;
+    for (Button* button : list_.menu) {
+      if (!button->Usable()) continue;
+      offered.emplace_back(QLatin1Char('&') + ToQt(button->caption),
+                           [&sink, button] { sink.Press([button](Session& session) { Click(session, *button); }); });
+    }
+    return offered;
+  };
 }
 
 void TableView::ShowValues() { cells_->Show(list_.items); }

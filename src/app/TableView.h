@@ -6,7 +6,9 @@
 #include <QStringList>
 #include <QStyledItemDelegate>
 #include <QTableView>
+#include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "app/ControlView.h"
@@ -56,9 +58,13 @@ class CellTable : public QTableView {
  public:
   CellTable(CellModel& model, QWidget* parent);
 
+  // What the context menu offers besides copying and marking: a caption, and what it does. Asked for when it opens.
+  std::function<std::vector<std::pair<QString, std::function<void()>>>()> commands;
+
  protected:
   bool event(QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
 
  private:
   void CopyRows() const;

@@ -55,7 +55,7 @@ struct Glyph {
 
 // Greek letters stand in the Symbol font at the places of Latin ones (ISO 32000-1, table D.5).
 char GreekPlace(char32_t character) {
-  constexpr std::string_view small = "abgdezhqiklmnxoprVstujcyw";  // alpha to omega, with the final sigma
+  constexpr std::string_view small = "abgdezhqiklmnxoprVstufcyw";  // alpha to omega, with the final sigma
   constexpr std::string_view large = "ABGDEZHQIKLMNXOPR STUFCYW";
   constexpr char32_t alpha = 0x3B1;
   constexpr char32_t Alpha = 0x391;

@@ -79,8 +79,9 @@ TEST(CopiedPicture, IsOnPaper) {
   EXPECT_EQ(QColor(Shot(view).pixel(75, 50)), QColor(Qt::white));
   view.Copy();
   const QImage copy = QApplication::clipboard()->image();
-  EXPECT_EQ(QColor(copy.pixel(50, 100)), QColor(Qt::white));
-  EXPECT_EQ(QColor(copy.pixel(150, 100)), QColor(Qt::blue));
+  ASSERT_EQ(copy.size(), QSize(313, 313)) << "300 to the inch";
+  EXPECT_EQ(QColor(copy.pixel(78, 100)), QColor(Qt::white));
+  EXPECT_EQ(QColor(copy.pixel(234, 100)), QColor(Qt::blue));
 }
 
 TEST_F(PictureViewOfASquare, MapsPlacesToTheUserScale) {
@@ -443,7 +444,7 @@ TEST_F(PictureViewOfASquare, SavesEachKindOfFile) {
       {"p.PNG", QByteArray("\x89PNG")}, {"p.SVG", QByteArray("<")}, {"p.PDF", QByteArray("%PDF")}};
   for (const auto& [name, start] : kinds) {
     const QString path = folder.filePath(name);
-    EXPECT_TRUE(view.SaveAs(path)) << name;
+    EXPECT_EQ(view.SaveAs(path).failure, "") << name;
     QFile file(path);
     ASSERT_TRUE(file.open(QIODevice::ReadOnly)) << name;
     EXPECT_TRUE(file.readAll().startsWith(start)) << name;
@@ -453,14 +454,15 @@ TEST_F(PictureViewOfASquare, SavesEachKindOfFile) {
 TEST_F(PictureViewOfASquare, NoFileIsWrittenThatItsNameBelies) {
   const QTemporaryDir folder;
   for (const char* name : {"p.jpg", "p.txt", "p"}) {
-    EXPECT_FALSE(view.SaveAs(folder.filePath(name))) << name;
+    EXPECT_FALSE(static_cast<bool>(view.SaveAs(folder.filePath(name)))) << name;
     EXPECT_FALSE(QFile::exists(folder.filePath(name))) << name;
   }
 }
 
 TEST_F(PictureViewOfASquare, AFileThatCannotBeWrittenIsTold) {
-  for (const char* name : {"/nowhere/p.PNG", "/nowhere/p.SVG", "/nowhere/p.PDF"})
-    EXPECT_FALSE(view.SaveAs(name)) << name;
+  for (const char* name : {"/nowhere/p.PNG", "/nowhere/p.SVG", "/nowhere/p.PDF"}) {
+    EXPECT_EQ(view.SaveAs(name).failure, "there is no such folder") << name;
+  }
 }
 
 TEST_F(PictureViewOfASquare, ARepaintWithoutChangeIsFast) {
@@ -581,7 +583,7 @@ class SavingThePlot : public MenuOverThePlot {
       NameBox()->setText(folder.filePath(QString::fromLatin1(name)));
       QTest::keyClick(NameBox(), Qt::Key_Return);
     });
-    emit View().SaveRequested();
+    emit View().SaveRequested(0);
   }
   bool IsPng(const char* name) const {
     QFile file(folder.filePath(QString::fromLatin1(name)));

@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "desk/StartUp.h"
 #include "pages/PageBench.h"
 #include "pages/PageDirectory.h"
@@ -80,6 +82,34 @@ TEST_F(TabulatedPage, ACancelledPrintDialogIsQuiet) {
   platform.printers = {false};
   Press("cmdPrint");
   EXPECT_TRUE(platform.messages.empty());
+}
+
+// A heading and 41 points, each line with CR LF.
+TEST_F(TabulatedPage, IsSavedWithAllDigits) {
+  platform.files.push_back(Path("t.csv"));
+  Press("cmdSaveTable");
+  EXPECT_EQ(platform.fileDialogs.back().title, "Save table");
+  EXPECT_EQ(platform.fileDialogs.back().defaultName, "Quilm table.csv");
+  const std::string text = File("t.csv");
+  EXPECT_EQ(std::count(text.begin(), text.end(), '\n'), 42);
+  EXPECT_TRUE(text.starts_with("Frequency (Hz),Trans. (dB),"));
+  EXPECT_EQ(text.substr(text.find('\n') + 1, 5), "1000,");
+  EXPECT_EQ(session.note, "Wrote " + Path("t.csv"));
+}
+
+TEST_F(TabulatedPage, ATableThatCannotBeWrittenIsToldWithPathAndReason) {
+  platform.files.push_back("/nowhere/t.csv");
+  Press("cmdSaveTable");
+  ASSERT_EQ(platform.messages.size(), 1U);
+  EXPECT_EQ(platform.messages[0].title, "Save table");
+  EXPECT_EQ(platform.messages[0].text, "/nowhere/t.csv was not written: there is no such folder");
+}
+
+TEST_F(TabulatedPage, ACancelledSaveIsQuiet) {
+  platform.files.push_back(std::nullopt);
+  Press("cmdSaveTable");
+  EXPECT_TRUE(platform.messages.empty());
+  EXPECT_EQ(session.note, "");
 }
 
 TEST_F(TabulatedPage, LeadsBackToTheDesign) {

@@ -5,6 +5,7 @@
 
 #include "script/ScriptBench.h"
 #include "script/TemporaryFolder.h"
+#include "support/PdfTools.h"
 
 namespace quilm {
 namespace {
@@ -122,6 +123,24 @@ TEST(PrintedCommand, WritesOneFileASheet) {
   EXPECT_FALSE(outcome.error) << outcome.Reason();
   EXPECT_THAT(ContentOf(folder.Path() + "/my plot-1.svg"), testing::HasSubstr(">one</text>"));
   EXPECT_THAT(ContentOf(folder.Path() + "/my plot-2.svg"), testing::HasSubstr(">two</text>"));
+}
+
+TEST(PrintedCommand, WritesAllSheetsAsOnePdf) {
+  const TemporaryFolder folder;
+  const std::string path = folder.Path() + "/my plot.pdf";
+  const Outcome outcome = RunText("printer ok\npress cmdPrint\nprinted " + path + "\n");
+  EXPECT_FALSE(outcome.error) << outcome.Reason();
+  EXPECT_EQ(PdfInfo(path, "Pages"), "2");
+  EXPECT_EQ(PdfInfo(path, "Page size"), "612 x 792 pts (letter)");
+  EXPECT_THAT(PdfWords(path, 1), testing::HasSubstr("one"));
+  EXPECT_THAT(PdfWords(path, 2), testing::HasSubstr("two"));
+}
+
+TEST(PictureCommand, WritesAPdfWhereItsNameSaysSo) {
+  const TemporaryFolder folder;
+  const std::string path = folder.Path() + "/plot.pdf";
+  EXPECT_FALSE(RunText("picture " + path + " picPlot", DrawOnPlot).error);
+  EXPECT_EQ(PdfInfo(path, "Pages"), "1");
 }
 
 // 1.2 M is 1200000, and what makes no sense is dropped.
