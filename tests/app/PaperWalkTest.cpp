@@ -110,7 +110,7 @@ TEST_F(PaperWalk, ThePlotIsPrintedToPdfTwiceAndUndoGoesOn) {
   EXPECT_EQ(Top().Id(), PageId::Design) << "what is taken back is the last entry, not the print";
 }
 
-TEST_F(PaperWalk, SchematicAndArtworkArePrintedToPdf) {
+TEST_F(PaperWalk, TheSchematicIsPrintedToPdf) {
   DesignLowpass();
   ClickOn("cmdSchematic");
   PrintTo(Path("schematic.pdf"));
