@@ -207,13 +207,17 @@ void Reader::ReadStage(Stage& stage) {
   HoldStubLength(stage);
 }
 
-// The number of intervals that a linear sweep's step stands for. The step is written with seven digits, so a quotient
-// that misses a whole number by a thousandth is that number.
+// A count that misses a whole number by a thousandth is that number.
+f32 WholeIfNear(f32 count) {
+  const f32 whole = std::round(count);
+  return std::fabs(count - whole) <= 0.001F ? whole : count;
+}
+
+// The number of intervals that a linear sweep's step stands for. The step is written with seven digits.
 f32 IntervalsOfStep(f32 span, f32 step) {
   if (!(step > 0)) return limitsOf::NrIntervals.lowest;
   const f32 quotient = Fitting(static_cast<f64>(span) / static_cast<f64>(step));
-  const f32 whole = std::round(quotient);
-  return std::min(std::fabs(quotient - whole) <= 0.001F ? whole : quotient, limitsOf::NrIntervals.highest);
+  return std::min(WholeIfNear(quotient), limitsOf::NrIntervals.highest);
 }
 
 void Reader::Sweep() {
@@ -227,7 +231,7 @@ void Reader::Sweep() {
   if (record_.SweepMode == 1) {
     record_.NrIntervals = IntervalsOfStep(record_.Fstop - record_.Fstart, Plain());
   } else if (record_.SweepMode == 2) {
-    record_.NrIntervals = limitsOf::NrIntervals.Held(Plain());
+    record_.NrIntervals = limitsOf::NrIntervals.Held(WholeIfNear(Plain()));
   }
 }
 

@@ -189,4 +189,11 @@ std::string DesignText(DesignRecord& record, const std::string& date) {
   return out.Take();
 }
 
+int StageWithoutLine(const Network& network) {
+  for (int s = 1; s <= network.Stages; ++s) {
+    if (StageLine(network.stage[s].ElementType).empty()) return s;
+  }
+  return 0;
+}
+
 }  // namespace quilm

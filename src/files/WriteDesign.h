@@ -14,4 +14,9 @@ namespace quilm {
 // prototype, LimitCount is counted anew, and stubs that must not be 0 long get their floor of 1E-06 degrees.
 std::string DesignText(DesignRecord& record, const std::string& date);
 
+// The first stage that the file has no line for, an empty place that an insert has left; 0 when there is none. Reading
+// takes the line after it in its place, as it always has, so such a file is of no use until the place is filled or
+// deleted.
+int StageWithoutLine(const Network& network);
+
 }  // namespace quilm

@@ -50,6 +50,9 @@ bool SaveDesign(Session& session, const std::string& title) {
   if (!modWriteQuilmFile(session)) return false;
   session.history.MarkSaved(session);
   session.note = "Saved " + *chosen;
+  if (const int empty = StageWithoutLine(session.network)) {
+    session.note += "; it cannot be read again as long as stage " + std::to_string(empty) + " has no element";
+  }
   return true;
 }
 

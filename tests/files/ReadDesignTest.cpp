@@ -129,6 +129,8 @@ TEST(ReadDesign, SweepModes) {
   EXPECT_EQ(with("-2 1k 10M 5").RelativeMode, 1);
   EXPECT_EQ(with("2 1k 10M 3").NrIntervals, 4);
   EXPECT_EQ(with("2 1k 10M 9999").NrIntervals, 2049);
+  EXPECT_EQ(with("2 1k 10M 99.9995").NrIntervals, 100);
+  EXPECT_NEAR(with("2 1k 10M 99.5").NrIntervals, 99.5F, 1e-6);
   EXPECT_EQ(with("1 0 1M 0").NrIntervals, 4);
   EXPECT_EQ(with("1 0 1M 31250").NrIntervals, 32);
   EXPECT_EQ(with("1 0 1M 31250.01").NrIntervals, 32);  // a step of seven digits stands for a whole number

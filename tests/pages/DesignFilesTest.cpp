@@ -39,6 +39,17 @@ TEST_F(DesignFiles, ADesignIsSavedAndOpenedAgain) {
   EXPECT_EQ(platform.pageEvents, (std::vector<std::string>{"unload frmPlotted", "show frmPlotted"}));
 }
 
+TEST_F(DesignFiles, AStageWithoutAnElementIsToldOf) {
+  MakeLowpass();
+  platform.files = {Path("lowpass.QLM"), Path("lowpass.QLM")};
+  Press("cmdSave");
+  EXPECT_EQ(session.note, "Saved " + Path("lowpass.QLM"));
+  session.record.stage[2].ElementType = 0;
+  Press("cmdSave");
+  EXPECT_EQ(session.note,
+            "Saved " + Path("lowpass.QLM") + "; it cannot be read again as long as stage 2 has no element");
+}
+
 TEST_F(DesignFiles, ADesignIsSavedUntilItIsChanged) {
   MakeLowpass();
   const auto saved = [this] { return session.history.IsSaved(session); };

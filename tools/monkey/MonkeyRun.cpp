@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "core/Fault.h"
+#include "files/WriteDesign.h"
 #include "monkey/MonkeyChecks.h"
 #include "script/Commands.h"
 #include "script/ScriptRun.h"
@@ -92,6 +93,7 @@ class Watched {
     }
     // What other buttons write is no design, whatever it is called. A save without a design ends the program.
     const std::string saved = std::exchange(saving_, {});
+    if (StageWithoutLine(run_.session.network) != 0) return;  // a file that tells so and cannot be read
     if (!saved.empty() && act_ == "press cmdSave" && !(run_.session.ended && !std::filesystem::exists(saved)))
       Find(CheckSavedFile(saved));
   }
