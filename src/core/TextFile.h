@@ -27,10 +27,10 @@ struct WriteOutcome {
 // Replaces the file at `path`, or makes it, with `text` byte for byte. Fails for whatever reason: no such folder, no
 // permission, a full disk, a limit on the size of files.
 //
-// It is written to a temporary file beside the old one, flushed to the disk and renamed, so that whoever reads, a second
-// instance or the next start after a power failure, finds the old text or the new one and never a part of a write that
-// still goes on. Of several writers at once the last to end wins. An old file keeps its permissions, and one that is
-// protected against writing is not replaced. A symbolic link stays, and what it leads to is replaced.
+// It is written to a temporary file beside the old one, flushed to the disk and renamed, so that whoever reads, a
+// second instance or the next start after a power failure, finds the old text or the new one and never a part of a
+// write that still goes on. Of several writers at once the last to end wins. An old file keeps its permissions, and one
+// that is protected against writing is not replaced. A symbolic link stays, and what it leads to is replaced.
 //
 // It needs a folder in which files can be made. Where none can, a file that could be written in place is left as it is:
 // a kill halfway would cost the user the old text and the new one, a failure that is told costs a second choice of

@@ -144,7 +144,7 @@ class ListBox : public Control {
   bool table = false;       // rows of columns: a font of fixed pitch, and many rows can be marked and copied
   // The headings of a table whose rows are cells: the fields of an item are set apart by blanks, one for each heading.
   std::vector<std::string> columns;
-  i32 mostRows = 0;  // shown without scrolling; 0: as many as there is room for
+  i32 mostRows = 0;           // shown without scrolling; 0: as many as there is room for
   std::vector<Button*> menu;  // that the context menu of a table offers, too
   std::function<void()> onClick;
 };

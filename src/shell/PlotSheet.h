@@ -55,8 +55,8 @@ struct PlotSheet {
   Overlays overlays;              // a plot that is drawn anew has none
   AxisPlaces places;              // of the frequencies drawn last
 
-  // What the picture's traces show, for drawing them again on paper: a run or a tuning step that lies over them may have
-  // swept anew since. Null before the first plot.
+  // What the picture's traces show, for drawing them again on paper: a run or a tuning step that lies over them may
+  // have swept anew since. Null before the first plot.
   std::shared_ptr<const Responses> shown;
   bool extremesShown = false;  // the picture has the envelope of tolerance trials, too
 };

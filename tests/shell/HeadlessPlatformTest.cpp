@@ -55,7 +55,9 @@ TEST_F(HeadlessPlatformTest, FileDialogsAreRecorded) {
   EXPECT_EQ(platform.fileDialogs[1].defaultName, "b.QLM");
 }
 
-TEST_F(HeadlessPlatformTest, APrintDialogIsCancelledByItself) { EXPECT_EQ(platform.PrintDialog(Orientation::Portrait), nullptr); }
+TEST_F(HeadlessPlatformTest, APrintDialogIsCancelledByItself) {
+  EXPECT_EQ(platform.PrintDialog(Orientation::Portrait), nullptr);
+}
 
 TEST_F(HeadlessPlatformTest, APrintedDocumentKeepsItsSheets) {
   std::size_t told = 0;
