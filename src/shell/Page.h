@@ -42,6 +42,10 @@ class Page {
   // nothing to show once it is done, names that one.
   virtual PageId Home() const { return id_; }
 
+  // The program ends while the page is open: a design that the page has only proposed becomes what it was before. Must
+  // not throw.
+  virtual void PutBack() {}
+
   // The window's own close box. Unless a page says otherwise it just closes the page.
   virtual void CloseBox();
 

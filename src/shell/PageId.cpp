@@ -80,6 +80,26 @@ std::string_view FormName(PageId id) {
       return "frmMonteCarloSetup";
     case PageId::Nearest5:
       return "frmNearest5";
+    case PageId::ImpedanceMatch:
+      return "frmImpedanceMatch";
+    case PageId::SpecifyInductor:
+      return "frmSpecifyInductor";
+    case PageId::Norton:
+      return "frmNorton";
+    case PageId::Bisection:
+      return "frmBisection";
+    case PageId::MeshTeePi:
+      return "frmMeshTeePi";
+    case PageId::LumpedToTubular:
+      return "frmLumpedToTubular";
+    case PageId::DrawLines:
+      return "frmDrawLines";
+    case PageId::WindInductor:
+      return "frmWindInductor";
+    case PageId::FindInductance:
+      return "frmFindInductance";
+    case PageId::ToroidDesign:
+      return "frmToroidDesign";
     case PageId::Blank:
       return "frmBlank";
   }

@@ -44,6 +44,16 @@ enum class PageId {
   TuneApass,
   MonteCarloSetup,
   Nearest5,
+  ImpedanceMatch,
+  SpecifyInductor,
+  Norton,
+  Bisection,
+  MeshTeePi,
+  LumpedToTubular,
+  DrawLines,
+  WindInductor,
+  FindInductance,
+  ToroidDesign,
   Blank,
 };
 

@@ -30,9 +30,6 @@ constexpr ToolRow tools[] = {
     {"Tee To Pi", "Turn tees of capacitors into pis", Sign::TeeToPi},
 };
 
-constexpr int nortonTool = 13;
-constexpr int teeToPiTool = 14;
-
 }  // namespace
 
 DesignTools::DesignTools(Page& page) {

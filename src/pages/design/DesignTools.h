@@ -12,8 +12,18 @@ namespace quilm {
 struct DesignView;
 
 inline constexpr int nearest5Tool = 1;
+inline constexpr int specifyInductorTool = 2;
+inline constexpr int reversalTool = 3;
 inline constexpr int singlyTerminatedTool = 4;
+inline constexpr int tubularTool = 6;
+inline constexpr int matchTool = 7;
+inline constexpr int windTool = 8;
+inline constexpr int findTool = 9;
+inline constexpr int bisectionTool = 10;
 inline constexpr int endSectionsTool = 11;
+inline constexpr int toroidTool = 12;
+inline constexpr int nortonTool = 13;
+inline constexpr int teeToPiTool = 14;
 
 class DesignTools {
  public:

@@ -5,11 +5,13 @@
 #include "core/DesignRecord.h"
 #include "core/EntryLimits.h"
 #include "desk/Leaving.h"
+#include "desk/ResponseChange.h"
 #include "desk/modCheckEntries.h"
 #include "desk/modComputeReals.h"
 #include "files/modReadQuilmFiles.h"
 #include "files/modWriteQuilmFile.h"
 #include "network/DesignStanding.h"
+#include "network/NetworkEdits.h"
 #include "pages/design/FamilyRules.h"
 #include "pages/design/ValidateDesign.h"
 #include "schematic/Icons.h"
@@ -63,9 +65,7 @@ void frmDesign::ConnectButtons() {
     controls_.guides.Guide(number).onClick = [this, number] { ShowTopologyHelp(number); };
   }
   cmdSeeNorms_.onClick = [this] { SeeNormalized(); };
-  controls_.tools.Offer(nearest5Tool, [this] { ShowNearest(); });
-  controls_.tools.Offer(singlyTerminatedTool, [this] { DesignSinglyTerminated(); });
-  controls_.tools.Offer(endSectionsTool, [this] { AddEnds(); });
+  ConnectTools();
   cmdManual_.onClick = [this] { EnterByHand(); };
   cmdTitle_.onClick = [this] { session_.pages.ShowModal(PageId::ChangeTitle); };
   cmdInfo_.onClick = [this] { session_.pages.ShowModal(PageId::AddInfo); };
@@ -78,6 +78,25 @@ void frmDesign::ConnectButtons() {
   cmdTitle_.picture = SignPicture(Sign::Title);
   cmdInfo_.picture = SignPicture(Sign::Info);
   cmdAssistance_.picture = SignPicture(Sign::Help);
+}
+
+void frmDesign::ConnectTools() {
+  const auto offer = [this](int tool, PageId page, void (frmDesign::*open)(PageId)) {
+    if (session_.pages.Has(page)) controls_.tools.Offer(tool, [this, page, open] { (this->*open)(page); });
+  };
+  offer(nearest5Tool, PageId::Nearest5, &frmDesign::OpenOnNetwork);
+  offer(specifyInductorTool, PageId::SpecifyInductor, &frmDesign::OpenOnNetwork);
+  offer(singlyTerminatedTool, PageId::SinglyTermCheby, &frmDesign::OpenAnyway);
+  offer(tubularTool, PageId::LumpedToTubular, &frmDesign::OpenOnNetwork);
+  offer(windTool, PageId::WindInductor, &frmDesign::OpenAnyway);
+  offer(findTool, PageId::FindInductance, &frmDesign::OpenAnyway);
+  offer(bisectionTool, PageId::Bisection, &frmDesign::OpenOnNetwork);
+  offer(toroidTool, PageId::ToroidDesign, &frmDesign::OpenAnyway);
+  offer(nortonTool, PageId::Norton, &frmDesign::OpenOnNetwork);
+  offer(teeToPiTool, PageId::MeshTeePi, &frmDesign::OpenOnNetwork);
+  controls_.tools.Offer(reversalTool, [this] { ReverseEndForEnd(); });
+  if (session_.pages.Has(PageId::EndSections)) controls_.tools.Offer(endSectionsTool, [this] { AddEnds(); });
+  if (session_.pages.Has(PageId::ImpedanceMatch)) controls_.tools.Offer(matchTool, [this] { MatchImpedances(); });
 }
 
 void frmDesign::Load() {
@@ -182,14 +201,14 @@ void frmDesign::SeeNormalized() {
   session_.pages.ShowModal(PageId::SeeNormalized);
 }
 
-// It makes a network of its own entries, so a design without a bandwidth is no hindrance.
-void frmDesign::DesignSinglyTerminated() {
-  if (session_.record.Width > limitsOf::leastEntered && !MakeNetwork()) return;
-  GoTo(PageId::SinglyTermCheby);
+void frmDesign::OpenOnNetwork(PageId tool) {
+  if (MakeNetwork()) GoTo(tool);
 }
 
-void frmDesign::ShowNearest() {
-  if (MakeNetwork()) GoTo(PageId::Nearest5);
+// A design that has not been begun is no hindrance; one that has must be sound.
+void frmDesign::OpenAnyway(PageId tool) {
+  const bool begun = session_.network.Stages > 0 || session_.record.Width > limitsOf::leastEntered;
+  if (!begun || MakeNetwork()) GoTo(tool);
 }
 
 void frmDesign::AddEnds() {
@@ -200,6 +219,29 @@ void frmDesign::AddEnds() {
     return;
   }
   GoTo(PageId::EndSections);
+}
+
+void frmDesign::MatchImpedances() {
+  if (!MakeNetwork()) return;
+  if (!(session_.record.Fcenter > 0)) {
+    session_.platform.MessageBox("Please enter a center frequency", Buttons::Ok, Icon::Exclamation,
+                                 "Error checker 199");
+    SetFocus(controls_.txtCenterFrequency);
+    return;
+  }
+  GoTo(PageId::ImpedanceMatch);
+}
+
+void frmDesign::ReverseEndForEnd() {
+  if (!MakeNetwork()) return;
+  const Network before = session_.network;
+  SwapEndForEnd(session_.network);
+  StandByHand(session_.record);
+  session_.familyOption = familyManual;
+  controls_.Fill();
+  NoteResponseChange(session_, before);
+  session_.platform.MessageBox("Topology and parts values have been reversed, end for end", Buttons::Ok,
+                               Icon::Information, "");
 }
 
 // That page asks first whether this design may go; if not, this one has never been left.

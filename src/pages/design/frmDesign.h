@@ -24,6 +24,7 @@ class frmDesign : public Page {
   void ConnectSpins();
   void ConnectOptions();
   void ConnectButtons();
+  void ConnectTools();
 
   void MarkChanged();
   void ChooseFamily(i16 family);
@@ -35,14 +36,18 @@ class frmDesign : public Page {
   void ShowTopologyHelp(int number);
   void ShowSettings();
   void SeeNormalized();
-  void DesignSinglyTerminated();
-  void ShowNearest();
   void AddEnds();
+  void MatchImpedances();
+  void ReverseEndForEnd();
   void EnterByHand();
 
   // What every way to a result does first; false keeps the page, after the user was told why.
   bool MakeNetwork();
   void GoTo(PageId target);
+
+  // Opens a tool that works on the network, or one that has entries of its own and does without a design as well.
+  void OpenOnNetwork(PageId tool);
+  void OpenAnyway(PageId tool);
 
   Layout FamilyColumn();
   Layout TopologyCards();
