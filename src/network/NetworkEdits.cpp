@@ -45,6 +45,12 @@ void ClearValues(Stage& stage) {
   stage.ElementType = type;
 }
 
+void MakePart(Stage& stage, i16 elementType, f32 L, f32 C) {
+  stage.ElementType = elementType;
+  stage.Lval = {L, 0};
+  stage.Cval = {C, 0};
+}
+
 void InsertStage(Network& network, int at) {
   RequireStage(at, network.Stages + 1);
   const i16 type = at <= network.Stages ? network.stage[at].ElementType : i16{0};

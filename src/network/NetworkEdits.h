@@ -15,6 +15,9 @@ bool HasRoomFor(const Network& network, int stages);
 // All values and tolerances become 0. The type stays, so that the place is still drawn until another is chosen.
 void ClearValues(Stage& stage);
 
+// Makes the stage an inductor, a capacitor or both, without tolerances; values of other kinds stay where they are.
+void MakePart(Stage& stage, i16 elementType, f32 L, f32 C);
+
 // Puts a stage without values before stage `at`, 1 to Stages + 1; the last appends. Until a type is chosen the place
 // has the type of the stage that stood there, as a symbol for the eye, and at the end none.
 void InsertStage(Network& network, int at);
