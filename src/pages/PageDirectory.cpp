@@ -33,6 +33,10 @@
 #include "pages/start/frmExit.h"
 #include "pages/start/frmOpening.h"
 #include "pages/tabulate/frmTabulated.h"
+#include "pages/transforms/frmBisection.h"
+#include "pages/transforms/frmMeshTeePi.h"
+#include "pages/transforms/frmNorton.h"
+#include "pages/transforms/frmSpecifyInductor.h"
 
 namespace quilm {
 
@@ -77,6 +81,10 @@ PageDirectory AllPages() {
       {PageId::Bailout, Make<frmBailout>},
       {PageId::Mderived, Make<frmMderived>},
       {PageId::Nearest5, Make<frmNearest5>},
+      {PageId::SpecifyInductor, Make<frmSpecifyInductor>},
+      {PageId::Norton, Make<frmNorton>},
+      {PageId::Bisection, Make<frmBisection>},
+      {PageId::MeshTeePi, Make<frmMeshTeePi>},
       {PageId::SinglyTermCheby, Make<frmSinglyTermCheby>},
       {PageId::EndSections, Make<frmEndSections>},
       {PageId::SeeNormalized, Make<frmSeeNormalized>},

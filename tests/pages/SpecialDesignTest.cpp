@@ -318,11 +318,12 @@ TEST_F(SinglyTerminatedPage, OpensWithoutABandwidth) {
   EXPECT_EQ(Record().Stages, 4);
 }
 
-// The tools are pages as the Design page is: their close box is that of the program.
-TEST_F(SinglyTerminatedPage, ItsCloseBoxLeavesTheProgram) {
+// The close box of a tool leads back to where it was opened, as its ignore button does.
+TEST_F(SinglyTerminatedPage, ItsCloseBoxIgnores) {
   Open([this] { PressCloseBox(session, Top()); });
-  EXPECT_TRUE(session.ended);
-  EXPECT_NE(File("LASTSESSION.QLM"), "");
+  EXPECT_FALSE(session.ended);
+  EXPECT_EQ(Top().Id(), PageId::Design);
+  EXPECT_EQ(Record().Stages, 3);
 }
 
 TEST_F(SinglyTerminatedPage, TheLimitsThemselvesAreAccepted) {
@@ -378,10 +379,11 @@ TEST_F(EndSectionsPage, TheNetworkSurvivesTheDesignFile) {
   ExpectStages(made);
 }
 
-TEST_F(EndSectionsPage, ItsCloseBoxLeavesTheProgram) {
+TEST_F(EndSectionsPage, ItsCloseBoxIgnores) {
   Open([this] { PressCloseBox(session, Top()); });
-  EXPECT_TRUE(session.ended);
-  EXPECT_NE(File("LASTSESSION.QLM"), "");
+  EXPECT_FALSE(session.ended);
+  EXPECT_EQ(Top().Id(), PageId::Design);
+  EXPECT_EQ(Record().Stages, 3);
 }
 
 TEST_F(EndSectionsPage, TheyAreNotAddedTwice) {

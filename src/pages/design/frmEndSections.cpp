@@ -3,7 +3,6 @@
 #include "core/DesignRecord.h"
 #include "core/Fault.h"
 #include "core/modGeneral.h"
-#include "desk/Leaving.h"
 #include "desk/ReturnToDesign.h"
 #include "shell/Session.h"
 #include "synthesis/EndSections.h"
@@ -57,9 +56,6 @@ void frmEndSections::Return() {
   ReturnToDesign(session_);
   session_.pages.UnloadPage(Id());
 }
-
-// The page stands in the place of the Design page, and leaves the program as that does.
-void frmEndSections::CloseBox() { LeaveByCloseBox(session_); }
 
 Layout frmEndSections::MakeLayout() {
   const Layout form = Form(

@@ -9,7 +9,7 @@ class frmEndSections : public Page {
  public:
   explicit frmEndSections(Session& session);
   void Load() override;
-  void CloseBox() override;
+  void CloseBox() override { Return(); }
   PageId Home() const override { return PageId::Design; }
   Layout MakeLayout() override;
 

@@ -2,7 +2,6 @@
 
 #include "core/DesignRecord.h"
 #include "core/Fault.h"
-#include "desk/Leaving.h"
 #include "desk/ReturnToDesign.h"
 #include "network/DesignStanding.h"
 #include "pages/design/NearestTable.h"
@@ -84,9 +83,6 @@ void frmNearest5::Return() {
   ReturnToDesign(session_);
   session_.pages.UnloadPage(Id());
 }
-
-// The page stands in the place of the Design page, and leaves the program as that does.
-void frmNearest5::CloseBox() { LeaveByCloseBox(session_); }
 
 Layout frmNearest5::MakeLayout() {
   const Layout table = Group("Parts", Column({Put(lblOriginalValues_), Put(lstParts_), KeepPlace(Put(lblScroll_))}));

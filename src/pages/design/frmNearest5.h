@@ -10,7 +10,7 @@ class frmNearest5 : public Page {
  public:
   explicit frmNearest5(Session& session);
   void Load() override;
-  void CloseBox() override;
+  void CloseBox() override { Return(); }
   PageId Home() const override { return PageId::Design; }
   Layout MakeLayout() override;
 

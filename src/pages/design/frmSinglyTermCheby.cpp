@@ -6,7 +6,6 @@
 #include "core/EntryLimits.h"
 #include "core/Fault.h"
 #include "core/modGeneral.h"
-#include "desk/Leaving.h"
 #include "desk/ReturnToDesign.h"
 #include "shell/Session.h"
 
@@ -123,9 +122,6 @@ void frmSinglyTermCheby::Return() {
   ReturnToDesign(session_);
   session_.pages.UnloadPage(Id());
 }
-
-// The page stands in the place of the Design page, and leaves the program as that does.
-void frmSinglyTermCheby::CloseBox() { LeaveByCloseBox(session_); }
 
 Layout frmSinglyTermCheby::MakeLayout() {
   const Layout form = Form({{Put(lblOrder_), Put(txtOrder_)},

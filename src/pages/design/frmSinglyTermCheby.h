@@ -10,7 +10,7 @@ class frmSinglyTermCheby : public Page {
  public:
   explicit frmSinglyTermCheby(Session& session);
   void Load() override;
-  void CloseBox() override;
+  void CloseBox() override { Return(); }
   PageId Home() const override { return PageId::Design; }
   Layout MakeLayout() override;
 
