@@ -25,14 +25,14 @@ void TakePart(Stage& place, const Stage& part) {
   place.Cval.value = part.Cval.value;
 }
 
-void TakeStage(Stage& place, const Stage& stage) { place = stage; }
+bool IsOfPartsAlone(i16 elementType) { return elementType <= ShuntPLC; }
 
-void MoveUp(Network& network, int first, int places, void (*take)(Stage&, const Stage&)) {
-  RequireStage(first, network.Stages + 1);
-  RequireRoom(network, places);
-  for (int s = network.Stages; s >= first; --s) take(network.stage[s + places], network.stage[s]);
-  for (int s = first; s < first + places; ++s) take(network.stage[s], Stage{});
-  network.Stages = static_cast<i16>(network.Stages + places);
+void MovePart(Stage& from, Stage& to) {
+  if (IsOfPartsAlone(from.ElementType)) {
+    TakePart(to, from);
+  } else {
+    to = std::exchange(from, Stage{});
+  }
 }
 
 }  // namespace
@@ -96,9 +96,23 @@ void ResolveReactance(Stage& stage, f32 X, f32 F) {
   stage = part;
 }
 
-void MoveStagesUp(Network& network, int first, int places) { MoveUp(network, first, places, TakeStage); }
+void MoveStagesUp(Network& network, int first, int places) {
+  RequireStage(first, network.Stages + 1);
+  RequireRoom(network, places);
+  for (int s = network.Stages; s >= first; --s) network.stage[s + places] = network.stage[s];
+  for (int s = first; s < first + places; ++s) network.stage[s] = {};
+  network.Stages = static_cast<i16>(network.Stages + places);
+}
 
-void MovePartsUp(Network& network, int first, int places) { MoveUp(network, first, places, TakePart); }
+void MovePartsUp(Network& network, int first, int places) {
+  RequireStage(first, network.Stages + 1);
+  if (network.Stages + places > stageBound) throw BoundFault();
+  // What an earlier, longer network left behind the last stage is nobody's.
+  for (int s = network.Stages + 1; s <= network.Stages + places; ++s) network.stage[s] = {};
+  for (int s = network.Stages; s >= first; --s) MovePart(network.stage[s], network.stage[s + places]);
+  for (int s = first; s < first + places; ++s) TakePart(network.stage[s], Stage{});
+  network.Stages = static_cast<i16>(network.Stages + places);
+}
 
 bool RaiseSource(Network& network) {
   if (!(network.Rsource[1] < leastSource)) return false;

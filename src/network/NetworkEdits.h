@@ -44,9 +44,11 @@ void ResolveReactance(Stage& stage, f32 X, f32 F);
 // Moves stage `first` (1 to Stages + 1) and all behind it up by `places`, whole, and leaves blank stages there.
 void MoveStagesUp(Network& network, int first, int places);
 
-// The same for what a network of inductors and capacitors consists of: types and values of L and C move, while
-// tolerances and all other values keep their places. A matching section that is set before a resonator goes in this
-// way, so that the step sizes of tuning, which rest in the tolerances, stay with the numbers of their stages.
+// The same for a matching section that is set before a resonator. Of stages made of inductors and capacitors types and
+// values of L and C move, while tolerances and all other values keep their places: so the step sizes of tuning, which
+// rest in the tolerances, stay with the numbers of their stages. All other types (resistors, lines, transformers) move
+// whole, since they would be nothing without their other values. The list may grow to its bound, stageBound; beyond it
+// this throws BoundFault.
 void MovePartsUp(Network& network, int first, int places);
 
 // Raises a source below 0.01 ohm to 0.01, the least that can stand at a network's end as its load. True when it was

@@ -238,6 +238,38 @@ TEST(MovePartsUp, TolerancesAndOtherValuesKeepTheirPlaces) {
   EXPECT_EQ(network.stage[3], third);
 }
 
+TEST(MovePartsUp, OtherTypesTakeAllTheirValuesAlong) {
+  Network network = Ladder(3);
+  network.stage[2].ElementType = TransLine;
+  const Stage line = network.stage[2];
+  MovePartsUp(network, 1, 1);
+  EXPECT_EQ(network.stage[3], line);
+  // The part that takes its place brings its values alone, and finds nothing of the line.
+  Stage part;
+  part.ElementType = Numbered(1).ElementType;
+  part.Lval.value = Numbered(1).Lval.value;
+  part.Cval.value = Numbered(1).Cval.value;
+  EXPECT_EQ(network.stage[2], part);
+}
+
+TEST(MovePartsUp, FillsTheListToItsBound) {
+  Network network = Ladder(44);
+  MovePartsUp(network, 1, 2);
+  EXPECT_EQ(network.Stages, 46);
+  EXPECT_EQ(network.stage[46].Lval.value, 44);
+  const Network before = network;
+  EXPECT_THROW(MovePartsUp(network, 1, 1), BoundFault);
+  EXPECT_EQ(network, before);
+}
+
+TEST(MovePartsUp, WhatLiesBehindTheNetworkIsNotTakenIn) {
+  Network network = Ladder(2);
+  network.stage[3] = Numbered(9);
+  MovePartsUp(network, 1, 1);
+  EXPECT_EQ(network.stage[3].TLval, LineValue{});
+  EXPECT_EQ(network.stage[3].Lval.tolerance, 0);
+}
+
 TEST(SwapEndForEnd, TurnsStagesAndTerminationsRound) {
   for (const int stages : {4, 5}) {
     Network network = Ladder(stages);
