@@ -16,6 +16,11 @@ void StandByHand(Identity& design) {
   ForgetResponses(design);
 }
 
+void AcceptMatch(Identity& design) {
+  StandByHand(design);
+  design.MatchAccepted = 1;
+}
+
 void SettleByHand(Identity& design) {
   design.Family = familyManual;
   design.NetworkEdited = 1;

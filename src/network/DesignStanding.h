@@ -22,6 +22,10 @@ void ForgetNetwork(Identity& design);
 // first.
 void StandByHand(Identity& design);
 
+// StandByHand with an impedance match that was accepted (MatchAccepted 1), be it one that leaves both ends as they
+// were: what the user has looked at and accepted is not recomputed.
+void AcceptMatch(Identity& design);
+
 // StandByHand for a design that is already one by hand and whose marks disagree, as those of a file do, which knows the
 // family alone. Nothing of the network has changed, so its responses stay valid.
 void SettleByHand(Identity& design);

@@ -37,6 +37,7 @@
 #include "pages/transforms/frmMeshTeePi.h"
 #include "pages/transforms/frmNorton.h"
 #include "pages/transforms/frmSpecifyInductor.h"
+#include "pages/transforms/frmImpedanceMatch.h"
 
 namespace quilm {
 
@@ -87,6 +88,7 @@ PageDirectory AllPages() {
       {PageId::MeshTeePi, Make<frmMeshTeePi>},
       {PageId::SinglyTermCheby, Make<frmSinglyTermCheby>},
       {PageId::EndSections, Make<frmEndSections>},
+      {PageId::ImpedanceMatch, Make<frmImpedanceMatch>},
       {PageId::SeeNormalized, Make<frmSeeNormalized>},
       {PageId::EnterWidth, Make<frmEnterWidth>},
       {PageId::EnterCenterFreq, Make<frmEnterCenterFreq>},

@@ -87,5 +87,16 @@ TEST(NetworkStands, ByHandByItsFamilyOrByAMatch) {
   EXPECT_FALSE(IsByHand(matched));
 }
 
+TEST(AcceptMatch, StandsByHandAndSaysWhy) {
+  Identity design = Marked();
+  design.NetworkEdited = 0;
+  design.MatchAccepted = 0;
+  Identity expected = Marked();
+  expected.Family = familyManual;
+  expected.ResponsesValid = 0;
+  AcceptMatch(design);
+  EXPECT_EQ(design, expected);
+}
+
 }  // namespace
 }  // namespace quilm
