@@ -30,6 +30,9 @@ struct EntryBinding {
   std::function<void()> onTaken = {};  // after each keystroke: what it makes invalid, what follows it on the page
   // Why the page cannot be accepted with this value; empty when it can. None: any value will do.
   std::function<std::string(f32)> refusal = {};
+  // How many of the unit that the box speaks in make one of the field's: 2.54 where inches are entered in centimetres.
+  // None: they are the same.
+  std::function<f64()> perUnit = {};
 };
 
 class Entry {
@@ -44,6 +47,7 @@ class Entry {
 
   // Takes the box into the field, as the rule holds it. A box that just shows the field leaves it alone, so that
   // reading back an echo of six digits never costs the others: 1.2345678M stays 1234567.8 while its box reads 1.23457M.
+  // The text that the page has filled in stands for the value behind it also when it is typed again.
   void Take();
 
   // A keystroke: takes the box and does what follows.
@@ -65,11 +69,17 @@ class Entry {
   std::string Refusal() const { return binding_.refusal ? binding_.refusal(binding_.field) : std::string(); }
 
  private:
-  f32 Typed() const;  // what the parser makes of the box
+  f32 Typed() const;         // what the parser makes of the box
+  std::string Echo() const;  // the field in display format, in the unit of the box
+  f64 PerUnit() const { return binding_.perUnit ? binding_.perUnit() : 1; }
+  void Remember();
+  bool Means(const std::string& text) const;
   void Note(const std::string& typed);
 
   Session& session_;
   EntryBinding binding_;
+  std::string filledText_;  // what the page has filled in last, and the value that it stands for
+  f32 filledValue_ = 0;
 };
 
 // The entries of one page.

@@ -77,6 +77,43 @@ TEST_F(Entries, ABoxThatShowsItsFieldLeavesItAlone) {
   EXPECT_EQ(field, 1234580.0F);
 }
 
+// The same text is the same value, however it came into the box.
+TEST_F(Entries, WhatThePageFilledInMeansTheSameWhenItIsTypedAgain) {
+  Entry& entry = Bind({.box = page.txtValue, .field = field, .format = FormatFrequency});
+  field = 1234567.8F;
+  entry.Fill();
+  for (const char* text : {"", "1", "1.23457", "1.23457M"}) Put(text);
+  EXPECT_EQ(field, 1234567.8F);
+  Put("1.23457");
+  LeaveBox();
+  Put("1.23457M");
+  EXPECT_EQ(field, 1234570.0F);
+}
+
+TEST_F(Entries, ABoxMaySpeakInAnotherUnitThanItsField) {
+  f64 centimetres = 2.54;
+  Entry& entry =
+      Bind({.box = page.txtValue, .field = field, .format = FormatValue, .perUnit = [&] { return centimetres; }});
+  Put("2.54");
+  EXPECT_EQ(field, 1);
+  LeaveBox();
+  EXPECT_EQ(Text(), "2.54");
+  Put("3");
+  EXPECT_EQ(field, static_cast<f32>(3 / 2.54));
+  LeaveBox();
+  EXPECT_EQ(Text(), "3");
+  EXPECT_EQ(Repairs(), 0);
+  const f32 before = field;
+  centimetres = 1;
+  entry.Fill();
+  EXPECT_EQ(Text(), "1.1811");  // 3 / 2.54 = 1.181102
+  Put("1.1811");
+  EXPECT_EQ(field, before);
+  Put("x");
+  LeaveBox();
+  EXPECT_EQ(bench.session.note, "Value: \"x\" is taken as 0.0000");
+}
+
 TEST_F(Entries, AHeldValueTakesEffectAtOnceAndShowsWhenTheBoxIsLeft) {
   Bind({.box = page.txtValue, .field = field, .format = FormatValue, .hold = AtMost180});
   Put("181");
