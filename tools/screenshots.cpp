@@ -125,6 +125,53 @@ class Walk {
     Tool("Command4", "singly-terminated", "cmdIgnore");
     Tool("Command11", "end-sections", "cmdIgnore");
     Modal("optMderived", "m-derived");
+    Coils();
+    Tubular();
+  }
+
+  void Coils() {
+    if (Press("Command8")) {
+      ChooseLine("lstInductors", 2);
+      Type("txtFormDiameter", "1");
+      Type("txtFormLength", "1");
+      Press("cmdCompute0");
+      Type("txtActualGauge", "14");
+      Save("wind-inductor");
+      Press("cmdExit");
+    }
+    if (Press("Command9")) {
+      Type("txtFormDiameter", "1");
+      Type("txtFormLength", "2");
+      Type("txtTurns", "12");
+      Press("cmdComputeInductance");
+      Save("find-inductance");
+      Press("cmdExit");
+    }
+    if (Press("Command12")) {
+      Type("txtToroidAL", "49");
+      ChooseLine("lstInductors", 2);
+      Save("toroid");
+      ChooseLine("lstInductors", 1);
+      Save("toroid-none");
+      Press("cmdExit");
+    }
+  }
+
+  void Tubular() {
+    Type("txtBandwidth", "500M");
+    if (!Press("Command6")) return;
+    Type("txtFrequencyNormalization", "500M");
+    Press("cmdCalculate");
+    Save("tubular");
+    Modal("cmdDrawPicture", "tubular-drawing");
+    Press("cmdExit");
+    Type("txtBandwidth", "1M");
+  }
+
+  void ChooseLine(const char* name, int line) {
+    auto& list = dynamic_cast<ListBox&>(*desktop_.session.pages.Top()->Find(name));
+    desktop_.platform.Stage().Perform([&](Session& session) { Choose(session, list, line); });
+    Settle();
   }
 
   void WriteFiles() {

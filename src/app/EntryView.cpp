@@ -12,6 +12,7 @@
 #include <utility>
 
 #include "app/HistoryButton.h"
+#include "app/Palettes.h"
 #include "app/QtText.h"
 #include "shell/EntryStep.h"
 #include "shell/Session.h"
@@ -34,7 +35,7 @@ int WidthFor(const QLineEdit& box, int characters) {
 EntryBox::EntryBox(QWidget* parent) : QLineEdit(parent) {
   warmth_.setSingleShot(true);
   warmth_.setInterval(repairMilliseconds);
-  connect(&warmth_, &QTimer::timeout, this, [this] { setPalette(QPalette()); });
+  connect(&warmth_, &QTimer::timeout, this, [this] { setPalette(resting_); });
   connect(this, &QLineEdit::textEdited, this, &EntryBox::Typed);
 }
 
@@ -67,6 +68,11 @@ void EntryBox::ShowRepair() {
   warm.setColor(QPalette::Base, base.lightness() < darkBelow ? QColor(0x5c, 0x45, 0x16) : QColor(0xff, 0xe2, 0xa8));
   setPalette(warm);
   warmth_.start();
+}
+
+void EntryBox::ShowGround(Color ground) {
+  resting_ = MarkedGround(ground, QPalette::Base, QPalette::Text);
+  if (!warmth_.isActive()) setPalette(resting_);
 }
 
 void EntryBox::LeaveIfTouched() {
@@ -201,6 +207,7 @@ EntryView::EntryView(TextBox& box, ActSink& sink, QWidget* parent)
 void EntryView::ShowValues() {
   widget_->ShowText(ToQt(box_.text));
   if (widget_->isReadOnly() != box_.readOnly) widget_->setReadOnly(box_.readOnly);
+  if (box_.backColor != groundShown_) widget_->ShowGround(groundShown_ = box_.backColor);
   if (box_.Repairs() == repairsShown_) return;
   repairsShown_ = box_.Repairs();
   widget_->ShowRepair();

@@ -25,6 +25,8 @@ class EntryBox : public QLineEdit {
   void ShowText(const QString& text);
   // Shows briefly that a limit has replaced the text.
   void ShowRepair();
+  // Marks the box by the colour of its ground, until it is white, which stands for the palette's own.
+  void ShowGround(Color ground);
   // Whether anything was typed since it was entered or left last.
   bool IsTouched() const { return touched_; }
   // Leaves the box in the program's eyes while it keeps the focus; nothing when nothing was typed since.
@@ -47,8 +49,9 @@ class EntryBox : public QLineEdit {
   void ForgetTyping();
   bool IsForDesign(const QKeyEvent& press) const;
 
-  QTimer warmth_;   // runs as long as a repair shows
-  QString before_;  // when the box was entered
+  QPalette resting_;  // its colours while no repair shows
+  QTimer warmth_;     // runs as long as a repair shows
+  QString before_;    // when the box was entered
   bool touched_ = false;
   bool entered_ = false;         // it keeps the focus, also while another window or a menu has the keyboard
   bool enteredByPress_ = false;  // by the mouse button that is still down
@@ -66,6 +69,7 @@ class EntryView : public ControlView {
   TextBox& box_;
   EntryBox* widget_;
   i32 repairsShown_ = 0;
+  Color groundShown_ = colorWhite;
 };
 
 }  // namespace quilm

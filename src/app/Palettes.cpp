@@ -7,6 +7,8 @@
 #include <cmath>
 #include <initializer_list>
 
+#include "app/QtText.h"
+
 namespace quilm {
 
 namespace {
@@ -158,6 +160,14 @@ QPalette DarkPalette() {
                .faint = 0xff939aa3,
                .highlight = 0xff4f90dd,
                .highlightText = 0xff0d1116});
+}
+
+QPalette MarkedGround(Color ground, QPalette::ColorRole behind, QPalette::ColorRole letters) {
+  QPalette colors;
+  if (ground == colorWhite) return colors;
+  colors.setColor(behind, ToQt(ground));
+  colors.setColor(letters, Qt::black);
+  return colors;
 }
 
 void SetAppearance(const QString& palette) {

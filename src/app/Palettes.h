@@ -4,6 +4,8 @@
 #include <QPalette>
 #include <QString>
 
+#include "shell/Canvas.h"
+
 namespace quilm {
 
 QPalette LightPalette();
@@ -19,6 +21,10 @@ QColor RingColor(const QPalette& palette, QPalette::ColorGroup group);
 // How far two opaque colours are apart, from 1 to 21: (L1 + 0.05) / (L2 + 0.05) of their relative luminances, as the
 // Web Content Accessibility Guidelines define it.
 double Contrast(const QColor& one, const QColor& other);
+
+// The colours of a widget whose ground is marked, with dark letters on it in whichever palette: marks are light. White
+// marks nothing, and gives a palette without any colour of its own.
+QPalette MarkedGround(Color ground, QPalette::ColorRole behind, QPalette::ColorRole letters);
 
 // Sets the style of the program, and the palette that is asked for: "light", "dark", or anything else for the system's.
 void SetAppearance(const QString& palette);

@@ -3,6 +3,7 @@
 #include <QAccessible>
 #include <QFontDatabase>
 
+#include "app/Palettes.h"
 #include "app/QtText.h"
 #include "shell/Page.h"
 #include "shell/PictureName.h"
@@ -65,9 +66,11 @@ void LabelView::ShowValues() {
     if (wraps) widget_->setMinimumWidth(wrappedWidth);
     widget_->setWordWrap(wraps);
   }
-  if (label_.foreColor == colorShown_) return;
+  if (label_.foreColor == colorShown_ && label_.backColor == groundShown_) return;
   colorShown_ = label_.foreColor;
-  QPalette colors;
+  groundShown_ = label_.backColor;
+  QPalette colors = MarkedGround(label_.backColor, QPalette::Window, QPalette::WindowText);
+  widget_->setAutoFillBackground(label_.backColor != colorWhite);
   colors.setColor(QPalette::WindowText,
                   ReadableOn(colors.color(QPalette::Window), colors.color(QPalette::WindowText), label_.foreColor));
   widget_->setPalette(colors);

@@ -24,6 +24,7 @@ class LabelView : public ControlView {
   Label& label_;
   QLabel* widget_;
   Color colorShown_ = colorBlack;
+  Color groundShown_ = colorWhite;
 };
 
 // A group's heading with what stands under it.

@@ -1,6 +1,9 @@
 #include "pages/PageDirectory.h"
 
 #include "pages/analysis/frmAnalyze.h"
+#include "pages/coils/frmFindInductance.h"
+#include "pages/coils/frmToroidDesign.h"
+#include "pages/coils/frmWindInductor.h"
 #include "pages/design/EntryForms.h"
 #include "pages/design/frmAddInfo.h"
 #include "pages/design/frmBailout.h"
@@ -38,6 +41,8 @@
 #include "pages/transforms/frmNorton.h"
 #include "pages/transforms/frmSpecifyInductor.h"
 #include "pages/transforms/frmImpedanceMatch.h"
+#include "pages/transforms/frmDrawLines.h"
+#include "pages/transforms/frmLumpedToTubular.h"
 
 namespace quilm {
 
@@ -90,6 +95,11 @@ PageDirectory AllPages() {
       {PageId::EndSections, Make<frmEndSections>},
       {PageId::ImpedanceMatch, Make<frmImpedanceMatch>},
       {PageId::SeeNormalized, Make<frmSeeNormalized>},
+      {PageId::WindInductor, Make<frmWindInductor>},
+      {PageId::FindInductance, Make<frmFindInductance>},
+      {PageId::ToroidDesign, Make<frmToroidDesign>},
+      {PageId::LumpedToTubular, Make<frmLumpedToTubular>},
+      {PageId::DrawLines, Make<frmDrawLines>},
       {PageId::EnterWidth, Make<frmEnterWidth>},
       {PageId::EnterCenterFreq, Make<frmEnterCenterFreq>},
       {PageId::EnterInput, Make<frmEnterInput>},

@@ -36,6 +36,7 @@ class Control {
   bool visible = true;
   bool enabled = true;
   Color foreColor = colorBlack;  // black stands for the palette's own text colour
+  Color backColor = colorWhite;  // of boxes and labels; white stands for the palette's own
   Frame* container = nullptr;    // a hidden or disabled frame hides or disables what it holds
 
   // Whether the user sees it, and whether the user can act on it: it is enabled, and no lock of its page is on it.

@@ -10,6 +10,7 @@
 #include "core/SchematicView.h"
 #include "core/SmithView.h"
 #include "core/StepTexts.h"
+#include "core/TubeData.h"
 #include "shell/PageDesk.h"
 #include "shell/Platform.h"
 #include "shell/PlotSheet.h"
@@ -56,6 +57,7 @@ class Session {
   SmithView smithView;
   SchematicView schematicView;
   StepTexts stepTexts;
+  TubeData tube;
   ExportChoices exports;
 
   PlotSheet plot;  // the plot on display
