@@ -56,6 +56,7 @@ class Walk {
     Visit("cmdDesign", "design-return");
     Cauer();
     Specials();
+    Transforms();
     Modal("cmdAbout", "about");
     Modal("cmdExit", "exit");
     ManualEntry();
@@ -174,6 +175,36 @@ class Walk {
     Settle();
   }
 
+  // The pages that transform the network of a design, each with what it proposes.
+  void Transforms() {
+    Press("optButterworth");
+    Press("optCapInLowpass");
+    StepDownTo("UpDown1", 5);
+    if (Press("Command2")) {
+      desktop_.platform.Stage().Perform([](Session& session) {
+        Choose(session, dynamic_cast<ListBox&>(*session.pages.Top()->Find("lstNewInductors")), 2);
+      });
+      Type("txtEnterNewValue", "10u");
+      Press("cmdRescale");
+      Save("specify-inductor");
+      Press("cmdIgnoreAndExit");
+    }
+    Press("optButterworth");
+    if (Press("Command10")) {
+      Type("txtNewOutput", "200");
+      Press("cmdCompute");
+      Save("bisection");
+      Press("cmdIgnore");
+    }
+    Press("optShuntInGeoSymm");
+    Type("txtCenterFrequency", "10M");
+    StepDownTo("UpDown1", 3);
+    Tool("Command13", "norton", "cmdExit");
+    Press("optMeshCapBandpass");
+    StepUp("UpDown1", 4);
+    Tool("Command14", "tee-to-pi", "cmdExit");
+  }
+
   void WriteFiles() {
     Visit("cmdSpice", "write-files");
     Visit("cmdWriteSnP", "s-parameters");
@@ -189,6 +220,12 @@ class Walk {
     for (int i = 0; i < count; ++i) {
       desktop_.platform.Stage().Perform([&](Session& session) { Step(session, *spin, 1); });
     }
+    Settle();
+  }
+
+  void StepDownTo(const char* name, i32 number) {
+    auto& spin = dynamic_cast<Spin&>(*desktop_.session.pages.Top()->Find(name));
+    while (spin.Value() > number) desktop_.platform.Stage().Perform([&](Session& session) { Step(session, spin, -1); });
     Settle();
   }
 
