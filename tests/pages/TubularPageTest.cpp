@@ -218,14 +218,15 @@ TEST_F(TubularPage, IgnoreAndTheCloseBoxChangeNothing) {
 TEST_F(TubularPage, WithoutPartsForLinesNothingChanges) {
   MakeLowpass();
   Press("cmdDesign");
+  session.record.Family = familyManual;
   session.record.NetworkEdited = 1;
   for (int s = 1; s <= 3; ++s) session.network.stage[s].ElementType = ShuntR;
-  const Network before = Ladder();
   Press("Command6");
+  const DesignRecord before = session.record;
+  ASSERT_EQ(before.ResponsesValid, 1);
   Calculate();
   Press("cmdTransfer");
-  EXPECT_EQ(Ladder(), before);
-  EXPECT_EQ(session.record.Family, familyButterworth);
+  EXPECT_TRUE(session.record == before);
 }
 
 TEST_F(TubularPage, TheDrawingIsToScale) {

@@ -115,10 +115,7 @@ void DrawTubular(const Network& network, const TubularLines& lines, const TubeDa
   if (length > 0) unit = std::min(unit, roomWidth / length);
   f32 x = roomLeft + (roomWidth - length * unit) / 2;
   const f32 bore = tube.TubeDiaInterior * unit / 2;
-  constexpr f32 beyond = 150;  // of the axis at both ends
-  canvas.DrawStyle = LineStyle::Dash;
-  canvas.Line(x - beyond, axis, x + length * unit + beyond, axis, axisColor);
-  canvas.DrawStyle = LineStyle::Solid;
+  const f32 left = x;
   canvas.DrawWidth = 2;
   canvas.Rectangle(x, axis - bore, x + length * unit, axis + bore, colorBlack, false);
   canvas.DrawWidth = 1;
@@ -129,6 +126,9 @@ void DrawTubular(const Network& network, const TubularLines& lines, const TubeDa
     DrawSection(x, width, (inductor ? tube.TubeDiaInductors : tube.TubeDiaCapacitors) * unit, s, canvas);
     x += width;
   }
+  constexpr f32 beyond = 150;  // of the axis at both ends
+  canvas.DrawStyle = LineStyle::Dash;
+  canvas.Line(left - beyond, axis, x + beyond, axis, axisColor);
   PrintMeasures(lines, tube, canvas);
 }
 
