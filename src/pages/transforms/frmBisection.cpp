@@ -18,10 +18,7 @@ frmBisection::frmBisection(Session& session)
       {.box = txtNewOutput_, .field = newOutput_, .format = FormatValue, .ofZero = OfZero::Blank, .onTaken = [this] {
          cmdCompute_.enabled = symmetrical_ && newOutput_ > 0;
        }});
-  for (TextBox* box : {&txtInput_, &txtOutput_, &txtMismatch_}) {
-    box->readOnly = true;
-    box->stepsDigits = false;
-  }
+  for (TextBox* box : {&txtInput_, &txtOutput_, &txtMismatch_}) box->readOnly = true;
   cmdCompute_.onClick = [this] { Compute(); };
   cmdAccept_.onClick = [this] { Accept(); };
   cmdIgnore_.onClick = [this] { Ignore(); };
