@@ -15,8 +15,7 @@ TEST_F(Walk, ATransformIsProposedAcceptedAndTakenBack) {
   EXPECT_GT(drawn, 0.9);
 
   // Escape leaves the network as it was.
-  QTest::keyClick(&desktop_.window, Qt::Key_Escape);
-  QApplication::processEvents();
+  PressKey(Qt::Key_Escape);
   ASSERT_EQ(Top().Id(), PageId::Design);
   EXPECT_EQ(Record().Stages, 3);
   EXPECT_EQ(Record().Family, familyButterworth);
@@ -27,8 +26,7 @@ TEST_F(Walk, ATransformIsProposedAcceptedAndTakenBack) {
   ASSERT_EQ(Top().Id(), PageId::Design);
   EXPECT_EQ(Record().Stages, 7);
   EXPECT_EQ(desktop_.session.note, "response kept within 0.0000 dB");
-  QTest::keyClick(&desktop_.window, Qt::Key_Z, Qt::ControlModifier);
-  QApplication::processEvents();
+  PressKey(Qt::Key_Z, Qt::ControlModifier);
   EXPECT_EQ(Record().Stages, 3);
   EXPECT_EQ(Record().Family, familyButterworth);
 
