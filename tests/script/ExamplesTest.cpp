@@ -7,6 +7,7 @@
 
 #include "files/export/AscReader.h"
 #include "script/ProgramBench.h"
+#include "support/LosslessLadder.h"
 #include "support/NgspiceBatch.h"
 #include "support/PlainAnalysis.h"
 
@@ -112,6 +113,70 @@ bool IsOfSeries(f64 value) {
                                           33, 36, 39, 43, 47, 51, 56, 62, 68, 75, 82, 91};
   const f64 mantissa = 10 * value / std::pow(10, std::floor(std::log10(value) + 1e-6));
   return std::any_of(series.begin(), series.end(), [&](int m) { return std::fabs(mantissa - m) < 1e-4 * m; });
+}
+
+// The text or caption of a control in the listing of a page.
+std::string ShownBy(const json& page, const std::string& name) {
+  for (const json& control : page["controls"]) {
+    if (control["name"] == name) return control.contains("text") ? control["text"] : control["caption"];
+  }
+  return "no " + name;
+}
+
+// By hand: tees by the star-delta rule, sections of sqrt(50 x 200 - 50^2) ohms in the line and 200 x 50 / that to
+// common at 10.7 MHz, Wheeler's formula for the coils, and lines of arcsin(2 Pi f L / Z) and arcsin(2 Pi f C Z).
+TEST_F(Program, TheFiltersAreMadeBuildable) {
+  const Ended ended = Run("'" QUILM_EXAMPLES "/buildable.qsc'");
+  ASSERT_EQ(ended.status, 0) << ended.err;
+  std::vector<json> records;
+  std::vector<json> pages;
+  for (const json& event : ended.Events()) {
+    if (event["event"] == "record") records.push_back(event);
+    if (event["event"] == "page") pages.push_back(event);
+  }
+  ASSERT_EQ(records.size(), 4U);
+  ASSERT_EQ(pages.size(), 2U);
+
+  DesignRecord mesh = NetworkOf(records[0]["stages"]);
+  mesh.Rsource[1] = mesh.Rload[1] = 200;
+  const DesignRecord pis = NetworkOf(records[1]["stages"]);
+  ASSERT_EQ(mesh.Stages, 5);
+  ASSERT_EQ(pis.Stages, 9);
+  const f64 a = mesh.stage[1].Cval.value;
+  const f64 b = mesh.stage[2].Cval.value;
+  const f64 c = 2 * f64{mesh.stage[3].Cval.value};
+  EXPECT_NEAR(pis.stage[2].Cval.value, a * b / (a + b + c), 1e-17);
+  EXPECT_NEAR(pis.stage[3].Cval.value, a * c / (a + b + c), 1e-18);
+  EXPECT_NEAR(pis.stage[4].Cval.value, b * c / (a + b + c), 1e-17);
+
+  const DesignRecord matched = NetworkOf(records[2]["stages"]);
+  ASSERT_EQ(matched.Stages, 13);
+  EXPECT_EQ(records[2]["record"]["Rsource"][0], 50);
+  EXPECT_EQ(records[2]["record"]["Rload"][0], 50);
+  for (const auto& [coil, capacitor] : {std::pair{1, 2}, std::pair{13, 12}}) {
+    EXPECT_EQ(matched.stage[coil].ElementType, SeriesL);
+    EXPECT_NEAR(matched.stage[coil].Lval.value, 1.288152e-6, 1e-12);
+    EXPECT_EQ(matched.stage[capacitor].ElementType, ShuntC);
+    EXPECT_NEAR(matched.stage[capacitor].Cval.value, 1.288152e-10, 1e-16);
+  }
+  EXPECT_NEAR(LosslessLoss(matched, 10.7e6), LosslessLoss(mesh, 10.7e6), 1e-4);
+
+  EXPECT_EQ(ShownBy(pages[0], "txtTurns"), "78.987");
+  EXPECT_EQ(ShownBy(pages[0], "lblResultingDiameter"), "Resulting diameter: 0.01003");
+  EXPECT_EQ(ShownBy(pages[1], "txtTurns"), "15.89");
+
+  ASSERT_EQ(records[3]["stages"].size(), 7U);
+  const double degrees[] = {17.8060, 6.7649, 32.8749, 7.4849, 32.8749, 6.7649, 17.8060};
+  for (std::size_t s = 0; s < 7; ++s) {
+    const json& stage = records[3]["stages"][s];
+    EXPECT_EQ(stage["ElementType"], TransLine);
+    EXPECT_NEAR(stage["TLval"][0].get<double>(), degrees[s], 1e-4) << s + 1;
+    EXPECT_NEAR(stage["TLval"][2].get<double>(), s % 2 == 0 ? 60 * std::log(25.0) : 60 * std::log(75 / 70.0), 1e-3);
+  }
+  for (const char* picture : {"tees-to-pis", "matched-ends", "buildable-bandpass", "coil", "coil-sheet", "tube-lengths",
+                              "tube-drawing", "tubular-lowpass"}) {
+    EXPECT_THAT(ContentOf(folder / "out" / (std::string(picture) + ".svg")), testing::HasSubstr("<text")) << picture;
+  }
 }
 
 // The limits are those of the places that were clicked: 1 MHz and 2 MHz of a sweep of 100 kHz to 10 MHz by its 1000
