@@ -74,6 +74,7 @@ void PrintMeasures(const TubularLines& lines, const TubeData& tube, Canvas& canv
   const f32 inches = lines.TotalMm / mmPerInch;
   const std::string imperial =
       ToldInMetres(lines.TotalMm) ? Plain(inches / inchesPerFoot) + " ft" : Plain(inches) + " in";
+  canvas.Fit.anchor = 0;
   canvas.CurrentX = roomLeft;
   canvas.CurrentY = roomTop + roomHeight + 400;
   constexpr f32 leading = 40;
@@ -99,6 +100,7 @@ void PrintLineLengths(const TubularLines& lines, int stages, f32 frequency, Canv
   canvas.Clear();
   const PenScope pen(canvas);
   canvas.FontSize = 9;
+  canvas.Fit.anchor = 0;  // columns keep their left edges where a small picture enlarges its letters
   canvas.PrintAt(margin, margin, "Line lengths at " + Trimmed(FormatFrequency(frequency)) + "Hz");
   for (int s = 1; s <= stages; ++s) PrintLineRow(lines, s, canvas);
   canvas.PrintAt(margin, margin + pitch * static_cast<f32>(std::min(stages, blockRows) + 4),

@@ -108,20 +108,19 @@ void frmLumpedToTubular::ShowLines(const TubularLines& lines) {
 }
 
 Layout frmLumpedToTubular::MakeLayout() {
-  const auto entry = [](Label& label, TextBox& box, const char* unit) {
-    return FormRow{Put(label), Put(box), Word(unit, box)};
-  };
   const auto result = [](Label& label, TextBox& box) {
     return FormRow{KeepPlace(Put(label)), KeepPlace(Put(box)), Word("ohms", box)};
   };
-  const Layout tube = Group("Tube", Form({entry(lblFrequencyNormalization_, txtFrequencyNormalization_, "Hz"),
-                                          {Put(lblVelocityFactor_), Put(txtVelocityFactor_)},
-                                          entry(lblDiameterInductors_, txtDiameterInductors_, "mm"),
-                                          entry(lblDiameterCapacitors_, txtDiameterCapacitors_, "mm"),
-                                          entry(lblDiameterInterior_, txtDiameterInterior_, "mm"),
-                                          {Space(), Put(cmdCalculate_)},
-                                          result(lblImpedanceInductors_, txtImpedanceInductors_),
-                                          result(lblImpedanceCapacitors_, txtImpedanceCapacitors_)}));
+  const Layout tube = Group(
+      "Tube",
+      Form({{Put(lblFrequencyNormalization_), Put(txtFrequencyNormalization_), Word("Hz", txtFrequencyNormalization_)},
+            {Put(lblVelocityFactor_), Put(txtVelocityFactor_)},
+            {Put(lblDiameterInductors_), Put(txtDiameterInductors_)},
+            {Put(lblDiameterCapacitors_), Put(txtDiameterCapacitors_)},
+            {Put(lblDiameterInterior_), Put(txtDiameterInterior_)},
+            {Space(), Put(cmdCalculate_)},
+            result(lblImpedanceInductors_, txtImpedanceInductors_),
+            result(lblImpedanceCapacitors_, txtImpedanceCapacitors_)}));
   return Column({Row({Column({tube, Space()}), Group("Lines", Fill(Put(picLengths_)))}),
                  Row({Space(), KeepPlace(Put(cmdDrawPicture_)), KeepPlace(Put(cmdTransfer_)), Put(cmdExit_)})});
 }
