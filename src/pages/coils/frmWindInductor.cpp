@@ -133,14 +133,14 @@ void frmWindInductor::Return() {
 
 Layout frmWindInductor::MakeLayout() {
   const Layout source =
-      Group(fraSource_,
-            Column({Put(Option1_), Put(lblList_), Put(lstInductors_), Put(Option2_), Put(txtArbitraryInductance_)}));
+      Group(fraSource_, Row({Column({Put(lblList_), Put(lstInductors_)}),
+                             Column({Put(Option1_), Put(Option2_), Put(txtArbitraryInductance_), Space()})}));
   const Layout results = Group(
       "Coil",
       Column({Row({Form({{Put(lblInductance_), KeepPlace(Put(lblInductance2_))}}), KeepPlace(Put(lblQ_)), Space()}),
               coil_.Results(), Fill(Put(coil_.picCoil))}));
   return Column({Put(lblHeading_),
-                 Row({source, Column({coil_.Dimensions(cmdCompute0_), coil_.Wire(), Space()}), results}),
+                 Row({Column({source, coil_.Dimensions(cmdCompute0_), coil_.Wire(), Space()}), results}),
                  Row({Space(), Put(cmdPrint_), Put(cmdExit_)})});
 }
 

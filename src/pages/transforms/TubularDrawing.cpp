@@ -61,23 +61,22 @@ f32 LengthDrawn(const TubularLines& lines, int stages) {
   return total;
 }
 
-void DrawSection(f32 x, f32 width, f32 height, int stage, Canvas& canvas) {
+void DrawSection(f32 x, f32 width, f32 height, f32 bore, int stage, Canvas& canvas) {
   canvas.Rectangle(x, axis - height / 2, x + width, axis + height / 2, rodColor, true);
   canvas.Rectangle(x, axis - height / 2, x + width, axis + height / 2, colorBlack, false);
   const std::string number = std::to_string(stage);
   constexpr f32 above = 320;
   const f32 textWidth = canvas.TextWidth(number);
-  if (width > textWidth) canvas.PrintAt(x + (width - textWidth) / 2, roomTop - above, number);
+  if (width > textWidth) canvas.PrintAt(x + (width - textWidth) / 2, axis - bore - above, number);
 }
 
 void PrintMeasures(const TubularLines& lines, const TubeData& tube, Canvas& canvas) {
   const f32 inches = lines.TotalMm / mmPerInch;
   const std::string imperial =
       ToldInMetres(lines.TotalMm) ? Plain(inches / inchesPerFoot) + " ft" : Plain(inches) + " in";
+  constexpr f32 measurePitch = 330;
+  f32 y = roomTop + roomHeight + 300;
   canvas.Fit.anchor = 0;
-  canvas.CurrentX = roomLeft;
-  canvas.CurrentY = roomTop + roomHeight + 400;
-  constexpr f32 leading = 40;
   for (const std::string& line :
        {"Total length:  " + MetricLength(lines.TotalMm) + "   " + imperial,
         "Interior diameter of outside tube:  " + Plain(tube.TubeDiaInterior) + " mm",
@@ -86,8 +85,8 @@ void PrintMeasures(const TubularLines& lines, const TubeData& tube, Canvas& canv
         "Diameter for inductor (minor):  " + Plain(tube.TubeDiaInductors) + " mm",
         // The capital tells the second impedance from the first for whoever searches a printed sheet.
         "Resulting line Impedance:  " + Plain(lines.ZInductors) + " ohms"}) {
-    canvas.Print(line);
-    canvas.CurrentY += leading;
+    canvas.PrintAt(roomLeft, y, line);
+    y += measurePitch;
   }
 }
 
@@ -125,7 +124,7 @@ void DrawTubular(const Network& network, const TubularLines& lines, const TubeDa
     const f32 width = std::abs(lines.LineMm[s]) * unit;
     if (width == 0) continue;
     const bool inductor = network.stage[s].ElementType == SeriesL;
-    DrawSection(x, width, (inductor ? tube.TubeDiaInductors : tube.TubeDiaCapacitors) * unit, s, canvas);
+    DrawSection(x, width, (inductor ? tube.TubeDiaInductors : tube.TubeDiaCapacitors) * unit, bore, s, canvas);
     x += width;
   }
   constexpr f32 beyond = 150;  // of the axis at both ends

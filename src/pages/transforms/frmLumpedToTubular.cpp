@@ -118,7 +118,7 @@ Layout frmLumpedToTubular::MakeLayout() {
             {Put(lblDiameterInductors_), Put(txtDiameterInductors_)},
             {Put(lblDiameterCapacitors_), Put(txtDiameterCapacitors_)},
             {Put(lblDiameterInterior_), Put(txtDiameterInterior_)},
-            {Space(), Put(cmdCalculate_)},
+            Under(Put(cmdCalculate_)),
             result(lblImpedanceInductors_, txtImpedanceInductors_),
             result(lblImpedanceCapacitors_, txtImpedanceCapacitors_)}));
   return Column({Row({Column({tube, Space()}), Group("Lines", Fill(Put(picLengths_)))}),
