@@ -42,8 +42,8 @@ TEST(CompleteCoil, AThirdDimensionIsOverwritten) {
 TEST(CompleteCoil, ALengthThatIsNotAboveZeroIsRefused) {
   const std::string negative = "For that diameter and turn specification,\r\nthe length is negative.";
   EXPECT_EQ(Refusal({10 * uH, 1, 0, 10}), negative);  // (100 - 180) / 400 = -0.2
-  // 18 uH of 18 turns and an inch are all in one plane: (324 - 324) / 720.
-  EXPECT_EQ(Refusal({18 * uH, 1, 0, 18}), negative);
+  // One turn of 2^-20 H whose diameter, 18E6 of these, is exact in 32 bits: D^2 - 18E6 L D is 0 to the last bit.
+  EXPECT_EQ(Refusal({0x1p-20F, 140625.0F / 8192, 0, 1}), negative);
 }
 
 // 10 mH, 1 in by 2.05 in: N^2 = 10000 * (18 + 82) = 1E6.
