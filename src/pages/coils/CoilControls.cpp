@@ -142,9 +142,9 @@ void CoilControls::ClearWire() {
   ShowWire();
 }
 
-std::string CoilControls::CriticalGaugeText() const {
-  if (words_.toldInWords && winding_->CriticalGauge <= noGauge) return "< -40";
-  return PlainText(winding_->CriticalGauge);
+std::string CoilControls::GaugeText(f32 CriticalGauge) const {
+  if (words_.toldInWords && CriticalGauge <= noGauge) return "< -40";
+  return PlainText(CriticalGauge);
 }
 
 void CoilControls::ShowResults() {
@@ -159,7 +159,7 @@ void CoilControls::ShowResults() {
   show(lblTurnsPerInch, lblTurnsPerInch2, wound, TurnsPerUnitText(shown.TurnsPerInch, in));
   show(lblWireLength, lblWireLength2, wound, LengthText(shown.WireInches, in));
   show(lblQuarterWave, lblQuarterWave2, wound, KilohertzText(shown.QuarterWaveKHz));
-  show(lblCriticalGauge, lblCriticalGauge2, wound, wound ? CriticalGaugeText() : "");
+  show(lblCriticalGauge, lblCriticalGauge2, wound, GaugeText(shown.CriticalGauge));
   show(lblCriticalDiameter, lblCriticalDiameter2, wired, LengthText(shown.CriticalDiameter, in));
   show(lblDcResistance, lblDcResistance2, wired, EntryText(shown.DcResistance, FormatValue) + " ohms");
   picCoil.picture.Clear();

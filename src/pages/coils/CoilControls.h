@@ -75,7 +75,7 @@ class CoilControls {
   void TypeDiameter();
   void ShowWire();
   void ShowFill();
-  std::string CriticalGaugeText() const;
+  std::string GaugeText(f32 CriticalGauge) const;
 
   Page& page_;
   Session& session_;

@@ -120,9 +120,10 @@ void frmWindInductor::Compute() {
 
 void frmWindInductor::ShowQ() {
   lblQ_.caption.clear();
-  if (!coil_.Shown()) return;
+  const std::optional<Winding>& shown = coil_.Shown();
+  if (!shown) return;
   const DesignRecord& record = session_.record;
-  const std::optional<f32> Q = ApproximateQ(coil_.Shown()->coil, record.Fcenter > 0 ? record.Fcenter : record.Width);
+  const std::optional<f32> Q = ApproximateQ(shown->coil, record.Fcenter > 0 ? record.Fcenter : record.Width);
   if (Q) lblQ_.caption = "Approximate Q: " + PlainText(*Q);
 }
 
