@@ -118,7 +118,29 @@ class Walk {
   }
 
   // The small pages that are opened from the Design page.
+  // The options of both ends and what becomes of these, one part of it negative.
+  void Matching() {
+    Press("optButterworth");
+    Press("optNodCapBandpass");
+    Type("txtCenterFrequency", "10M");
+    Type("txtInputTerm", "5k");
+    if (!Press("Command7")) return;
+    Save("match-input-present");
+    Type("txtNewInputTermValue", "500");
+    Press("cmdPreviewInputOptions");
+    Save("match-input");
+    Press("cmdInputTwo");
+    Type("txtNewOutputTermValue", "5");
+    Press("cmdPreviewOutputOptions");
+    Save("match-output");
+    Press("cmdOutputOne");
+    Save("match-both");
+    Press("cmdIgnore");
+    Type("txtInputTerm", "50");
+  }
+
   void Specials() {
+    Matching();
     Press("optConstantK");
     Press("optCapInLowpass");
     Modal("cmdSeeNorms", "normalized");
