@@ -16,9 +16,11 @@ namespace {
 constexpr f32 firstRail = 1500;
 constexpr f32 rowPitch = 1500;
 constexpr f32 aboveRail = 720;  // from the top of a row to its upper rail
+constexpr f32 paperRows = 4;    // also where fewer are shown: what stays does not jump
+constexpr f32 bottomMargin = 100;
 constexpr f32 pictureWidth = 7600;
 constexpr f32 headingLeft = 200;
-constexpr f32 headingSize = 10;  // points
+constexpr f32 headingSize = 9;  // points
 constexpr f32 circuitLeft = 2150;
 constexpr f32 restWidth = 420;   // of the rails that go on to the rest of the network
 constexpr f32 labelSize = 8;     // points
@@ -117,9 +119,7 @@ MatchBand BandOfRow(int index) {
 }
 
 void DrawMatchRows(const std::vector<MatchRow>& rows, Canvas& canvas) {
-  constexpr int leastRows = 2;  // so that a single one is not blown up
-  const f32 bands = static_cast<f32>(std::max(static_cast<int>(rows.size()), leastRows));
-  canvas.SetScale({0, firstRail - aboveRail, pictureWidth, bands * rowPitch});
+  canvas.SetScale({0, firstRail - aboveRail, pictureWidth, paperRows * rowPitch + bottomMargin});
   canvas.Clear();
   const PenScope pen(canvas);
   canvas.FontName = "Arial";
