@@ -37,12 +37,12 @@
 #include "pages/start/frmOpening.h"
 #include "pages/tabulate/frmTabulated.h"
 #include "pages/transforms/frmBisection.h"
+#include "pages/transforms/frmDrawLines.h"
+#include "pages/transforms/frmImpedanceMatch.h"
+#include "pages/transforms/frmLumpedToTubular.h"
 #include "pages/transforms/frmMeshTeePi.h"
 #include "pages/transforms/frmNorton.h"
 #include "pages/transforms/frmSpecifyInductor.h"
-#include "pages/transforms/frmImpedanceMatch.h"
-#include "pages/transforms/frmDrawLines.h"
-#include "pages/transforms/frmLumpedToTubular.h"
 
 namespace quilm {
 
