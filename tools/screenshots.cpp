@@ -117,7 +117,6 @@ class Walk {
     Modal("cmdSimple", "artwork");
   }
 
-  // The small pages that are opened from the Design page.
   // The options of both ends and what becomes of these, one part of it negative.
   void Matching() {
     Press("optButterworth");
@@ -139,6 +138,7 @@ class Walk {
     Type("txtInputTerm", "50");
   }
 
+  // The small pages that are opened from the Design page.
   void Specials() {
     Matching();
     Press("optConstantK");
@@ -148,6 +148,8 @@ class Walk {
     Tool("Command4", "singly-terminated", "cmdIgnore");
     Tool("Command11", "end-sections", "cmdIgnore");
     Modal("optMderived", "m-derived");
+    Press("optButterworth");  // an M-derived design would ask for its zeros again
+    Press("optCapInLowpass");
     Coils();
     Tubular();
   }
