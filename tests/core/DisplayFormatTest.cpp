@@ -6,21 +6,11 @@
 #include <limits>
 
 #include "core/modGeneral.h"
+#include "support/TextRows.h"
 
 namespace quilm {
 namespace {
 
-struct Shown {
-  f32 value;
-  const char* text;
-};
-
-template <class Format>
-void ExpectTexts(Format format, std::initializer_list<Shown> rows) {
-  for (const Shown& row : rows) EXPECT_EQ(format(row.value), row.text) << row.value;
-}
-
-f32 Below(f32 value) { return std::nextafter(value, 0.0F); }
 f32 Above(f32 value) { return std::nextafter(value, std::numeric_limits<f32>::infinity()); }
 
 constexpr f32 infinity = std::numeric_limits<f32>::infinity();

@@ -13,43 +13,24 @@
 #include "display/SheetDrawing.h"
 #include "shell/HeadlessPlatform.h"
 #include "shell/Session.h"
+#include "support/PadDesign.h"
 
 namespace quilm {
 namespace {
 
-// A resistor of 50 ohms in the line between 50 ohms and 50 ohms: of the source's available power 4/9 reach the load at
-// all frequencies, 3.52183 dB down; the input is 100 ohms, against 50 ohms a return of 1/3 or -9.54243 dB and a VSWR
-// of 2. A capacitor of 1 nF to common is added for a delay.
 class Markers : public testing::Test {
  protected:
   Markers() : platform(""), session(platform, {}) {
     DesignRecord& record = session.record;
-    record.Stages = 1;
-    record.stage[1].ElementType = SeriesR;
-    record.stage[1].Rval.value = 50;
-    record.Rsource[1] = record.Rload[1] = record.Rstandard = 50;
+    MakePad(record);
     record.Width = 1e6F;
-    record.Qind[1] = 200;
-    record.Qcap[1] = 2000;
-    record.SweepMode = 2;
-    record.Fstart = 1e6F;
-    record.Fstop = 1e8F;
-    record.NrIntervals = 20;
-    record.NrXints = 4;
-    record.NrYints = 6;
-    record.LossBottom = -60;
-    record.DelayTop = 1e-6F;
-    record.VSWRTop = 4;
-    record.ImpedanceTop = 200;
     record.PlotCode = 1;
     Sweep();
   }
 
   void Sweep() { ASSERT_EQ(SweepLadder(session.record, session.responses), ""); }
   void AddShuntC() {
-    session.record.Stages = 2;
-    session.record.stage[2].ElementType = ShuntC;
-    session.record.stage[2].Cval.value = 1e-9F;
+    AddCapacitorToPad(session.record);
     Sweep();
   }
   std::vector<MarkerReading> Read() { return ReadMarkers(session.record, session.responses); }

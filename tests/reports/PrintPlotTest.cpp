@@ -15,6 +15,7 @@
 #include "files/modOverlays.h"
 #include "reports/ReportBench.h"
 #include "shell/Session.h"
+#include "support/PadDesign.h"
 
 namespace quilm {
 namespace {
@@ -34,29 +35,11 @@ class OverlayFolder {
   std::string path;
 };
 
-// Half the source's voltage, 6.02 dB, is lost in a resistor of 50 ohms before a load of 50 ohms that a source of no
-// resistance drives: here the source has 50 ohms, and 4/9 of its power reach the load.
 class PrintedPlot : public testing::Test {
  protected:
   PrintedPlot() : platform(folder.path), session(platform, {}), record(session.record) {
-    record.Stages = 2;
-    record.stage[1].ElementType = SeriesR;
-    record.stage[1].Rval.value = 50;
-    record.stage[2].ElementType = ShuntC;
-    record.stage[2].Cval.value = 1e-9F;
-    record.Rsource[1] = record.Rload[1] = record.Rstandard = 50;
-    record.Qind[1] = 200;
-    record.Qcap[1] = 2000;
-    record.SweepMode = 2;
-    record.Fstart = 1e6F;
-    record.Fstop = 1e8F;
-    record.NrIntervals = 20;
-    record.NrXints = 4;
-    record.NrYints = 6;
-    record.LossBottom = -60;
-    record.DelayTop = 1e-6F;
-    record.VSWRTop = 4;
-    record.ImpedanceTop = 200;
+    MakePad(record);
+    AddCapacitorToPad(record);
     record.SmithAspect = 0.75F;
     record.DesignFileName = "sample.QLM";
     record.CircuitTitle = "Pad with a capacitor";

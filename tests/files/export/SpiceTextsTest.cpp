@@ -4,25 +4,12 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
-
 #include "core/DesignRecord.h"
 #include "core/NumericFault.h"
+#include "support/TextRows.h"
 
 namespace quilm {
 namespace {
-
-struct Written {
-  f32 value;
-  const char* text;
-};
-
-template <class Text>
-void ExpectTexts(Text text, std::initializer_list<Written> rows) {
-  for (const Written& row : rows) EXPECT_EQ(text(row.value), row.text) << row.value;
-}
-
-f32 Below(f32 value) { return std::nextafter(value, 0.0F); }
 
 TEST(SpiceInductance, EveryRowFromBothSides) {
   ExpectTexts(SpiceInductance, {{0, ""},
