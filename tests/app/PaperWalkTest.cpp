@@ -77,6 +77,15 @@ class PaperWalk : public Walk {
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
   }
 
+  // The file is there and the dialog gone; the keyboard is the window's again.
+  bool Saved(const char* name) {
+    const bool there =
+        QTest::qWaitFor([&] { return QFile::exists(Path(name)) && QApplication::activeModalWidget() == nullptr; });
+    GiveKeyboardToWindow();
+    QTest::qWait(20);
+    return there;
+  }
+
   PictureView& Picture(const char* name) { return dynamic_cast<PictureView&>(*Find(name)); }
 
   // Opens the menu by the right button and takes the entry that the letter stands for.
@@ -104,7 +113,7 @@ TEST_F(PaperWalk, ThePlotIsPrintedToPdfTwiceAndUndoGoesOn) {
   f64 height = 0;
   ASSERT_EQ(std::sscanf(PdfInfo(Path("plot.pdf").toStdString(), "Page size").c_str(), "%lf x %lf", &width, &height), 2);
   EXPECT_GT(width, height) << "it lies crosswise";
-  QApplication::setActiveWindow(&desktop_.window);
+  GiveKeyboardToWindow();
   Send(Key("ctrl+z"));
   EXPECT_TRUE(QTest::qWaitFor([this] { return Top().Id() == PageId::Design; }));
   EXPECT_EQ(Top().Id(), PageId::Design) << "what is taken back is the last entry, not the print";
@@ -128,7 +137,7 @@ TEST_F(PaperWalk, TheMenuOfEachPagesPictureSavesIt) {
     const std::string name = std::string(picture) + ".svg";
     Choose(Path(name.c_str()));
     ChooseFromMenu(Picture(picture), "s");
-    ASSERT_TRUE(QTest::qWaitFor([&] { return QFile::exists(Path(name.c_str())); })) << name;
+    ASSERT_TRUE(Saved(name.c_str())) << name;
     EXPECT_TRUE(Bytes(name.c_str()).contains("</svg>"));
     QApplication::clipboard()->clear();
     ChooseFromMenu(Picture(picture), "c");
@@ -148,7 +157,7 @@ TEST_F(PaperWalk, APngOfAChosenWidthIsSaved) {
     dialog.accept();
   });
   ChooseFromMenu(Plot(), "w");
-  ASSERT_TRUE(QTest::qWaitFor([this] { return QFile::exists(Path("wide.png")); }));
+  ASSERT_TRUE(Saved("wide.png"));
   EXPECT_EQ(QImage(Path("wide.png")).width(), 777);
 }
 
@@ -161,7 +170,7 @@ TEST_F(PaperWalk, TheKeysCopyAndSaveThePicture) {
   EXPECT_TRUE(QTest::qWaitFor([] { return QApplication::clipboard()->mimeData()->hasImage(); }));
   Choose(Path("key.pdf"));
   Send(Key("ctrl+shift+s"));
-  EXPECT_TRUE(QTest::qWaitFor([this] { return QFile::exists(Path("key.pdf")); }));
+  EXPECT_TRUE(Saved("key.pdf"));
   EXPECT_EQ(desktop_.window.StatusRight(), "Wrote " + Path("key.pdf"));
 }
 
@@ -189,10 +198,10 @@ TEST_F(PaperWalk, TheTablesMenuAndKeySaveIt) {
   auto& table = dynamic_cast<QTableView&>(*Find("lstTabulatedOutput"));
   Choose(Path("menu.csv"));
   ChooseFromMenu(*table.viewport(), "s");
-  EXPECT_TRUE(QTest::qWaitFor([this] { return QFile::exists(Path("menu.csv")); }));
+  EXPECT_TRUE(Saved("menu.csv"));
   Choose(Path("key.csv"));
   Send(Key("ctrl+shift+s"));
-  EXPECT_TRUE(QTest::qWaitFor([this] { return QFile::exists(Path("key.csv")); }));
+  EXPECT_TRUE(Saved("key.csv"));
   EXPECT_EQ(Bytes("menu.csv"), Bytes("key.csv"));
   EXPECT_TRUE(Bytes("key.csv").startsWith("Frequency (Hz),Trans. (dB)"));
   ChooseFromMenu(*table.viewport(), "a");
