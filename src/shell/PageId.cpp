@@ -100,6 +100,26 @@ std::string_view FormName(PageId id) {
       return "frmFindInductance";
     case PageId::ToroidDesign:
       return "frmToroidDesign";
+    case PageId::TransientPlot:
+      return "frmTransientPlot";
+    case PageId::ModulationPlot:
+      return "frmModulationResponsePlot";
+    case PageId::PhaseSetup:
+      return "frmPhaseSetup";
+    case PageId::PhasePlot:
+      return "frmPhasePlot";
+    case PageId::Noise:
+      return "frmNoise";
+    case PageId::Diplexer:
+      return "frmDiplexer";
+    case PageId::PlotDiplexer:
+      return "frmPlotDiplexer";
+    case PageId::TuneDipPart:
+      return "frmTuneDipPart";
+    case PageId::DipMarkers:
+      return "frmDipMarkers";
+    case PageId::DipResonate:
+      return "frmDipResonate";
     case PageId::Blank:
       return "frmBlank";
   }

@@ -54,6 +54,16 @@ enum class PageId {
   WindInductor,
   FindInductance,
   ToroidDesign,
+  TransientPlot,
+  ModulationPlot,
+  PhaseSetup,
+  PhasePlot,
+  Noise,
+  Diplexer,
+  PlotDiplexer,
+  TuneDipPart,
+  DipMarkers,
+  DipResonate,
   Blank,
 };
 

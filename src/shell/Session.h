@@ -5,11 +5,13 @@
 #include <memory>
 #include <string>
 
+#include "core/Diplexer.h"
 #include "core/ExportChoices.h"
 #include "core/RecordFwd.h"
 #include "core/SchematicView.h"
 #include "core/SmithView.h"
 #include "core/StepTexts.h"
+#include "core/StudyEntries.h"
 #include "core/TubeData.h"
 #include "shell/PageDesk.h"
 #include "shell/Platform.h"
@@ -59,6 +61,8 @@ class Session {
   StepTexts stepTexts;
   TubeData tube;
   ExportChoices exports;
+  StudyEntries studies;
+  Diplexer diplexer;
 
   PlotSheet plot;  // the plot on display
 

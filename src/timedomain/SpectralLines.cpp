@@ -1,0 +1,21 @@
+#include "timedomain/SpectralLines.h"
+
+#include "analysis/Kernel.h"
+#include "core/DesignRecord.h"
+
+namespace quilm {
+
+std::vector<LineResponse> ResponseAtLines(const DesignRecord& record, std::span<const f32> frequencies) {
+  std::vector<LineResponse> lines(frequencies.size());
+  if (record.Stages == 0) return lines;
+  std::vector<Figures> figures(frequencies.size());
+  Evaluate(Compile(record, QualityFrequency(record, record)), frequencies, figures);
+  LineResponse last;
+  for (std::size_t i = 0; i < lines.size(); ++i) {
+    if (figures[i].reached >= reachedTransmission) last = {figures[i].transDB, figures[i].angle};
+    lines[i] = last;
+  }
+  return lines;
+}
+
+}  // namespace quilm

@@ -1,0 +1,23 @@
+// The transmission of the design at a list of frequencies, such as the lines of a signal's spectrum.
+#pragma once
+
+#include <span>
+#include <vector>
+
+#include "core/RecordFwd.h"
+#include "core/Types.h"
+
+namespace quilm {
+
+struct LineResponse {
+  f64 TransDB = 0;  // dB, 0 = all available power reaches the load, whatever the display is relative to
+  f64 Angle = 0;    // degrees, -180..180
+};
+
+// The response at each frequency (Hz, of either sign) in their order, by one call of the engine. Inductors have their Q
+// at the frequency that the sweep would take. A frequency at which the ladder fails repeats the figures of the one
+// before it, zeros at the first. Changes nothing of the design, its responses included. Throws NumericFault when the
+// frequency of the Q does not exist.
+std::vector<LineResponse> ResponseAtLines(const DesignRecord& record, std::span<const f32> frequencies);
+
+}  // namespace quilm
