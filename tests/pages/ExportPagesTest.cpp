@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include "analysis/modAnalysis.h"
 #include "core/Responses.h"
 #include "desk/StartUp.h"
 #include "pages/PageBench.h"
@@ -419,6 +420,18 @@ TEST_F(SnP, ASourceThatIsTooLowIsRaisedAndStaysSo) {
   EXPECT_EQ(session.record.ResponsesValid, 1);
   EXPECT_THAT(File("a.S2P"), HasSubstr(" R .01\r\n"));
   EXPECT_EQ(session.history.UndoText(), undo);
+}
+
+// The file is that of the raised source, also when the design was swept with the low one before.
+TEST_F(SnP, ARaisedSourceIsSweptAnew) {
+  session.record.Rsource[1] = 0.004F;
+  session.record.ResponsesValid = 0;
+  AnalyzeSweep(session);
+  Write("swept.S2P");
+  session.record.Rsource[1] = 0.01F;
+  session.record.ResponsesValid = 0;
+  Write("fresh.S2P");
+  EXPECT_EQ(File("swept.S2P"), File("fresh.S2P"));
 }
 
 // Reciprocal: S12 is S21. The one end of the ladder that a capacitor closes sees another impedance than the other.

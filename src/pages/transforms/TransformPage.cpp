@@ -12,23 +12,18 @@ namespace quilm {
 TransformPage::TransformPage(Session& session, PageId id, std::string pageTitle, Proposes proposes)
     : Page(session, id, std::move(pageTitle)),
       proposes_(proposes),
-      found_(std::make_unique<DesignRecord>(session.record)),
-      foundOption_(session.familyOption) {}
+      found_(std::make_unique<DesignRecord>(session.record)) {}
 
 TransformPage::~TransformPage() = default;
 
 void TransformPage::Load() {
   group_.reset();
   *found_ = session_.record;
-  foundOption_ = session_.familyOption;
   Begin();
 }
 
 // Also when the program ends with the page open.
-void TransformPage::PutBack() {
-  session_.record = *found_;
-  session_.familyOption = foundOption_;
-}
+void TransformPage::PutBack() { session_.record = *found_; }
 
 void TransformPage::Propose(const Network& proposed) {
   using Meanwhile = History::Group::Meanwhile;
@@ -51,10 +46,7 @@ bool TransformPage::Computes(const std::function<void()>& compute) {
 }
 
 void TransformPage::Accept() {
-  if (HasProposal()) {
-    StandByHand(session_.identity);
-    session_.familyOption = familyManual;
-  }
+  if (HasProposal()) StandByHand(session_.identity);
   NoteResponseChange(session_, *found_);
   Leave();
 }

@@ -63,7 +63,6 @@ class TransformPage : public Page {
  private:
   Proposes proposes_;
   std::unique_ptr<DesignRecord> found_;
-  i16 foundOption_ = 0;
   std::optional<History::Group> group_;  // from the first proposal on
 };
 

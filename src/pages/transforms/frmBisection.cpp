@@ -48,7 +48,6 @@ void frmBisection::Compute() {
   if (!Computes([&] { bisected = Bisect(session_.network, newOutput_); })) return;
   Propose(bisected);
   StandByHand(session_.identity);
-  session_.familyOption = familyManual;
   const f64 K = f64{static_cast<f32>(f64{bisected.Rload[1]} / f64{bisected.Rsource[1]})};
   txtMismatch_.text = EntryText(static_cast<f32>(BisectionLoss(K)), FormatValue) + " dB";
   entries.Fill();

@@ -273,7 +273,6 @@ void frmImpedanceMatch::AcceptEnds() {
   if (!computed) return;
   Propose(matched);
   AcceptMatch(session_.identity);
-  session_.familyOption = familyManual;
   NoteResponseChange(session_, Found());
   Leave();
 }

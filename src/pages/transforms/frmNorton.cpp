@@ -71,7 +71,6 @@ void frmNorton::AcceptShown() {
     return;
   }
   SettleByHand(session_.identity);
-  session_.familyOption = familyManual;
   Accept();
 }
 

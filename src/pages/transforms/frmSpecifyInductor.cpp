@@ -93,7 +93,6 @@ void frmSpecifyInductor::Rescale() {
   if (!done) return;
   Propose(scaled);
   StandByHand(session_.identity);
-  session_.familyOption = familyManual;
   lstNewInductors_.items = InductorLines(scaled);
   lblNewTermination_.caption = "New input termination will be " + EntryText(scaled.Rsource[1], FormatValue);
   ShowInductor();
