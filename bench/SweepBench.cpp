@@ -9,12 +9,11 @@
 
 #include <benchmark/benchmark.h>
 
-#include <algorithm>
 #include <array>
-#include <chrono>
 #include <cstdlib>
 #include <memory>
 
+#include "ByTurns.h"
 #include "analysis/modAnalysis.h"
 #include "support/PlainAnalysis.h"
 #include "support/RandomLadder.h"
@@ -22,7 +21,6 @@
 namespace {
 
 using namespace quilm;
-using Clock = std::chrono::steady_clock;
 
 constexpr std::array<i16, 8> lumpedTypes = {SeriesL, ShuntL, SeriesC, ShuntC, SeriesSLC, ShuntSLC, SeriesPLC, ShuntPLC};
 
@@ -39,31 +37,6 @@ DesignRecord LadderOfAllTypes(int stages, int points) {
   const std::span<const i16> types = AnalysableTypes();
   for (int s = 1; s <= stages; ++s) record.stage[s].ElementType = types[static_cast<std::size_t>(s - 1) % types.size()];
   return record;
-}
-
-// An act, how often it is done in a round, and the least time that one took.
-template <class Act>
-struct Timed {
-  Act act;
-  int runs;
-  f64 seconds = 1e9;
-
-  void Round() {
-    for (int i = 0; i < runs; ++i) {
-      const auto start = Clock::now();
-      act();
-      seconds = std::min(seconds, std::chrono::duration<f64>(Clock::now() - start).count());
-    }
-  }
-};
-
-// Times two acts by turns; the first run of a round finds the caches as the other act left them.
-template <class First, class Second>
-void ByTurns(int rounds, Timed<First>& first, Timed<Second>& second) {
-  for (int round = 0; round < rounds; ++round) {
-    first.Round();
-    second.Round();
-  }
 }
 
 void Sweep(benchmark::State& state) {

@@ -24,6 +24,9 @@ namespace limitsOf {
 
 // The responses have room for 2050 points. Every place holds this one.
 inline constexpr EntryLimits NrIntervals = {4, 2049, "4", "2049"};
+// The studies' own sweeps: a line is fitted to no fewer points, and a bandwidth is a sum over as many as it takes.
+inline constexpr EntryLimits PhaseNrInts = {50, 2049, "50", "2049"};
+inline constexpr EntryLimits NoiseSteps = {100, 10000, "100", "10000"};
 // Hz. The stopping frequency may lie a step further out at both ends, so that limits that are both held still span a
 // sweep. A box takes anything: a frequency is typed digit by digit, and 0 asks the check for one that suits the band.
 inline constexpr EntryLimits Fstart = {0.01F, 9e9F, "0.01", "9G"};

@@ -25,6 +25,7 @@ struct ModulationEntries {
 struct StudyEntries {
   WaveEntries wave;
   ModulationEntries modulation;
+  i16 PhasePlotType = 1;  // 1 phase and best-fit line, 2 deviation from the line
 };
 
 }  // namespace quilm

@@ -41,8 +41,13 @@ void DrawTitle(const std::string& title, f32 row, Canvas& canvas) {
 
 }  // namespace
 
-void DrawFooters(const std::string& title, BelowPlot below, Canvas& canvas) {
+void DrawPaperTitle(const std::string& title, BelowPlot below, Canvas& canvas) {
   constexpr f32 titleRowBelow = 7400;
+  if (Trimmed(title).empty()) return;
+  DrawTitle(Trimmed(title), below == BelowPlot::Markers ? sharedRow : titleRowBelow, canvas);
+}
+
+void DrawFooters(const std::string& title, BelowPlot below, Canvas& canvas) {
   constexpr Point start{1400, 7660};
   constexpr f32 sharedLeft = 3300;
   const bool shared = below == BelowPlot::Markers;
@@ -52,7 +57,7 @@ void DrawFooters(const std::string& title, BelowPlot below, Canvas& canvas) {
   canvas.Fit.anchor = 0;
   canvas.PrintAt(footerLeft, shared ? sharedRow : footerRow, "Mousedown for data");
   canvas.PrintAt(shared ? sharedLeft : start.x, shared ? sharedRow : start.y, "Start");
-  if (!Trimmed(title).empty()) DrawTitle(Trimmed(title), shared ? sharedRow : titleRowBelow, canvas);
+  DrawPaperTitle(title, below, canvas);
 }
 
 }  // namespace quilm

@@ -26,6 +26,9 @@ void PrintAbout(Canvas& canvas, Point middle, const std::string& text);
 // Whether the rows of markers stand below a plot. What else is told there then shares the row of the readout.
 enum class BelowPlot { Free, Markers };
 
+// Below the plot, on paper alone: the title of the design, if it has one.
+void DrawPaperTitle(const std::string& title, BelowPlot below, Canvas& canvas);
+
 // Below the plot: on the screen the invitation to the readout, on paper the title of the design, if it has one.
 void DrawFooters(const std::string& title, BelowPlot below, Canvas& canvas);
 

@@ -78,13 +78,11 @@ void DrawSample(const PlotSetup& setup, const PlotTrace& trace, ScaleSide side, 
   canvas.Line(from, y, from + sampleLength, y, ColorOf(setup, trace));
 }
 
-void DrawTitle(const PlotSetup& setup, const PlotTrace& trace, const std::string& title, ScaleSide side,
-               Canvas& canvas) {
+void PrintTitleAt(const TitlePlace& place, const std::string& title, Color color, ScaleSide side, Canvas& canvas) {
   const PenScope pen(canvas);
-  const TitlePlace place = TitlePlaceOf(setup);
   canvas.FontSize = titleSize;
   canvas.Fit.anchor = 0;
-  canvas.ForeColor = ColorOf(setup, trace);
+  canvas.ForeColor = color;
   if (side == ScaleSide::Left) {
     canvas.PrintAt(place.left, place.row, title);
   } else {
@@ -103,12 +101,16 @@ void DrawScales(const PlotSetup& setup, const PlotKind& kind, Canvas& canvas) {
     const ScaleSide side = SideOf(kind, axis);
     DrawScale(ScaleOf(setup.scales, axis.quantity), setup.scales.NrYints, side, canvas);
     const bool printed = setup.inReport && !axis.printedTitle.empty();
-    DrawTitle(setup, trace, printed ? axis.printedTitle : axis.title, side, canvas);
+    PrintTitleAt(TitlePlaceOf(setup), printed ? axis.printedTitle : axis.title, ColorOf(setup, trace), side, canvas);
     if (kind.traces.size() > 1) DrawSample(setup, trace, side, canvas);
   }
 }
 
 }  // namespace
+
+void PrintScaleTitle(const std::string& title, Color color, ScaleSide side, Canvas& canvas, f32 inset) {
+  PrintTitleAt({titleRow, leftTitleStart + inset, rightTitleEnd - inset}, title, color, side, canvas);
+}
 
 void DrawGridLines(const PlotSetup& setup, Canvas& canvas) {
   DrawHorizontalGrid(setup.scales.NrYints, canvas);

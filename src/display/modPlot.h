@@ -29,6 +29,9 @@ enum class ScaleSide { Left, Right };
 // The labels of a scale in `intervals` steps.
 void DrawScale(const ValueScale& scale, f32 intervals, ScaleSide side, Canvas& canvas);
 
+// What a scale or a trace is called, in the row above the frame, so far in from the side of the scale.
+void PrintScaleTitle(const std::string& title, Color color, ScaleSide side, Canvas& canvas, f32 inset = 0);
+
 // The horizontal and vertical lines of the grid with the frame, without labels: over traces that have hidden them.
 void DrawGridLines(const PlotSetup& setup, Canvas& canvas);
 

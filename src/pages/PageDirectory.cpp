@@ -35,6 +35,10 @@
 #include "pages/start/frmAbout.h"
 #include "pages/start/frmExit.h"
 #include "pages/start/frmOpening.h"
+#include "pages/studies/frmModulationResponsePlot.h"
+#include "pages/studies/frmNoise.h"
+#include "pages/studies/frmPhasePlot.h"
+#include "pages/studies/frmPhaseSetup.h"
 #include "pages/tabulate/frmTabulated.h"
 #include "pages/transforms/frmBisection.h"
 #include "pages/transforms/frmDrawLines.h"
@@ -100,6 +104,10 @@ PageDirectory AllPages() {
       {PageId::ToroidDesign, Make<frmToroidDesign>},
       {PageId::LumpedToTubular, Make<frmLumpedToTubular>},
       {PageId::DrawLines, Make<frmDrawLines>},
+      {PageId::ModulationPlot, Make<frmModulationResponsePlot>},
+      {PageId::PhaseSetup, Make<frmPhaseSetup>},
+      {PageId::PhasePlot, Make<frmPhasePlot>},
+      {PageId::Noise, Make<frmNoise>},
       {PageId::EnterWidth, Make<frmEnterWidth>},
       {PageId::EnterCenterFreq, Make<frmEnterCenterFreq>},
       {PageId::EnterInput, Make<frmEnterInput>},

@@ -5,13 +5,11 @@
 
 #include "core/DesignRecord.h"
 #include "core/Responses.h"
-#include "core/modGeneral.h"
-#include "display/ChartGrid.h"
 #include "display/OverlayCurves.h"
 #include "display/PlotKinds.h"
 #include "display/SheetDrawing.h"
 #include "files/modOverlays.h"
-#include "reports/Report.h"
+#include "reports/PlotReport.h"
 #include "shell/PenScope.h"
 #include "shell/Session.h"
 
@@ -19,33 +17,9 @@ namespace quilm {
 
 namespace {
 
-// The lines of text: the last four of them stand below the plot, all of them on a further sheet.
-constexpr LineGrid grid = {.left = 1000, .top = 930, .pitch = 160, .lines = 44};
-constexpr int linesBesidePlot = 40;
-constexpr f32 middle = 6500;
-constexpr f32 titleRow = -180;
-constexpr f32 textSize = 7;        // points
 constexpr f32 firstColumn = 1240;  // room for the number of a marker before it
 constexpr f32 columnPitch = 990;
 constexpr i16 widestTrace = 1;
-
-// Where a plot of a scale stands on the sheet. Charts keep the length of their units of x, and their centre.
-struct PlotPlace {
-  Point from;
-  Point to;
-};
-
-PlotPlace PlaceOf(const Scale& scale) {
-  if (scale.shape.xUnit == 1) {
-    return {{scale.left, scale.top}, {scale.left + scale.width, scale.top + scale.height}};
-  }
-  constexpr f32 size = 0.84F;  // the largest that leaves the small plot in its corner on the sheet
-  const auto place = [&scale](f32 x, f32 y) {
-    return Point{chartCenter.x + (x - chartCenter.x) * scale.shape.xUnit * size,
-                 chartCenter.y + (y - chartCenter.y) * size};
-  };
-  return {place(scale.left, scale.top), place(scale.left + scale.width, scale.top + scale.height)};
-}
 
 // Whatever a run has drawn over the plot, its traces no wider than all traces on paper.
 void AddLive(const LiveLayer& live, Canvas& canvas) {
@@ -64,7 +38,7 @@ void PrintMarkers(const std::vector<MarkerReading>& markers, Report& report, Can
   if (report.LinesLeft() <= headingLines) report.NextSheet();
   const auto row = [&](const std::string& number, const std::array<std::string, markerColumns>& texts) {
     const f32 y = report.NextLine();
-    printer.PrintAt(grid.left, y, number);
+    printer.PrintAt(plotLines.left, y, number);
     PrintColumns(printer, firstColumn, y, columnPitch, texts);
   };
   report.Line("Details of markers:");
@@ -121,14 +95,7 @@ Picture PlotForPaper(const Session& session, const std::vector<MarkerReading>& m
 
 void DrawPlotReport(const DesignRecord& record, const Picture& plot, const std::vector<MarkerReading>& markers,
                     const DateTime& today, Canvas& printer) {
-  printer.FontName = "Courier New";
-  printer.FontSize = textSize;
-  Report report(printer, grid, plotSheet);
-  report.SetHead([title = Trimmed(record.CircuitTitle)](Canvas& sheet) { PrintTitle(sheet, middle, titleRow, title); });
-  report.SetFoot({record.DesignFileName, FootLine(today)});
-  const PlotPlace place = PlaceOf(plot.CurrentScale());
-  plot.ReplayInto(printer, place.from, place.to);
-  report.Skip(linesBesidePlot);
+  Report report = BeginPlotReport(record, plot, {record.DesignFileName, FootLine(today)}, printer);
   PrintMarkers(markers, report, printer);
   PrintLimits(record, markers.empty(), report);
   report.End();

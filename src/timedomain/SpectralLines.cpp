@@ -1,6 +1,9 @@
 #include "timedomain/SpectralLines.h"
 
+#include <memory>
+
 #include "analysis/Kernel.h"
+#include "analysis/SweepTable.h"
 #include "core/DesignRecord.h"
 
 namespace quilm {
@@ -16,6 +19,12 @@ std::vector<LineResponse> ResponseAtLines(const DesignRecord& record, std::span<
     lines[i] = last;
   }
   return lines;
+}
+
+std::vector<f32> FrequenciesOf(const SweepSettings& sweep) {
+  const auto table = std::make_unique<SweepTable>();
+  KeepTable(*table, sweep);
+  return {table->frequency.begin(), table->frequency.begin() + table->points};
 }
 
 }  // namespace quilm

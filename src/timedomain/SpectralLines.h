@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "core/RecordFwd.h"
+#include "core/Sweep.h"
 #include "core/Types.h"
 
 namespace quilm {
@@ -19,5 +20,9 @@ struct LineResponse {
 // before it, zeros at the first. Changes nothing of the design, its responses included. Throws NumericFault when the
 // frequency of the Q does not exist.
 std::vector<LineResponse> ResponseAtLines(const DesignRecord& record, std::span<const f32> frequencies);
+
+// The frequencies of a sweep, Hz, as those of the responses are spaced; 2050 at most. Throws NumericFault when they do
+// not exist, BoundFault when there are more.
+std::vector<f32> FrequenciesOf(const SweepSettings& sweep);
 
 }  // namespace quilm

@@ -219,8 +219,37 @@ TEST_F(AnalysisPage, ADesignPageNeedsNoCheck) {
   EXPECT_EQ(Record().VSWRTop, 99);
 }
 
+TEST_F(AnalysisPage, AStudyTakesItsPlaceAndLeadsBack) {
+  for (const auto& [button, page, exit] : {std::tuple{"cmdModulation", PageId::ModulationPlot, "cmdExitModulation"},
+                                           {"cmdPhase", PageId::PhaseSetup, "cmdExit"},
+                                           {"cmdNoise", PageId::Noise, "cmdExit"}}) {
+    Press(button);
+    EXPECT_EQ(Top().Id(), page) << button;
+    EXPECT_EQ(session.pages.Find(PageId::Analyze), nullptr);
+    Press(exit);
+    EXPECT_EQ(Top().Id(), PageId::Analyze) << button;
+    Press(button);
+    PressCloseBox(session, Top());
+    EXPECT_EQ(Top().Id(), PageId::Analyze) << button;
+    EXPECT_EQ(session.pages.Find(page), nullptr);
+  }
+  EXPECT_FALSE(session.ended);
+  EXPECT_TRUE(platform.messages.empty());
+}
+
+TEST_F(AnalysisPage, WithoutPartsThereIsNothingToStudy) {
+  Record().Stages = 0;
+  for (const char* button : {"cmdModulation", "cmdPhase", "cmdNoise"}) {
+    platform.messages.clear();
+    Press(button);
+    ASSERT_EQ(platform.messages.size(), 1U) << button;
+    EXPECT_EQ(platform.messages[0].text, "The parts list is empty");
+    EXPECT_EQ(Top().Id(), PageId::Analyze);
+  }
+}
+
 TEST_F(AnalysisPage, ToolsOfLaterPagesAreDisabled) {
-  for (const char* name : {"cmdModulation", "cmdPhase", "cmdNoise", "cmdTransient", "cmdAssistance"}) {
+  for (const char* name : {"cmdTransient", "cmdAssistance"}) {
     EXPECT_FALSE(Get<Button>(name).Active()) << name;
   }
 }

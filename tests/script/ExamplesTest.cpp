@@ -179,6 +179,60 @@ TEST_F(Program, TheFiltersAreMadeBuildable) {
   }
 }
 
+// The sum of power in the middle of 10,000 steps over the largest, Hz.
+f64 NoiseBandwidthOf(const DesignRecord& design, f32 Fq, f64 start, f64 stop) {
+  constexpr int steps = 10000;
+  f64 sum = 0;
+  f64 peak = 0;
+  for (int i = 0; i < steps; ++i) {
+    const f64 frequency = start + (stop - start) * (i + 0.5) / steps;
+    const f64 power = std::pow(10, FiguresAt(design, static_cast<f32>(frequency), Fq).TransDB / 10);
+    sum += power;
+    peak = std::max(peak, power);
+  }
+  return sum * (stop - start) / steps / peak;
+}
+
+// By least squares over 601 angles of a band within which none of them wraps: seconds.
+f64 DelayOfBestLine(const DesignRecord& design, f32 Fq, f64 start, f64 stop) {
+  f64 A = 0;
+  f64 B = 0;
+  for (int i = 0; i <= 600; ++i) {
+    const f64 offset = (stop - start) * (i / 600.0 - 0.5);
+    A += offset * offset;
+    B += offset * FiguresAt(design, static_cast<f32>((start + stop) / 2 + offset), Fq).Angle;
+  }
+  return -B / A / 360;
+}
+
+// By the formulas of the analysis themselves.
+TEST_F(Program, AFinishedFilterIsStudied) {
+  const Ended ended = Run("'" QUILM_EXAMPLES "/studies.qsc'");
+  ASSERT_EQ(ended.status, 0) << ended.err;
+  DesignRecord design;
+  std::vector<json> pages;
+  for (const json& event : ended.Events()) {
+    EXPECT_NE(event["event"], "message") << event;
+    if (event["event"] == "record") design = NetworkOf(event["stages"]);
+    if (event["event"] == "page") pages.push_back(event);
+  }
+  ASSERT_EQ(design.Stages, 3);
+  ASSERT_EQ(pages.size(), 2U);
+  design.Rsource[1] = design.Rload[1] = 1000;
+  design.Qind[1] = design.Qcap[1] = 5000;
+  const std::string delay = ShownBy(pages[0], "lblDelay");
+  ASSERT_THAT(delay, testing::StartsWith("Delay of the line: "));
+  EXPECT_NEAR(std::stod(delay.substr(19)), 1e6 * DelayOfBestLine(design, 455e3F, 449e3, 461e3), 1e-3);
+  const std::string noise = ShownBy(pages[1], "lblNoiseBandwidth");
+  ASSERT_THAT(noise, testing::StartsWith("Noise bandwidth: "));
+  EXPECT_NEAR(std::stod(noise.substr(17)), 1e-3 * NoiseBandwidthOf(design, 455e3F, 400e3, 520e3), 1e-4);
+  for (const char* picture : {"transmission", "modulation", "modulation-detuned", "linearity", "deviation"}) {
+    const std::string text = ContentOf(folder / "out" / ("studies-" + std::string(picture) + ".svg"));
+    EXPECT_THAT(text, testing::HasSubstr("<polyline")) << picture;
+  }
+  EXPECT_THAT(ContentOf(folder / "out" / "studies-deviation-report.pdf"), testing::StartsWith("%PDF-"));
+}
+
 // The limits are those of the places that were clicked: 1 MHz and 2 MHz of a sweep of 100 kHz to 10 MHz by its 1000
 // points, and 0.5 and 45 of 60 dB. What the optimiser leaves keeps to them, by the formulas of the analysis themselves.
 TEST_F(Program, AnEveningAtTheBench) {

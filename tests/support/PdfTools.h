@@ -1,24 +1,14 @@
 // What an independent reader, poppler's, finds in a PDF file.
 #pragma once
 
-#include <array>
-#include <cstdio>
 #include <cstdlib>
 #include <fstream>
 #include <sstream>
 #include <string>
 
-namespace quilm {
+#include "support/ProgramOutput.h"
 
-// What a command writes to its standard output; fails with an empty text.
-inline std::string OutputOf(const std::string& command) {
-  std::string output;
-  FILE* pipe = popen(command.c_str(), "r");
-  if (pipe == nullptr) return output;
-  std::array<char, 4096> block{};
-  for (std::size_t got = 0; (got = fread(block.data(), 1, block.size(), pipe)) > 0;) output.append(block.data(), got);
-  return pclose(pipe) == 0 ? output : std::string();
-}
+namespace quilm {
 
 // A line of pdfinfo without its heading: "Pages", "Page size".
 inline std::string PdfInfo(const std::string& path, const std::string& heading) {

@@ -47,13 +47,15 @@ frmAnalyze::frmAnalyze(Session& session)
     session_.pages.ShowModal(PageId::MonteCarloSetup);
     session_.pages.ShowPage(Id());
   };
+  cmdModulation_.onClick = [this] { OpenStudy(PageId::ModulationPlot); };
+  cmdPhase_.onClick = [this] { OpenStudy(PageId::PhaseSetup); };
+  cmdNoise_.onClick = [this] { OpenStudy(PageId::Noise); };
+  cmdTransient_.onClick = [this] { OpenStudy(PageId::TransientPlot); };
   cmdAssistance_.onClick = [this] { session_.pages.ShowModal(PageId::EntryAssistance); };
   for (Button* tool : {&cmdAutoScale_, &cmdFitSweep_, &cmdStepsize_, &cmdModulation_, &cmdPhase_, &cmdNoise_,
                        &cmdTransient_, &cmdAssistance_}) {
     tool->role = ButtonRole::Tool;
   }
-  // Their pages are still to come.
-  for (Button* tool : {&cmdModulation_, &cmdPhase_, &cmdNoise_, &cmdTransient_}) tool->enabled = false;
 }
 
 void frmAnalyze::BindEntries() {
@@ -121,6 +123,7 @@ void frmAnalyze::Reload() { Show(Missing::Stay); }
 void frmAnalyze::Show(Missing missing) {
   navigation_.Load();
   cmdAssistance_.enabled = session_.pages.Has(PageId::EntryAssistance);
+  cmdTransient_.enabled = session_.pages.Has(PageId::TransientPlot);
   try {
     if (missing == Missing::AreFilled) FillMissingEntries(session_.record, session_.configuration);
     entries.Fill();
@@ -206,6 +209,16 @@ void frmAnalyze::FitToBand() {
   FitSweep(session_);
   entries.Fill();
   ShowLabels();
+}
+
+// A study takes the place of this page; its exit shows it afresh.
+void frmAnalyze::OpenStudy(PageId study) {
+  if (session_.network.Stages == 0) {
+    session_.platform.MessageBox("The parts list is empty", Buttons::Ok, Icon::Exclamation, "");
+    return;
+  }
+  session_.pages.ShowPage(study);
+  session_.pages.UnloadPage(Id());
 }
 
 void frmAnalyze::ShowOptions() {

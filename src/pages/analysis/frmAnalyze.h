@@ -32,6 +32,7 @@ class frmAnalyze : public Page {
   bool MayGoTo(PageId target);
   void ScaleToResponse();
   void FitToBand();
+  void OpenStudy(PageId study);
   enum class Missing { AreFilled, Stay };
   void Show(Missing missing);
   void ShowOptions();

@@ -3,10 +3,8 @@
 #include <unistd.h>
 
 #include <array>
-#include <cstdio>
 #include <filesystem>
 #include <fstream>
-#include <iomanip>
 #include <memory>
 #include <sstream>
 
@@ -17,6 +15,8 @@
 #include "core/Responses.h"
 #include "files/export/TouchstoneFile.h"
 #include "files/export/TouchstoneGrammar.h"
+#include "support/LadderText.h"
+#include "support/ProgramOutput.h"
 #include "support/RandomLadder.h"
 
 namespace quilm {
@@ -65,12 +65,7 @@ struct Swept {
 void WriteDesign(const fs::path& path, const Swept& swept) {
   const DesignRecord& r = swept.record;
   std::ofstream out(path);
-  out << std::setprecision(9);
-  out << r.Rsource[1] << ' ' << r.Rload[1] << ' ' << r.Rstandard << ' ' << r.Qind[1] << ' ' << r.Qcap[1] << ' '
-      << QualityFrequency(r, r) << ' ' << r.Stages << '\n';
-  for (int s = 1; s <= r.Stages; ++s) {
-    out << r.stage[s].ElementType << ' ' << r.stage[s].Lval.value << ' ' << r.stage[s].Cval.value << '\n';
-  }
+  WriteLadder(r, QualityFrequency(r, r), out);
   const Responses& f = *swept.responses;
   const ReverseResponses& b = *swept.reverse;
   for (int i = 0; i <= LastPoint(r); ++i) {
@@ -102,15 +97,6 @@ std::string FileName(int design, const ExportChoices& choices) {
          "P";
 }
 
-// What a command prints.
-std::string OutputOf(const std::string& command) {
-  const std::unique_ptr<FILE, int (*)(FILE*)> pipe(popen(command.c_str(), "r"), pclose);
-  std::string text;
-  std::array<char, 4096> part;
-  while (fgets(part.data(), part.size(), pipe.get()) != nullptr) text += part.data();
-  return text;
-}
-
 class TouchstoneReader : public testing::Test {
  protected:
   TouchstoneReader() : folder_(fs::temp_directory_path() / ("quilm-touchstone-" + std::to_string(getpid()))) {
@@ -131,7 +117,7 @@ TEST_F(TouchstoneReader, ScikitRfReadsWhatTheSweepSaid) {
     });
   }
   const std::string said = OutputOf(std::string(QUILM_SKRF_PYTHON " " QUILM_EXPORT_TESTS "/read_touchstone.py ") +
-                                    folder_.string() + " 2>" + (folder_ / "errors").string());
+                                    folder_.string() + " 2>" + (folder_ / "errors").string() + " || true");
   std::ostringstream errors;
   errors << std::ifstream(folder_ / "errors").rdbuf();
   EXPECT_THAT(said, testing::EndsWith("compared " + std::to_string(designs * 16 * 51) + " points\n"))

@@ -12,17 +12,18 @@ import sys
 
 import skrf
 
+sys.path.append(str(pathlib.Path(__file__).resolve().parents[2] / "support"))
+from ladder import Ladder, chain, transmission  # noqa: E402
+
 TOLERANCE = 2e-6  # of frequencies, |S11|, S21 and S12: what seven digits keep of a number below 100
 # Of a loss of 100 dB and more seven digits keep four decimals: half of the last is 5.8E-6 of the ratio.
 TOLERANCE_BEYOND_100_DB = 1e-5
 
 
-class Design:
+class Design(Ladder):
     def __init__(self, path):
-        lines = [[float(word) for word in line.split()] for line in path.read_text(encoding="ascii").splitlines()]
-        self.source, self.load, self.reference, self.qind, self.qcap, self.fq, stages = lines[0]
-        self.stages = lines[1 : 1 + int(stages)]
-        self.points = [Point(line) for line in lines[1 + int(stages) :]]
+        super().__init__(path)
+        self.points = [Point(line) for line in self.rest]
 
 
 class Point:
@@ -52,39 +53,14 @@ def reflection(impedance, reference):
     return (impedance - reference) / (impedance + reference)
 
 
-def times(first, second):
-    a, b, c, d = first
-    e, f, g, h = second
-    return a * e + b * g, a * f + b * h, c * e + d * g, c * f + d * h
-
-
-def immittance(design, stage, omega):
-    """The impedance of an inductor with its constant resistance, the admittance of a capacitor with its constant Q."""
-    _, inductance, capacitance = stage
-    z = 2 * math.pi * design.fq * inductance / design.qind + 1j * omega * inductance
-    y = omega * capacitance / design.qcap + 1j * omega * capacitance
-    return z, y
-
-
-def chain(design, frequency):
-    product = (1, 0, 0, 1)
-    for stage in design.stages:
-        z, y = immittance(design, stage, 2 * math.pi * frequency)
-        kind = int(stage[0])
-        arm = {1: z, 2: z, 3: 1 / y, 4: 1 / y, 5: z + 1 / y, 6: z + 1 / y, 7: 1 / (1 / z + y), 8: 1 / (1 / z + y)}[kind]
-        product = times(product, (1, arm, 0, 1) if kind % 2 == 1 else (1, 0, 1 / arm, 1))
-    return product
-
-
 def of_circuit(design, frequency):
     """S11, S21 and S22 from the chain matrix; the reflections refer to the reference of the design."""
     a, b, c, d = chain(design, frequency)
     zin = (a * design.load + b) / (c * design.load + d)
     zout = (d * design.source + b) / (c * design.source + a)
-    denominator = a * design.load + b + c * design.load * design.source + d * design.source
     return (
         reflection(zin, design.reference),
-        2 * math.sqrt(design.source * design.load) / denominator,
+        transmission(design, frequency),
         reflection(zout, design.reference),
     )
 
