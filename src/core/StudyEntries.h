@@ -6,9 +6,13 @@
 
 namespace quilm {
 
+inline constexpr i16 squareWave = 1;
+inline constexpr i16 burstWave = 2;
+inline constexpr i16 envelopeWave = 3;  // of the burst
+
 // The transient response. 0 stands for what was never entered.
 struct WaveEntries {
-  i16 WaveformType = 1;     // 1 squarewave, 2 burst, 3 envelope of burst
+  i16 WaveformType = squareWave;
   char AnalysisType = 'N';  // N normal, E delay equalized, B both
   f32 SquareFreq = 0;       // of the squarewave's fundamental, Hz
   f32 CarrierFreq = 0;      // of the burst, Hz

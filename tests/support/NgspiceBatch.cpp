@@ -40,19 +40,25 @@ std::string ContentOf(const std::string& path) {
   return {std::istreambuf_iterator<char>(in), {}};
 }
 
+// A deck with the analysis that it is put to.
+struct Job {
+  const std::string& deck;
+  std::string analysis;
+  const std::string& output;
+};
+
 // The vectors of each circuit are thrown away, so that a circuit that is refused cannot show those of the one before.
-std::string Commands(const WorkFolder& folder, const std::vector<NgspiceCircuit>& circuits) {
+std::string Commands(const WorkFolder& folder, const std::vector<Job>& jobs) {
   std::string text = "* batch\n.control\nset wr_singlescale\nset numdgt=15\n";
-  for (std::size_t i = 0; i < circuits.size(); ++i) {
-    text.append("source ").append(folder.Deck(i)).append("\nac ").append(circuits[i].sweep);
-    text.append("\nwrdata ").append(folder.Data(i)).append(" v(").append(circuits[i].output).append(")\n");
+  for (std::size_t i = 0; i < jobs.size(); ++i) {
+    text.append("source ").append(folder.Deck(i)).append("\n").append(jobs[i].analysis);
+    text.append("\nwrdata ").append(folder.Data(i)).append(" v(").append(jobs[i].output).append(")\n");
     text.append("remcirc\ndestroy all\n");
   }
   return text + "quit\n.endc\n.end\n";
 }
 
-std::vector<NgspicePoint> PointsIn(const std::string& path) {
-  std::ifstream in(path);
+std::vector<NgspicePoint> PointsIn(std::istream& in) {
   std::vector<NgspicePoint> points;
   f64 frequency = 0;
   f64 re = 0;
@@ -61,21 +67,51 @@ std::vector<NgspicePoint> PointsIn(const std::string& path) {
   return points;
 }
 
-}  // namespace
+std::vector<NgspiceMoment> MomentsIn(std::istream& in) {
+  std::vector<NgspiceMoment> moments;
+  f64 time = 0;
+  f64 voltage = 0;
+  while (in >> time >> voltage) moments.push_back({time, voltage});
+  return moments;
+}
 
-std::vector<std::vector<NgspicePoint>> RunNgspice(const std::vector<NgspiceCircuit>& circuits, std::string* log) {
+// Runs the jobs and hands each one's data to `take`.
+template <class Take>
+void Run(const std::vector<Job>& jobs, std::string* log, Take take) {
   if (std::system("ngspice --version >/dev/null 2>&1") != 0) {
     throw Fault("ngspice is not installed; tools/install-packages test installs it");
   }
   const WorkFolder folder;
-  for (std::size_t i = 0; i < circuits.size(); ++i) std::ofstream(folder.Deck(i)) << circuits[i].deck;
-  std::ofstream(folder.File("main.cir")) << Commands(folder, circuits);
+  for (std::size_t i = 0; i < jobs.size(); ++i) std::ofstream(folder.Deck(i)) << jobs[i].deck;
+  std::ofstream(folder.File("main.cir")) << Commands(folder, jobs);
   // Its exit status is that of the last command; what counts is the data.
   const std::string command = "ngspice -b " + folder.File("main.cir") + " >" + folder.File("log") + " 2>&1";
   if (std::system(command.c_str()) == -1) throw Fault("ngspice did not start");
   if (log != nullptr) *log = ContentOf(folder.File("log"));
+  for (std::size_t i = 0; i < jobs.size(); ++i) {
+    std::ifstream data(folder.Data(i));
+    take(data);
+  }
+}
+
+}  // namespace
+
+std::vector<std::vector<NgspicePoint>> RunNgspice(const std::vector<NgspiceCircuit>& circuits, std::string* log) {
+  std::vector<Job> jobs;
+  for (const NgspiceCircuit& circuit : circuits) jobs.push_back({circuit.deck, "ac " + circuit.sweep, circuit.output});
   std::vector<std::vector<NgspicePoint>> results;
-  for (std::size_t i = 0; i < circuits.size(); ++i) results.push_back(PointsIn(folder.Data(i)));
+  Run(jobs, log, [&results](std::istream& data) { results.push_back(PointsIn(data)); });
+  return results;
+}
+
+std::vector<std::vector<NgspiceMoment>> RunNgspiceTransients(const std::vector<NgspiceTransient>& circuits,
+                                                             std::string* log) {
+  std::vector<Job> jobs;
+  for (const NgspiceTransient& circuit : circuits) {
+    jobs.push_back({circuit.deck, "tran " + circuit.steps, circuit.output});
+  }
+  std::vector<std::vector<NgspiceMoment>> results;
+  Run(jobs, log, [&results](std::istream& data) { results.push_back(MomentsIn(data)); });
   return results;
 }
 

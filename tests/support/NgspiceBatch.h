@@ -25,4 +25,19 @@ struct NgspicePoint {
 std::vector<std::vector<NgspicePoint>> RunNgspice(const std::vector<NgspiceCircuit>& circuits,
                                                   std::string* log = nullptr);
 
+struct NgspiceTransient {
+  std::string deck;    // likewise
+  std::string steps;   // "step stop start largest-step", in seconds
+  std::string output;  // the node that is measured
+};
+
+struct NgspiceMoment {
+  f64 time = 0;  // s
+  f64 voltage = 0;
+};
+
+// The same for transient analyses: the moments that ngspice has computed, as close together as its steps were.
+std::vector<std::vector<NgspiceMoment>> RunNgspiceTransients(const std::vector<NgspiceTransient>& circuits,
+                                                             std::string* log = nullptr);
+
 }  // namespace quilm
