@@ -20,6 +20,7 @@
 #include <cmath>
 #include <memory>
 
+#include "WideLowpass.h"
 #include "analysis/modAnalysis.h"
 #include "app/Desktop.h"
 #include "app/PictureSheet.h"
@@ -27,6 +28,7 @@
 #include "core/Responses.h"
 #include "display/HorizontalAxis.h"
 #include "display/SheetDrawing.h"
+#include "display/WaveDrawing.h"
 #include "pages/PageDirectory.h"
 #include "shell/LiveLayer.h"
 #include "shell/Page.h"
@@ -160,6 +162,17 @@ void RepaintUnchanged(benchmark::State& state) {
   for (auto _ : state) plot.view.repaint();
 }
 
+// Both waves of a signal of the type given, from the entries to the pixels.
+void TransientPainted(benchmark::State& state) {
+  Plot plot(state);
+  const DesignRecord lowpass = WideLowpass();
+  const WaveEntries signal{static_cast<i16>(state.range(3)), 'B', squareFreq, carrierFreq};
+  for (auto _ : state) {
+    PlotWaves(ComputeWaves(lowpass, signal), 1, {}, plot.picture);
+    plot.Show();
+  }
+}
+
 // The program in its window with Tune part open: what a user has before him who tunes a long network.
 class TuningWindow {
  public:
@@ -250,6 +263,9 @@ void Register(const ScreenSize& screen) {
   add("RepaintUnchanged", RepaintUnchanged, {}, {});
   add("TuningStep", TuningStep, {}, {});
   add("PlainSweep", PlainSweep, {}, {});
+  for (const i16 waveform : {squareWave, burstWave}) {
+    add("TransientPainted", TransientPainted, {"waveform"}, {waveform});
+  }
   for (const int pen : {1, 2}) add("TwoTraces", TwoTraces, {"pen"}, {pen});
   constexpr int traces = 1000;
   add("TrialTrace", TrialTrace, {}, {})->Iterations(traces);

@@ -51,6 +51,7 @@ class Walk {
     Schematic();
     Edit();
     Visit("cmdAnalysis", "analysis");
+    Transient();
     WriteFiles();
     Visit("cmdTabulate", "tabulated");
     Visit("cmdDesign", "design-return");
@@ -106,6 +107,22 @@ class Walk {
     Type("txtStopbandDepth", "60");
     StepUp("UpDown1", 1);
     Save("design-cauer");
+  }
+
+  // A squarewave with both waves, a burst beyond the band.
+  void Transient() {
+    if (!Press("cmdTransient")) return;
+    Save("transient-frame");
+    Type("txtSquarewaveFreq", "200k");
+    Press("Option6");
+    Press("cmdPlot");
+    Save("transient-both");
+    Press("Option2");
+    Type("txtSquarewaveFreq", "100k");
+    Type("txtCarrierFreq", "4M");
+    Press("cmdPlot");
+    Save("transient-burst");
+    Press("cmdExitTransient");
   }
 
   void Schematic() {

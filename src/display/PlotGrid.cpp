@@ -134,13 +134,26 @@ void DrawFrequencyLines(const FrequencyGrid& grid, Canvas& canvas, const PlotBox
   }
 }
 
+void PrintGridLabels(const std::vector<GridLabel>& labels, Canvas& canvas) {
+  const PenScope pen(canvas);
+  canvas.FontSize = labelSize;
+  for (const GridLabel& label : labels) {
+    canvas.PrintAt(labelsLeft + plotFrame.width * label.fraction, labelRow, label.text);
+  }
+}
+
 void DrawVerticalGrid(const HorizontalAxis& axis, i16 intervals, Canvas& canvas) {
   const FrequencyGrid grid = MakeFrequencyGrid(axis, intervals);
   DrawFrequencyLines(grid, canvas);
+  PrintGridLabels(LabelsOf(axis, grid), canvas);
+}
+
+void DrawLevelLines(f32 intervals, Canvas& canvas, const PlotBox& box) {
   const PenScope pen(canvas);
-  canvas.FontSize = labelSize;
-  for (const GridLabel& label : LabelsOf(axis, grid)) {
-    canvas.PrintAt(labelsLeft + plotFrame.width * label.fraction, labelRow, label.text);
+  canvas.DrawWidth = 0;
+  for (int k = 1; static_cast<f32>(k) < intervals; ++k) {
+    const f32 y = box.top + box.height * static_cast<f32>(k) / intervals;
+    canvas.Line(box.left, y, box.Right(), y, gridColor);
   }
 }
 

@@ -46,8 +46,14 @@ void DrawFrame(Canvas& canvas, const PlotBox& box = plotFrame);
 // The vertical lines in any frame.
 void DrawFrequencyLines(const FrequencyGrid& grid, Canvas& canvas, const PlotBox& box = plotFrame);
 
+// Texts below the plots' frame, in the places of the labels of its axis.
+void PrintGridLabels(const std::vector<GridLabel>& labels, Canvas& canvas);
+
 // The vertical lines of the plots' frame with their labels below it.
 void DrawVerticalGrid(const HorizontalAxis& axis, i16 intervals, Canvas& canvas);
+
+// The horizontal lines that divide any frame evenly, without its edges; none for fewer than two intervals.
+void DrawLevelLines(f32 intervals, Canvas& canvas, const PlotBox& box = plotFrame);
 
 // The horizontal lines of the plots' frame. Throws NumericFault when they have no distance.
 void DrawHorizontalGrid(f32 intervals, Canvas& canvas);

@@ -9,7 +9,8 @@ namespace quilm {
 
 inline constexpr f32 labelSize = 8;  // points
 inline constexpr f32 titleSize = 9;
-inline constexpr f32 labelRise = 100;  // from the top of a label's line to the place that it names
+inline constexpr f32 plotTitleRow = 540;  // above the plots
+inline constexpr f32 labelRise = 100;     // from the top of a label's line to the place that it names
 
 // The rows under the plots.
 inline constexpr f32 footerRow = 7280;

@@ -30,12 +30,7 @@ void Begin(const Scale& scale, Canvas& canvas) {
 
 void DrawGrid(const PlotSetup& setup, const PlotBox& box, Canvas& canvas) {
   DrawFrequencyLines(MakeFrequencyGrid(setup.axis, setup.scales.NrXints), canvas, box);
-  const PenScope pen(canvas);
-  canvas.DrawWidth = 0;
-  for (int k = 1; static_cast<f32>(k) < setup.scales.NrYints; ++k) {
-    const f32 y = box.top + box.height * static_cast<f32>(k) / setup.scales.NrYints;
-    canvas.Line(box.left, y, box.Right(), y, gridColor);
-  }
+  DrawLevelLines(setup.scales.NrYints, canvas, box);
 }
 
 void PrintLabels(const PlotSetup& setup, const PlotBox& box, Canvas& canvas) {

@@ -16,7 +16,6 @@ namespace quilm {
 
 namespace {
 
-constexpr f32 titleRow = 540;
 constexpr f32 leftTitleStart = 1060;
 constexpr f32 rightTitleEnd = 11840;
 constexpr f32 sampleLength = 290;  // of a trace, between its title and the edge
@@ -61,7 +60,7 @@ TitlePlace TitlePlaceOf(const PlotSetup& setup) {
     case PlotDress::UnderProgress:
       return {rowBelowProgress, plotFrame.left + besideTick, plotFrame.Right() - besideTick};
     default:
-      return {titleRow, leftTitleStart, rightTitleEnd};
+      return {plotTitleRow, leftTitleStart, rightTitleEnd};
   }
 }
 
@@ -109,7 +108,7 @@ void DrawScales(const PlotSetup& setup, const PlotKind& kind, Canvas& canvas) {
 }  // namespace
 
 void PrintScaleTitle(const std::string& title, Color color, ScaleSide side, Canvas& canvas, f32 inset) {
-  PrintTitleAt({titleRow, leftTitleStart + inset, rightTitleEnd - inset}, title, color, side, canvas);
+  PrintTitleAt({plotTitleRow, leftTitleStart + inset, rightTitleEnd - inset}, title, color, side, canvas);
 }
 
 void DrawGridLines(const PlotSetup& setup, Canvas& canvas) {

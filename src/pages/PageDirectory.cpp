@@ -39,6 +39,7 @@
 #include "pages/studies/frmNoise.h"
 #include "pages/studies/frmPhasePlot.h"
 #include "pages/studies/frmPhaseSetup.h"
+#include "pages/studies/frmTransientPlot.h"
 #include "pages/tabulate/frmTabulated.h"
 #include "pages/transforms/frmBisection.h"
 #include "pages/transforms/frmDrawLines.h"
@@ -108,6 +109,7 @@ PageDirectory AllPages() {
       {PageId::PhaseSetup, Make<frmPhaseSetup>},
       {PageId::PhasePlot, Make<frmPhasePlot>},
       {PageId::Noise, Make<frmNoise>},
+      {PageId::TransientPlot, Make<frmTransientPlot>},
       {PageId::EnterWidth, Make<frmEnterWidth>},
       {PageId::EnterCenterFreq, Make<frmEnterCenterFreq>},
       {PageId::EnterInput, Make<frmEnterInput>},

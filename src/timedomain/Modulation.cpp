@@ -16,7 +16,7 @@ constexpr f32 usualBottom = -60;    // dB
 constexpr f32 lowestStart = 0.01F;  // Hz
 constexpr f32 stopOverStart = 10;   // where no stop makes sense
 
-f32 VoltageRatio(const LineResponse& line) { return static_cast<f32>(std::pow(10.0, line.TransDB / 20)); }
+f32 SidebandRatio(const LineResponse& line) { return static_cast<f32>(VoltageRatio(line)); }
 
 // A ladder that passes nothing has no largest response to refer to.
 void MakeRelative(std::vector<f32>& response) {
@@ -53,8 +53,8 @@ Modulation ComputeModulation(const DesignRecord& record, f32 ModCarrier, const M
   }
   const std::vector<LineResponse> found = ResponseAtLines(record, lines);
   for (std::size_t i = 0; i < count; ++i) {
-    made.ModLower.push_back(lines[i] == 0 ? 0 : VoltageRatio(found[i]));
-    made.ModUpper.push_back(VoltageRatio(found[count + i]));
+    made.ModLower.push_back(lines[i] == 0 ? 0 : SidebandRatio(found[i]));
+    made.ModUpper.push_back(SidebandRatio(found[count + i]));
     made.ModResponse.push_back((made.ModUpper[i] + made.ModLower[i]) * 0.5F);
   }
   if (entries.ModRelative == 1) MakeRelative(made.ModResponse);

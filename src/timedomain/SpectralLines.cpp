@@ -1,5 +1,7 @@
 #include "timedomain/SpectralLines.h"
 
+#include <cmath>
+
 #include <memory>
 
 #include "analysis/Kernel.h"
@@ -7,6 +9,8 @@
 #include "core/DesignRecord.h"
 
 namespace quilm {
+
+f64 VoltageRatio(const LineResponse& line) { return std::pow(10.0, line.TransDB / 20); }
 
 std::vector<LineResponse> ResponseAtLines(const DesignRecord& record, std::span<const f32> frequencies) {
   std::vector<LineResponse> lines(frequencies.size());

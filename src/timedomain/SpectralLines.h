@@ -15,6 +15,9 @@ struct LineResponse {
   f64 Angle = 0;    // degrees, -180..180
 };
 
+// The voltage at the load relative to the one at which all available power reaches it.
+f64 VoltageRatio(const LineResponse& line);
+
 // The response at each frequency (Hz, of either sign) in their order, by one call of the engine. Inductors have their Q
 // at the frequency that the sweep would take. A frequency at which the ladder fails repeats the figures of the one
 // before it, zeros at the first. Changes nothing of the design, its responses included. Throws NumericFault when the

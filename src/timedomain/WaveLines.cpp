@@ -1,8 +1,5 @@
 #include "timedomain/WaveLines.h"
 
-#include <cmath>
-#include <span>
-
 #include "core/NumericFault.h"
 #include "core/modGeneral.h"
 #include "timedomain/SpectralLines.h"
@@ -12,7 +9,7 @@ namespace quilm {
 namespace {
 
 WaveLine LineOf(const LineResponse& response, f64 weight, NumericFaultScope& scope) {
-  return {scope.Store(std::pow(10.0, response.TransDB / 20) * weight), static_cast<f32>(response.Angle)};
+  return {scope.Store(VoltageRatio(response) * weight), static_cast<f32>(response.Angle)};
 }
 
 f32 Frequency(f64 hertz) { return static_cast<f32>(hertz); }

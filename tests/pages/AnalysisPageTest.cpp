@@ -222,7 +222,8 @@ TEST_F(AnalysisPage, ADesignPageNeedsNoCheck) {
 TEST_F(AnalysisPage, AStudyTakesItsPlaceAndLeadsBack) {
   for (const auto& [button, page, exit] : {std::tuple{"cmdModulation", PageId::ModulationPlot, "cmdExitModulation"},
                                            {"cmdPhase", PageId::PhaseSetup, "cmdExit"},
-                                           {"cmdNoise", PageId::Noise, "cmdExit"}}) {
+                                           {"cmdNoise", PageId::Noise, "cmdExit"},
+                                           {"cmdTransient", PageId::TransientPlot, "cmdExitTransient"}}) {
     Press(button);
     EXPECT_EQ(Top().Id(), page) << button;
     EXPECT_EQ(session.pages.Find(PageId::Analyze), nullptr);
@@ -239,7 +240,7 @@ TEST_F(AnalysisPage, AStudyTakesItsPlaceAndLeadsBack) {
 
 TEST_F(AnalysisPage, WithoutPartsThereIsNothingToStudy) {
   Record().Stages = 0;
-  for (const char* button : {"cmdModulation", "cmdPhase", "cmdNoise"}) {
+  for (const char* button : {"cmdModulation", "cmdPhase", "cmdNoise", "cmdTransient"}) {
     platform.messages.clear();
     Press(button);
     ASSERT_EQ(platform.messages.size(), 1U) << button;
@@ -249,7 +250,7 @@ TEST_F(AnalysisPage, WithoutPartsThereIsNothingToStudy) {
 }
 
 TEST_F(AnalysisPage, ToolsOfLaterPagesAreDisabled) {
-  for (const char* name : {"cmdTransient", "cmdAssistance"}) {
+  for (const char* name : {"cmdAssistance"}) {
     EXPECT_FALSE(Get<Button>(name).Active()) << name;
   }
 }

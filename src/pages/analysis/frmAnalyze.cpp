@@ -123,7 +123,6 @@ void frmAnalyze::Reload() { Show(Missing::Stay); }
 void frmAnalyze::Show(Missing missing) {
   navigation_.Load();
   cmdAssistance_.enabled = session_.pages.Has(PageId::EntryAssistance);
-  cmdTransient_.enabled = session_.pages.Has(PageId::TransientPlot);
   try {
     if (missing == Missing::AreFilled) FillMissingEntries(session_.record, session_.configuration);
     entries.Fill();
