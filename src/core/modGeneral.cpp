@@ -204,12 +204,13 @@ std::string Trimmed(std::string_view text, std::string_view blanks) {
   return std::string(text.substr(first, text.find_last_not_of(blanks) - first + 1));
 }
 
-f64 CosH(f32 x) { return 0.5 * (std::exp(static_cast<f64>(x)) + std::exp(-static_cast<f64>(x))); }
+f64 CosH(f64 x) { return 0.5 * (std::exp(x) + std::exp(-x)); }
 
-f64 ArcCosh(f32 x) {
-  const f64 wide = static_cast<f64>(x);
-  return std::log(wide + std::sqrt(wide * wide - 1));
-}
+f64 CosH(f32 x) { return CosH(f64{x}); }
+
+f64 ArcCosh(f64 x) { return std::log(x + std::sqrt(x * x - 1)); }
+
+f64 ArcCosh(f32 x) { return ArcCosh(f64{x}); }
 
 void SwapValues(f32& a, f32& b) { std::swap(a, b); }
 

@@ -46,8 +46,10 @@ std::string FirstCharacters(std::string_view text, std::size_t count);
 // The text without what stands at both its ends of `blanks`.
 std::string Trimmed(std::string_view text, std::string_view blanks = " ");
 
+f64 CosH(f64 x);
 f64 CosH(f32 x);
-f64 ArcCosh(f32 x);  // x at least 1, else NaN
+f64 ArcCosh(f64 x);  // x at least 1, else NaN
+f64 ArcCosh(f32 x);
 
 // Exchanges two values through 32-bit floats.
 void SwapValues(f32& a, f32& b);

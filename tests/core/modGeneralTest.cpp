@@ -161,11 +161,11 @@ TEST(PadCell, FillsToFourteenCharacters) {
 }
 
 TEST(Helpers, HyperbolicCosineAndItsInverse) {
-  EXPECT_DOUBLE_EQ(CosH(1), 1.5430806348152437);  // Abramowitz and Stegun, table 4.15
+  EXPECT_DOUBLE_EQ(CosH(1.0F), 1.5430806348152437);  // Abramowitz and Stegun, table 4.15
   EXPECT_NEAR(ArcCosh(1.5430806F), 1, 1e-6);
-  EXPECT_EQ(ArcCosh(1), 0);
-  EXPECT_DOUBLE_EQ(CosH(-1), CosH(1));
-  EXPECT_DOUBLE_EQ(ArcCosh(2), 1.3169578969248167);  // ln(2 + sqrt 3)
+  EXPECT_EQ(ArcCosh(1.0), 0);
+  EXPECT_DOUBLE_EQ(CosH(-1.0F), CosH(1.0F));
+  EXPECT_DOUBLE_EQ(ArcCosh(2.0F), 1.3169578969248167);  // ln(2 + sqrt 3)
 }
 
 TEST(Helpers, SwapValues) {
