@@ -78,6 +78,17 @@ inline constexpr f32 leastSinglyTerminatedOrder = 2;
 inline constexpr EntryLimits OutputTermination = {0.01F, 1e6F, ".01", "1M"};              // ohms
 inline constexpr EntryLimits SinglyTerminatedWidth = {0.1F, 1e10F, ".1", "10000000000"};  // Hz
 
+// ---- diplexers ------------------------------------------------------------------------------------------------------
+
+inline constexpr EntryLimits DipOrder = {1, 10, "1", "10"};
+// dB. Above 3.01 dB a response has no frequency at which it is down by 3 dB.
+inline constexpr EntryLimits DipRipple = {0.0001F, 3, ".0001", "3"};
+inline constexpr EntryLimits DipZ = {1, 10000, "1", "10k"};             // ohms
+inline constexpr EntryLimits DipCrossover = {10, 1e10F, "10", "10G"};   // Hz
+inline constexpr EntryLimits DipBandEdge = {0.1F, 1e10F, ".1", "10G"};  // Hz
+// The upper edge over the lower one, at least.
+inline constexpr f32 leastDipEdges = 1.01F;
+
 }  // namespace limitsOf
 
 }  // namespace quilm
