@@ -21,7 +21,6 @@ namespace {
 
 constexpr f32 rowPitch = 225;
 constexpr f32 rowsBegin = 7560;  // a row pitch above the first row
-constexpr f32 numbersEnd = 1200;
 
 // The delay at a frequency of the sweep, linear between the points about it.
 f32 DelayAt(const ResponseSpans& sweep, f32 frequency) {
@@ -58,30 +57,18 @@ void DrawRows(const std::vector<MarkerReading>& markers, Canvas& canvas) {
   canvas.FontSize = labelSize;
   canvas.Fit.anchor = 0;
   PrintReadoutHeadings(canvas);
-  f32 y = rowsBegin;
+  std::size_t row = 0;
   for (const MarkerReading& reading : markers) {
-    y += rowPitch;
-    PrintEndingAt(canvas, numbersEnd, y, std::to_string(reading.number));
+    const f32 y = MarkerRow(++row);
+    PrintEndingAt(canvas, markerNumbersEnd, y, std::to_string(reading.number));
     PrintReadoutRow(y, TextsOf(reading), canvas);
   }
-}
-
-// The number stands on the trace, the tick goes through it and shows the very frequency.
-void DrawTick(Point at, int number, Canvas& canvas) {
-  constexpr f32 above = 160;
-  constexpr f32 below = 230;
-  constexpr Point corner{45, 60};  // of the number, left of and above the place
-  canvas.DrawWidth = 1;
-  canvas.Line(at.x, std::max(at.y - above, plotFrame.top), at.x, std::min(at.y + below, plotFrame.Bottom()),
-              colorBlack);
-  canvas.FontSize = labelSize;
-  PrintOnPatch(canvas, at.x - corner.x, at.y - corner.y, std::to_string(number));
 }
 
 void DrawTicks(const PlotSetup& setup, Canvas& canvas) {
   for (const MarkerReading& reading : setup.markers) {
     if (!reading.inSweep) continue;
-    for (const Point at : TracePoints(setup, reading.Spans(), 0)) DrawTick(at, reading.number, canvas);
+    for (const Point at : TracePoints(setup, reading.Spans(), 0)) DrawMarkerTick(at, reading.number, canvas);
   }
 }
 
@@ -114,8 +101,22 @@ std::vector<MarkerReading> ReadMarkers(const DesignRecord& record, const Respons
 Scale WithMarkerRows(Scale scale, std::size_t markers) {
   constexpr f32 margin = 60;
   if (markers == 0) return scale;
-  scale.height = rowsBegin + rowPitch * static_cast<f32>(markers + 1) + margin - scale.top;
+  scale.height = MarkerRow(markers + 1) + margin - scale.top;
   return scale;
+}
+
+f32 MarkerRow(std::size_t row) { return rowsBegin + rowPitch * static_cast<f32>(row); }
+
+// The number stands on the trace, the tick goes through it and shows the very frequency.
+void DrawMarkerTick(Point at, int number, Canvas& canvas) {
+  constexpr f32 above = 160;
+  constexpr f32 below = 230;
+  constexpr Point corner{45, 60};  // of the number, left of and above the place
+  canvas.DrawWidth = 1;
+  canvas.Line(at.x, std::max(at.y - above, plotFrame.top), at.x, std::min(at.y + below, plotFrame.Bottom()),
+              colorBlack);
+  canvas.FontSize = labelSize;
+  PrintOnPatch(canvas, at.x - corner.x, at.y - corner.y, std::to_string(number));
 }
 
 void DrawMarkers(const PlotSetup& setup, Canvas& canvas) {

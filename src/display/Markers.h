@@ -35,6 +35,13 @@ std::vector<MarkerReading> ReadMarkers(const DesignRecord& record, const Respons
 // A sheet's scale with the rows of so many markers at its foot.
 Scale WithMarkerRows(Scale scale, std::size_t markers);
 
+// The top of a row below a plot, counted from 1, and where the numbers of the markers end.
+f32 MarkerRow(std::size_t row);
+inline constexpr f32 markerNumbersEnd = 1200;
+
+// A tick through a trace at a place in the frame, with the number of the marker.
+void DrawMarkerTick(Point at, int number, Canvas& canvas);
+
 // Draws the headings and rows of the setup's markers below the plot, which a report has as a table, and, on a
 // rectangular plot, their ticks; nothing without markers. Throws NumericFault when a scale has no height or the axis no
 // width.

@@ -48,20 +48,16 @@ std::vector<Point> MarkedPoints(const PlotSetup& setup, const ResponseSpans& res
   return ChartPoints(setup, responses, i);
 }
 
-void DrawMarks(const std::vector<Point>& points, Canvas& canvas) {
-  const PenScope pen(canvas);
-  canvas.DrawMode = PenMode::ExclusiveOr;
-  canvas.DrawWidth = markWidth;
-  for (const Point at : points) canvas.PSet(at.x, at.y, markColor);
-}
-
 }  // namespace
+
+std::string TransmissionText(f32 dB) { return dB < lowestPrinted ? "<-120" : Number(dB); }
+std::string ReturnText(f32 dB) { return dB < lowestPrinted ? "< -120" : Number(dB); }
 
 std::array<std::string, readoutColumns> ReadoutTexts(const ResponseSpans& r, std::size_t i) {
   return {FormatFrequency(r.freq[i]),
-          r.trans[i] < lowestPrinted ? "<-120" : Number(r.trans[i]),
+          TransmissionText(r.trans[i]),
           Number(r.angle[i]),
-          r.returnLoss[i] < lowestPrinted ? "< -120" : Number(r.returnLoss[i]),
+          ReturnText(r.returnLoss[i]),
           FormatTime(r.delay[i]),
           r.vswr[i] > highestRatio ? ">1000" : Number(r.vswr[i]),
           Number(r.zin[i]),
@@ -72,9 +68,7 @@ std::array<std::string, readoutColumns> ReadoutTexts(const ResponseSpans& r, std
 
 void PrintReadoutHeadings(Canvas& canvas) { PrintColumns(readoutHeadingRow, headings, canvas); }
 
-void PrintReadoutRow(f32 y, std::span<const std::string, readoutColumns> texts, Canvas& canvas) {
-  PrintColumns(y, texts, canvas);
-}
+void PrintReadoutRow(f32 y, std::span<const std::string> texts, Canvas& canvas) { PrintColumns(y, texts, canvas); }
 
 void ClearReadoutStrip(Canvas& canvas) {
   const f32 right = canvas.ScaleLeft + canvas.ScaleWidth;
@@ -91,6 +85,13 @@ i16 CursorIndex(const SweepSettings& sweep, f32 x) {
   return static_cast<i16>(index);
 }
 
+void DrawReadoutMarks(std::span<const Point> places, Canvas& canvas) {
+  const PenScope pen(canvas);
+  canvas.DrawMode = PenMode::ExclusiveOr;
+  canvas.DrawWidth = markWidth;
+  for (const Point at : places) canvas.PSet(at.x, at.y, markColor);
+}
+
 void DrawReadout(const PlotSetup& setup, const ResponseSpans& responses, std::size_t index, Canvas& canvas) {
   const PenScope pen(canvas);
   ClearReadoutStrip(canvas);
@@ -100,7 +101,7 @@ void DrawReadout(const PlotSetup& setup, const ResponseSpans& responses, std::si
   PrintReadoutHeadings(canvas);
   PrintReadoutRow(readoutValueRow, ReadoutTexts(responses, index), canvas);
   try {
-    DrawMarks(MarkedPoints(setup, responses, index), canvas);
+    DrawReadoutMarks(MarkedPoints(setup, responses, index), canvas);
   } catch (const NumericFault&) {
     // The plot has told of its missing scale already; the values are worth reading all the same.
   }
