@@ -173,15 +173,12 @@ void TransientPainted(benchmark::State& state) {
   }
 }
 
-// The program in its window with Tune part open: what a user has before him who tunes a long network.
+// The program in its window with a plot beside which Tune part is opened.
 class TuningWindow {
  public:
-  explicit TuningWindow(benchmark::State& state) {
+  TuningWindow(benchmark::State& state, const std::function<void(Session&)>& showPlot) {
     const auto scale = static_cast<int>(state.range(0));
-    desktop_.Start([](Session& session) {
-      session.record = Ladder(stagesLimit);
-      session.pages.ShowPage(PageId::Plotted);
-    });
+    desktop_.Start(showPlot);
     desktop_.window.resize(static_cast<int>(state.range(1)) / scale, static_cast<int>(state.range(2)) / scale);
     while (!desktop_.window.windowHandle()->isExposed()) QApplication::processEvents();
     QApplication::processEvents();
@@ -190,7 +187,7 @@ class TuningWindow {
   // Opens the dialog, does `act` and closes it.
   void With(const std::function<void()>& act) {
     QTimer::singleShot(0, &desktop_.window, [this, &act] {
-      Type(*Find("txtPercentageValue"), "1");
+      if (QWidget* box = Find("txtPercentageValue")) Type(*box, "1");
       AwaitFrame();
       act();
       Press("cmdExit");
@@ -227,8 +224,12 @@ class TuningWindow {
   Desktop desktop_{AllPages(), folder_.path()};
 };
 
+// What a user has before him who tunes a long network.
 void TuningStep(benchmark::State& state) {
-  TuningWindow window(state);
+  TuningWindow window(state, [](Session& session) {
+    session.record = Ladder(stagesLimit);
+    session.pages.ShowPage(PageId::Plotted);
+  });
   window.With([&] {
     constexpr int untilCleared = 100;
     int steps = 0;
@@ -236,6 +237,33 @@ void TuningStep(benchmark::State& state) {
       window.Step(steps % 2 == 0 ? Qt::Key_Up : Qt::Key_Down);
       state.PauseTiming();
       if (++steps % untilCleared == 0) window.Press("cmdClear");
+      window.AwaitFrame();
+      state.ResumeTiming();
+    }
+  });
+}
+
+// The same of a diplexer: both arms of the longest pair of bands swept and drawn anew with the return of the pair.
+void DiplexerStep(benchmark::State& state) {
+  TuningWindow window(state, [](Session& session) {
+    session.record = Ladder(stagesLimit);
+    session.record.SweepMode = 1;
+    session.record.Fstart = 5e6F;
+    session.record.Fstop = 15e6F;
+    Diplexer& diplexer = session.diplexer;
+    diplexer.DipMode = 2;
+    diplexer.DipOrder = 10;
+    diplexer.DipRipple = 0.1F;
+    diplexer.DipZ = 50;
+    diplexer.DipFlower = 9.5e6F;
+    diplexer.DipFupper = 10.5e6F;
+    session.pages.ShowPage(PageId::PlotDiplexer);
+  });
+  window.With([&] {
+    int steps = 0;
+    for (auto _ : state) {
+      window.Step(++steps % 2 == 0 ? Qt::Key_Up : Qt::Key_Down);
+      state.PauseTiming();
       window.AwaitFrame();
       state.ResumeTiming();
     }
@@ -262,6 +290,7 @@ void Register(const ScreenSize& screen) {
   };
   add("RepaintUnchanged", RepaintUnchanged, {}, {});
   add("TuningStep", TuningStep, {}, {});
+  add("DiplexerStep", DiplexerStep, {}, {});
   add("PlainSweep", PlainSweep, {}, {});
   for (const i16 waveform : {squareWave, burstWave}) {
     add("TransientPainted", TransientPainted, {"waveform"}, {waveform});

@@ -92,6 +92,7 @@ SpinView::SpinView(Spin& spin, ActSink& sink, QWidget* parent)
     sink.Press([this, direction](Session& session) { Step(session, spin_, direction); });
   };
   widget_->large = spin.large;
+  widget_->room = spin.room;
   if (spin.number != nullptr) {
     widget_->onNumber = [this, &sink](int number) {
       sink.Press([this, number](Session& session) { SetNumber(session, spin_, number); });

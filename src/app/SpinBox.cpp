@@ -12,7 +12,6 @@ namespace {
 
 constexpr int arrowsWidth = 20;
 constexpr int textMargin = 5;
-constexpr int digits = 5;  // room for the number
 constexpr int pauseMilliseconds = 2000;
 constexpr int firstRepeat = 300;
 constexpr int nextRepeat = 75;
@@ -43,7 +42,7 @@ QSize SpinBox::sizeHint() const {
   QStyleOptionSpinBox option;
   Describe(option);
   const int aboveAndBelow = large ? 20 : 4;
-  const int text = number_ == nullptr ? 0 : digits * fontMetrics().horizontalAdvance(QLatin1Char('0')) + textMargin;
+  const int text = number_ == nullptr ? 0 : room * fontMetrics().horizontalAdvance(QLatin1Char('0')) + textMargin;
   return style()->sizeFromContents(QStyle::CT_SpinBox, &option,
                                    QSize(text + arrowsWidth, fontMetrics().height() + aboveAndBelow), this);
 }

@@ -23,6 +23,7 @@ class SpinBox : public QWidget {
   std::function<void(int number)> onNumber;  // typed; empty where no number stands in it
   std::function<int()> value;
   bool large = false;
+  int room = 0;  // digits
   int lowest = 0;
   int highest = 0;
 

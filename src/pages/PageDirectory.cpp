@@ -14,6 +14,9 @@
 #include "pages/design/frmNearest5.h"
 #include "pages/design/frmSeeNormalized.h"
 #include "pages/design/frmSinglyTermCheby.h"
+#include "pages/diplexer/frmDipMarkers.h"
+#include "pages/diplexer/frmPlotDiplexer.h"
+#include "pages/diplexer/frmTuneDipPart.h"
 #include "pages/edit/frmEditCircuit.h"
 #include "pages/edit/frmManualEntry.h"
 #include "pages/edit/frmManualEntryOptions.h"
@@ -110,6 +113,9 @@ PageDirectory AllPages() {
       {PageId::PhasePlot, Make<frmPhasePlot>},
       {PageId::Noise, Make<frmNoise>},
       {PageId::TransientPlot, Make<frmTransientPlot>},
+      {PageId::PlotDiplexer, Make<frmPlotDiplexer>},
+      {PageId::TuneDipPart, Make<frmTuneDipPart>},
+      {PageId::DipMarkers, Make<frmDipMarkers>},
       {PageId::EnterWidth, Make<frmEnterWidth>},
       {PageId::EnterCenterFreq, Make<frmEnterCenterFreq>},
       {PageId::EnterInput, Make<frmEnterInput>},

@@ -30,6 +30,7 @@ Strip StripOf(const Network& network, const ItemPlace& place) {
   using Of = ItemPlace::Of;
   if (place.of == Of::AnyInductor) return {{SeriesL}, 0};
   if (place.of == Of::AnyCapacitor) return {{SeriesC}, 0};
+  if (place.of == Of::StageAlone) return {{network.stage[place.stage].ElementType}, 0};
   Strip strip;
   strip.types.push_back(SeriesR);
   for (int s = 1; s <= network.Stages; ++s) strip.types.push_back(network.stage[s].ElementType);

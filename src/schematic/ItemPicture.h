@@ -18,9 +18,9 @@ struct ItemLine {
 
 // What the picture is about: a stage of the network, or one of the parts that belong to no stage.
 struct ItemPlace {
-  enum class Of { Stage, Source, Load, AnyInductor, AnyCapacitor };
+  enum class Of { Stage, StageAlone, Source, Load, AnyInductor, AnyCapacitor };
   Of of = Of::Stage;
-  i16 stage = 0;  // of a stage
+  i16 stage = 0;  // of a stage, shown among its neighbours or alone
 };
 
 // Draws it into an emptied canvas, at most three lines.

@@ -163,6 +163,7 @@ class Spin : public Control {
   std::function<void(i32)> onSet;
   bool large = false;   // what its page is there for, and so a larger mark for the mouse
   bool oneAct = false;  // its steps in a row are taken back together, like the keystrokes in a box
+  i32 room = 5;         // characters of what stands in it, so that its width is always the same
   i32 lowest = 0;       // for assistive tools, and for where the digits of a typed number end
   i32 highest = 0;
 

@@ -89,14 +89,17 @@ class Walk : public testing::Test {
 
   // The plot while a dialog stands beside it and is the page on top.
   PictureView& PlotBeside() {
-    Page& page = *desktop_.session.pages.Find(PageId::Plotted);
-    return dynamic_cast<PictureView&>(*desktop_.platform.Stage().ViewOf(page)->Find(QStringLiteral("picPlot")));
+    Page* withPlot = nullptr;
+    for (Page* page : desktop_.session.pages.OpenPages()) withPlot = page->Find("picPlot") != nullptr ? page : withPlot;
+    if (withPlot == nullptr) throw Fault("no page with a plot");
+    return dynamic_cast<PictureView&>(*desktop_.platform.Stage().ViewOf(*withPlot)->Find(QStringLiteral("picPlot")));
   }
 
   // Opens a dialog beside the plot by its button, does `act` there, ends it if that is still to be done, and returns
   // when it has closed.
   void WithTool(const char* button, const std::function<void()>& act) {
     constexpr int untilLaidOut = 50;  // milliseconds
+    const PageId home = Top().Id();
     QTimer::singleShot(0, &desktop_.window, [this, &act] {
       QTest::qWait(untilLaidOut);
       act();
@@ -104,7 +107,7 @@ class Walk : public testing::Test {
     });
     ClickOn(button);
     QApplication::processEvents();
-    EXPECT_EQ(Top().Id(), PageId::Plotted);
+    EXPECT_EQ(Top().Id(), home);
   }
 
   // The same with a page of a window of its own.
