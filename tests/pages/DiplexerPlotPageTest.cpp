@@ -1,6 +1,7 @@
 // The plot of the diplexer: its steps, its markers, the tuning of its parts.
 #include <algorithm>
 
+#include "analysis/SweepFit.h"
 #include "core/Responses.h"
 #include "core/modGeneral.h"
 #include "desk/StartUp.h"
@@ -241,6 +242,13 @@ TEST_F(DiplexerPlotPage, ASweepThatCannotBeSaysSo) {
   Spins("UpDown1", +1);
   Mouse(session, Get<PictureBox>("picPlot"), MouseAct::Down, 6500, 4000, MouseButton::Left);
   EXPECT_TRUE(Get<PictureBox>("picPlot").mark.Empty());
+}
+
+TEST_F(DiplexerPlotPage, ASweepThatRunsBackwardsSaysSo) {
+  session.record.Fstop = 1e4F;
+  Open();
+  EXPECT_EQ(session.note, SweepFault(session.sweep));
+  EXPECT_FALSE(session.note.empty());
 }
 
 TEST_F(DiplexerPlotPage, ASweepBesideTheCrossoverSaysSo) {

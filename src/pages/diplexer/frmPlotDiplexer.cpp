@@ -32,6 +32,7 @@ DesignRecord SettingsFor(const Session& session) {
 
 // What keeps the sweep from showing where the arms part.
 std::string SweepNote(const Diplexer& diplexer, const SweepSettings& sweep) {
+  if (std::string fault = SweepFault(sweep); !fault.empty()) return fault;
   const auto holds = [&sweep](f32 frequency) { return frequency > sweep.Fstart && frequency < sweep.Fstop; };
   if (diplexer.DipMode != 2) return holds(diplexer.DipCrossover) ? "" : "The sweep does not hold the crossover";
   return holds(diplexer.DipFlower) && holds(diplexer.DipFupper) ? "" : "The sweep does not hold the band";
