@@ -33,6 +33,7 @@ CommandLine ReadCommandLine(int argc, const char* const* argv, std::ostream& out
   CommandLine line;
   CLI::App app("Designs passive LC filters and shows how they behave.", "quilm");
   app.add_option("FILE", line.file, "the design to open");
+  app.add_option("--folder", line.folder, "keep preferences, last session and window place in this folder");
   app.add_flag("--has-display", line.onlyLooks, "end at once, with status 0 if a window can be opened");
   app.set_version_flag("--version", "Quilm " QUILM_VERSION);
   try {

@@ -9,6 +9,7 @@ namespace quilm {
 
 struct CommandLine {
   std::string file;           // the design to open; empty for none
+  std::string folder;         // for everything that the program keeps; empty for those of the desktop
   bool onlyLooks = false;     // for a display: the program ends when it has looked
   std::optional<int> status;  // the program ends with it at once: help or version was asked for, or a usage error told
 };

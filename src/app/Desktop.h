@@ -12,7 +12,7 @@ namespace quilm {
 
 class Desktop {
  public:
-  // Keeps its files in `folder`; an empty one stands for the user's data folder.
+  // Keeps its files in `folder`; an empty one stands for those of the user's desktop.
   explicit Desktop(PageDirectory directory, const QString& folder = {});
   ~Desktop();
   Desktop(const Desktop&) = delete;

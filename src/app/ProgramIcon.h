@@ -6,7 +6,7 @@
 namespace quilm {
 
 // The response of a lowpass with ripple and a zero, white on a blue tile, sharp at each size that desktops show.
-// quilm.svg, which an installation puts beside the entry of the program's menu, is the same drawing.
+// packaging/linux/org.quilm.Quilm.svg, which an installation puts beside the entry of the menu, is the same drawing.
 QIcon ProgramIcon();
 
 }  // namespace quilm

@@ -32,15 +32,9 @@ QString TitleOf(const std::string& title) { return title.empty() ? QStringLitera
 
 }  // namespace
 
-QString UserDataFolder() {
-  // By the variable, not by QStandardPaths: that adds the names of organisation and program in its own way.
-  const QString given = qEnvironmentVariable("XDG_DATA_HOME");
-  const QString base = given.isEmpty() ? QDir::homePath() + QStringLiteral("/.local/share") : given;
-  return QDir::cleanPath(base) + QStringLiteral("/quilm");
-}
-
-WindowPlatform::WindowPlatform(const QString& folder) : folder_(folder.isEmpty() ? UserDataFolder() : folder) {
-  QDir().mkpath(folder_);
+WindowPlatform::WindowPlatform(const QString& folder)
+    : folders_(folder.isEmpty() ? UserFolders::OfDesktop() : UserFolders::Within(folder)) {
+  PrepareFolders(folders_);
 }
 
 WindowPlatform::~WindowPlatform() = default;

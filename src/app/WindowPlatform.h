@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "app/PageStage.h"
+#include "app/UserFolders.h"
 #include "shell/Platform.h"
 
 class QFileDialog;
@@ -15,7 +16,7 @@ namespace quilm {
 
 class WindowPlatform : public Platform {
  public:
-  // Keeps its files in `folder`, which is made when missing; an empty one stands for the user's data folder.
+  // Keeps its files in `folder`, which is made when missing; an empty one stands for the folders of the user's desktop.
   explicit WindowPlatform(const QString& folder = {});
   ~WindowPlatform() override;
 
@@ -32,7 +33,8 @@ class WindowPlatform : public Platform {
   void Yield() override { stage_.RunEvents(); }
   f64 YieldInterval() const override { return 0.01; }
   void Pause(f64 seconds) override;
-  std::string ProgramFolder() override { return folder_.toStdString(); }
+  std::string ProgramFolder() override { return folders_.data.toStdString(); }
+  std::string PreferencesFolder() override { return folders_.preferences.toStdString(); }
   std::string HelpFolder() override;
   DateTime Now() override;
   void PageShown(Page& page) override { stage_.Show(page); }
@@ -44,19 +46,16 @@ class WindowPlatform : public Platform {
   void GiveFile(std::string path) { given_ = std::move(path); }
 
   // The file that keeps the window's place.
-  QString SettingsPath() const { return folder_ + QStringLiteral("/window.ini"); }
+  QString SettingsPath() const { return WindowPlaceFile(folders_); }
 
  private:
   std::optional<std::string> AskFile(QFileDialog& dialog);
   bool MayReplace(const QString& path, const std::string& title);
 
-  QString folder_;
+  UserFolders folders_;
   std::string given_;
   PageStage stage_;
   std::unique_ptr<Canvas> printer_;
 };
-
-// The user's data folder for this program.
-QString UserDataFolder();
 
 }  // namespace quilm

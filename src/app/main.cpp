@@ -38,10 +38,10 @@ int main(int argc, char** argv) {
   if (line.onlyLooks) return 0;
   QApplication::setApplicationName(QStringLiteral("Quilm"));
   QApplication::setWindowIcon(ProgramIcon());
-  QGuiApplication::setDesktopFileName(QStringLiteral("quilm"));
+  QGuiApplication::setDesktopFileName(QStringLiteral(QUILM_APPLICATION_ID));
   SetAppearance(qEnvironmentVariable("QUILM_PALETTE"));
 
-  Desktop desktop(AllPages());
+  Desktop desktop(AllPages(), QString::fromStdString(line.folder));
   const auto saved = [&desktop] { return desktop.session.history.IsSaved(desktop.session); };
   desktop.window.summary = [&] { return DesignSummary(desktop.session.record, saved()); };
   desktop.window.designName = [&] { return DesignName(desktop.session.record, saved()); };

@@ -22,8 +22,7 @@ constexpr const char* unnamedDesign = "design.QLM";
 // The configuration and session files are the program's own; a design is offered under its own name or a new one.
 std::string OfferedName(Session& session) {
   const std::string& name = session.identity.DesignFileName;
-  const bool own =
-      name == InProgramFolder(session, configurationFile) || name == InProgramFolder(session, lastSessionFile);
+  const bool own = name == PreferencesPath(session) || name == InProgramFolder(session, lastSessionFile);
   return name.empty() || own ? unnamedDesign : name;
 }
 

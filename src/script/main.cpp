@@ -85,6 +85,7 @@ int main(int argc, char** argv) {
   const CLI::Option* given =
       app.add_option("--folder", folder, "the program's folder, with its configuration (default: a temporary one)");
   app.add_option("FILE", file, "the script, - for standard input")->capture_default_str();
+  app.set_version_flag("--version", "quilm-script " QUILM_VERSION);
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& error) {

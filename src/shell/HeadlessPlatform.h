@@ -116,6 +116,7 @@ class HeadlessPlatform : public Platform {
   f64 YieldInterval() const override { return yieldInterval; }
   void Pause(f64 seconds) override { paused += seconds; }
   std::string ProgramFolder() override { return folder_; }
+  std::string PreferencesFolder() override { return folder_; }
   std::string HelpFolder() override { return folder_ + "/help"; }
   DateTime Now() override;
   void PageShown(Page& page) override;

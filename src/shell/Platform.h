@@ -61,9 +61,10 @@ class Platform {
   // Waits while the page stays visible, as the notes of the exit page do.
   virtual void Pause(f64 seconds) = 0;
 
-  // The folder that holds the configuration and session files, without a separator at its end, and the one with the
-  // installed help pages.
+  // Without a separator at their end: the folder that holds the last session and overlays, the one with the user's
+  // preferences, which may be the same, and the one with the installed help pages.
   virtual std::string ProgramFolder() = 0;
+  virtual std::string PreferencesFolder() = 0;
   virtual std::string HelpFolder() = 0;
 
   virtual DateTime Now() = 0;

@@ -24,8 +24,10 @@ std::string InProgramFolder(Session& session, const std::string& name) {
   return session.platform.ProgramFolder() + "/" + name;
 }
 
+std::string PreferencesPath(Session& session) { return session.platform.PreferencesFolder() + "/" + configurationFile; }
+
 void ReadConfig(Session& session) {
-  std::ifstream file = OpenTextFile(InProgramFolder(session, configurationFile));
+  std::ifstream file = OpenTextFile(PreferencesPath(session));
   if (file) {
     ReadConfiguration(file, session.record, session.configuration);
   } else {
@@ -36,7 +38,7 @@ void ReadConfig(Session& session) {
 void WriteConfig(Session& session) {
   const std::string text =
       FormatConfiguration(session.record, session.configuration, DateAndTime(session.platform.Now()));
-  session.identity.DesignFileName = InProgramFolder(session, configurationFile);
+  session.identity.DesignFileName = PreferencesPath(session);
   if (WriteTextFile(session.identity.DesignFileName, text)) return;
   session.platform.MessageBox(
       "The configuration file (QuilmConfiguration.CFG) was not written.\r\nThis is not a serious problem.", Buttons::Ok,

@@ -1,4 +1,4 @@
-// Keeps the user's preferences in QuilmConfiguration.CFG in the program's folder.
+// Keeps the user's preferences in QuilmConfiguration.CFG.
 #pragma once
 
 #include <string>
@@ -10,8 +10,9 @@ class Session;
 inline constexpr const char* configurationFile = "QuilmConfiguration.CFG";
 inline constexpr const char* lastSessionFile = "LASTSESSION.QLM";
 
-// The path of a file in the program's folder.
+// The path of a file in the program's folder, and that of the preferences in theirs.
 std::string InProgramFolder(Session& session, const std::string& name);
+std::string PreferencesPath(Session& session);
 
 // Sets the defaults of a new session, then takes the settings of the configuration file if there is one. A file that
 // is missing or cannot be read leaves the defaults, without a message.

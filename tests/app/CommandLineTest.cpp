@@ -32,6 +32,13 @@ TEST(CommandLine, AFileIsADesignToOpen) {
   EXPECT_EQ(read.line.file, "my lowpass.QLM");
 }
 
+TEST(CommandLine, AFolderHoldsWhatTheProgramKeeps) {
+  const Read read({"--folder", "/tmp/bench", "one.QLM"});
+  EXPECT_FALSE(read.line.status);
+  EXPECT_EQ(read.line.folder, "/tmp/bench");
+  EXPECT_EQ(read.line.file, "one.QLM");
+}
+
 TEST(CommandLine, HelpAndVersionGoToStandardOutput) {
   const Read help({"--help"});
   EXPECT_EQ(help.line.status, 0);

@@ -169,12 +169,5 @@ TEST_F(Dialogs, TheProgramFolderIsMadeWhenItIsMissing) {
   EXPECT_TRUE(QDir(InFolder("deep/quilm")).exists());
 }
 
-TEST(UserDataFolder, FollowsTheDesktopsVariable) {
-  qputenv("XDG_DATA_HOME", "/somewhere/data");
-  EXPECT_EQ(UserDataFolder(), "/somewhere/data/quilm");
-  qunsetenv("XDG_DATA_HOME");
-  EXPECT_EQ(UserDataFolder(), QDir::homePath() + "/.local/share/quilm");
-}
-
 }  // namespace
 }  // namespace quilm

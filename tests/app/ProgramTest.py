@@ -74,6 +74,8 @@ class ProgramTest(unittest.TestCase):
         self.folder = pathlib.Path(tempfile.mkdtemp(prefix="quilm-program-"))
         self.addCleanup(shutil.rmtree, self.folder)
         self.data = self.folder / "data" / "quilm"
+        self.preferences = self.folder / "config" / "quilm"
+        self.state = self.folder / "state" / "quilm"
         self.programs = []
 
     def tearDown(self):
@@ -89,7 +91,8 @@ class ProgramTest(unittest.TestCase):
 
     def environment(self, display=None):
         kept = {k: v for k, v in os.environ.items() if k not in ("DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM")}
-        kept["XDG_DATA_HOME"] = str(self.folder / "data")
+        for name, folder in (("DATA", self.data), ("CONFIG", self.preferences), ("STATE", self.state)):
+            kept[f"XDG_{name}_HOME"] = str(folder.parent)
         kept["XDG_RUNTIME_DIR"] = str(self.folder)
         if display is not None:
             kept["DISPLAY"] = display
@@ -218,12 +221,35 @@ class RunScript(ProgramTest):
         self.assertFalse((tree / "out").exists())
 
 
+class FoldersOfTheProgram(ProgramTest):
+    def closed_with(self, *words):
+        display = self.display()
+        program = self.start(display, *words, str(self.design("lowpass.QLM", "1M")))
+        wait_until(lambda: display.windows(PAGE) or program.poll() is not None, "the design's page")
+        program.terminate()
+        self.ends(program)
+
+    def test_each_kind_of_file_has_its_folder(self):
+        self.closed_with()
+        self.assertEqual([path.name for path in self.data.iterdir()], ["LASTSESSION.QLM"])
+        self.assertEqual([path.name for path in self.preferences.iterdir()], ["QuilmConfiguration.CFG"])
+        self.assertEqual([path.name for path in self.state.iterdir()], ["window.ini"])
+
+    def test_a_folder_of_its_own_holds_everything(self):
+        bench = self.folder / "bench"
+        self.closed_with("--folder", str(bench))
+        kept = {"LASTSESSION.QLM", "QuilmConfiguration.CFG", "window.ini"}
+        self.assertEqual({path.name for path in bench.iterdir()}, kept)
+        for folder in (self.data, self.preferences, self.state):
+            self.assertFalse(folder.exists())
+
+
 class EndOfTheProgram(ProgramTest):
     def test_a_message_that_stands_does_not_keep_it(self):
         """The configuration cannot be written; the message that says so waits for nobody."""
         display = self.display()
         program = self.open_design(display, self.design("lowpass.QLM", "1M"))
-        configuration = self.data / "QuilmConfiguration.CFG"
+        configuration = self.preferences / "QuilmConfiguration.CFG"
         configuration.unlink(missing_ok=True)
         configuration.mkdir()
         display.key(display.windows(PAGE)[0], "ctrl+q")
@@ -251,7 +277,7 @@ class EndOfTheProgram(ProgramTest):
         display.end()
         self.ends(program)
         self.assertIn("3.183099E-09", self.last_session())
-        self.assertTrue((self.data / "QuilmConfiguration.CFG").exists())
+        self.assertTrue((self.preferences / "QuilmConfiguration.CFG").exists())
 
 
 class TwoInstances(ProgramTest):
