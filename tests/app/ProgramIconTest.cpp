@@ -27,5 +27,15 @@ TEST(ProgramIcon, IsDrawnForEachSizeThatDesktopsShow) {
   }
 }
 
+// The document holds the places and colours that the pixels show; Debian's icon loaders read such plain SVG.
+TEST(ProgramIcon, IsAnSvgDocumentToo) {
+  const QByteArray svg = ProgramIconSvg();
+  EXPECT_TRUE(svg.startsWith("<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"64\" height=\"64\""));
+  EXPECT_TRUE(svg.contains("<rect x=\"2\" y=\"2\" width=\"60\" height=\"60\" rx=\"12\" fill=\"#1f4e8c\"/>"));
+  EXPECT_TRUE(svg.contains("d=\"M9 54L55 54M9 10L9 55\" stroke=\"#9db9dd\""));
+  EXPECT_TRUE(svg.contains("M9 22C12 16 16 16 19 20C22 24 25 24 28 19C33 11 36 34 39 52C41 40 46 34 55 41"));
+  EXPECT_TRUE(svg.endsWith("</svg>\n"));
+}
+
 }  // namespace
 }  // namespace quilm
