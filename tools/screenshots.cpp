@@ -51,6 +51,7 @@ class Walk {
     Schematic();
     Edit();
     Visit("cmdAnalysis", "analysis");
+    Studies();
     Transient();
     WriteFiles();
     Visit("cmdTabulate", "tabulated");
@@ -244,6 +245,38 @@ class Walk {
     Press("optMeshCapBandpass");
     StepUp("UpDown1", 4);
     Tool("Command14", "tee-to-pi", "cmdExit");
+  }
+
+  // From the Analysis page and back to it.
+  void Studies() {
+    if (Press("cmdModulation")) {
+      Type("txtMFstop", "5M");
+      Press("cmdPlot");
+      Save("modulation");
+      Press("cmdExitModulation");
+    }
+    if (Press("cmdPhase")) {
+      Save("phase-setup");
+      Type("txtPhaseFstart", "1k");
+      Type("txtPhaseFstop", "1M");
+      Press("cmdLinearity");
+      Save("phase-linearity");
+      Press("cmdBack");
+      Press("cmdDeviation");
+      Save("phase-deviation");
+      desktop_.platform.Stage().Perform(Undo);
+      Press("cmdExit");
+    }
+    if (Press("cmdNoise")) {
+      Save("noise");
+      Type("txtStoppingFrequency", "1.2M");
+      Press("cmdCompute");
+      Save("noise-early-end");
+      Type("txtStoppingFrequency", "10M");
+      Press("cmdCompute");
+      Save("noise-bandwidth");
+      Press("cmdExit");
+    }
   }
 
   void WriteFiles() {

@@ -10,7 +10,7 @@ namespace {
 // One pole at 1 MHz: a series inductor of 100 ohms at 1 MHz between 50 ohms and 50 ohms.
 DesignRecord OnePole() {
   DesignRecord record = Terminated();
-  AddStage(record, SeriesL, 2 * unitL, 0);
+  AddStage(record, SeriesL, 2 * lowpassL, 0);
   return record;
 }
 
@@ -114,7 +114,7 @@ TEST(NoiseBandwidth, IsWhatAdaptiveQuadratureFinds) {
   // Order 5, ripple 0.5 dB (1.7058, 1.2296, 2.5408): the peak is no flat one.
   DesignRecord chebyshev = Terminated();
   const f32 g[] = {1.7058F, 1.2296F, 2.5408F, 1.2296F, 1.7058F};
-  for (int k = 0; k < 5; ++k) AddStage(chebyshev, k % 2 == 0 ? ShuntC : SeriesL, g[k] * unitL, g[k] * unitC);
+  for (int k = 0; k < 5; ++k) AddStage(chebyshev, k % 2 == 0 ? ShuntC : SeriesL, g[k] * lowpassL, g[k] * lowpassC);
   chebyshev.Qind[1] = 200;
   chebyshev.Qcap[1] = 1000;
   cases.push_back({chebyshev, 1, Found(chebyshev, {1, 1e7F, 10000}).NoiseHigh01, 10000});
@@ -129,7 +129,7 @@ TEST(NoiseBandwidth, IsWhatAdaptiveQuadratureFinds) {
 TEST(LooksLikeLowpass, AsLongAsNothingBlocksDirectCurrent) {
   for (i16 type = SeriesL; type <= SeriesRLC; ++type) {
     DesignRecord record = Lowpass();
-    AddStage(record, type, unitL, unitC);
+    AddStage(record, type, lowpassL, lowpassC);
     const bool blocks = type == ShuntL || type == SeriesC || type == SeriesSLC || type == ShuntPLC ||
                         type == SeriesOpenStub || type == ShuntShortStub || type == SeriesReactance;
     EXPECT_EQ(LooksLikeLowpass(record), !blocks) << type;

@@ -51,6 +51,16 @@ TEST(PhaseLinearity, BeginsWithTheFirstAngle) {
   EXPECT_NEAR(found.PhaseLin[50], 72, 1e-3);
 }
 
+// A line of negative length leads, by as much as the other one lags.
+TEST(PhaseLinearity, AnAngleThatRisesIsUnwrappedUpward) {
+  DesignRecord record = DelayLine();
+  record.stage[1].TLval.degrees = -90;
+  Sweep(record, 1e5F, 2e7F, 400);
+  const PhaseLinearity found = ComputeLinearity(record);
+  EXPECT_NEAR(found.PhaseSlope, 90e-6, 1e-10);
+  EXPECT_NEAR(found.PhaseLin.back(), 1800, 3e-3);
+}
+
 TEST(PhaseLinearity, ThereIsNoLineThroughOneFrequency) {
   DesignRecord record = DelayLine();
   Sweep(record, 1e6F, 1e6F, 50);

@@ -19,8 +19,8 @@ namespace quilm {
 constexpr f32 nearlyLossless = 1e7F;
 
 // Of a Butterworth lowpass of 1 MHz between 50 ohms.
-inline constexpr f32 unitL = 7.957747e-6F;
-inline constexpr f32 unitC = 3.183099e-9F;
+inline constexpr f32 lowpassL = 7.957747e-6F;
+inline constexpr f32 lowpassC = 3.183099e-9F;
 
 inline void AddStage(DesignRecord& record, i16 type, f32 inductance, f32 capacitance) {
   Stage& stage = record.stage[++record.Stages];
@@ -40,9 +40,9 @@ inline DesignRecord Terminated() {
 // Of order 3: 1, 2, 1.
 inline DesignRecord Lowpass() {
   DesignRecord record = Terminated();
-  AddStage(record, ShuntC, 0, unitC);
-  AddStage(record, SeriesL, 2 * unitL, 0);
-  AddStage(record, ShuntC, 0, unitC);
+  AddStage(record, ShuntC, 0, lowpassC);
+  AddStage(record, SeriesL, 2 * lowpassL, 0);
+  AddStage(record, ShuntC, 0, lowpassC);
   return record;
 }
 
@@ -50,9 +50,9 @@ inline DesignRecord Lowpass() {
 inline DesignRecord Bandpass() {
   DesignRecord record = Terminated();
   record.Fcenter = 1e7F;
-  AddStage(record, ShuntPLC, unitL / 100, unitC);
-  AddStage(record, SeriesSLC, 2 * unitL, unitC / 200);
-  AddStage(record, ShuntPLC, unitL / 100, unitC);
+  AddStage(record, ShuntPLC, lowpassL / 100, lowpassC);
+  AddStage(record, SeriesSLC, 2 * lowpassL, lowpassC / 200);
+  AddStage(record, ShuntPLC, lowpassL / 100, lowpassC);
   return record;
 }
 
