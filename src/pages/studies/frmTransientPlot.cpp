@@ -118,14 +118,14 @@ void frmTransientPlot::Show(std::optional<Waves> waves) {
 }
 
 Layout frmTransientPlot::MakeLayout() {
-  const Layout side = Column(
-      {Group(fraWaveformType_, Column({Put(Option1_), Put(Option2_), Put(Option3_)})),
-       Group(fraAnalysisType_, Column({Put(Option4_), Put(Option5_), KeepPlace(Put(Option6_))})),
-       Group(fraSignal_,
-             Form({{Put(lblSquarewaveFreq_), Put(txtSquarewaveFreq_), Word("Hz", txtSquarewaveFreq_)},
-                   {KeepPlace(Put(lblCarrierFreq_)), KeepPlace(Put(txtCarrierFreq_)), Word("Hz", txtCarrierFreq_)}})),
-       Put(cmdPlot_), Put(cmdPrint_), Space(), Put(cmdExitTransient_)});
-  return Row({Fill(Put(picWaves_)), side});
+  const Layout frequencies =
+      Form({{Put(lblSquarewaveFreq_), Put(txtSquarewaveFreq_), Word("Hz", txtSquarewaveFreq_)},
+            {KeepPlace(Put(lblCarrierFreq_)), KeepPlace(Put(txtCarrierFreq_)), Word("Hz", txtCarrierFreq_)}});
+  return Row({Fill(Put(picWaves_)),
+              Column({Group(fraSignal_, frequencies),
+                      Group(fraWaveformType_, Column({Put(Option1_), Put(Option2_), Put(Option3_)})),
+                      Group(fraAnalysisType_, Column({Put(Option4_), Put(Option5_), KeepPlace(Put(Option6_))})),
+                      Grid(1, {Put(cmdPlot_), Put(cmdPrint_), Put(cmdExitTransient_)}), Space()})});
 }
 
 }  // namespace quilm
