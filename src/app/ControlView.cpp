@@ -47,6 +47,9 @@ std::unique_ptr<ControlView> MakeControlView(Control& control, ActSink& sink, QW
     case ControlKind::Text:
       return std::make_unique<EntryView>(static_cast<TextBox&>(control), sink, parent);
     case ControlKind::Label:
+      if (control.caption.size() > longestLabel) {
+        return std::make_unique<ReadingView>(static_cast<Label&>(control), parent);
+      }
       return std::make_unique<LabelView>(static_cast<Label&>(control), parent);
     case ControlKind::Frame:
       return std::make_unique<FrameView>(static_cast<Frame&>(control), parent);

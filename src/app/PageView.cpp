@@ -21,6 +21,7 @@
 #include "app/QtText.h"
 #include "app/SideStack.h"
 #include "shell/Acts.h"
+#include "shell/HelpPages.h"
 #include "shell/Page.h"
 
 namespace quilm {
@@ -38,7 +39,6 @@ std::vector<WindowKey> WindowKeys() {
           {QKeySequence::Save, "cmdSave"},
           {QKeySequence::Print, "cmdPrint"},
           {QKeySequence(Qt::CTRL | Qt::Key_Q), "cmdExit"},
-          {QKeySequence(Qt::Key_F1), "cmdHelp"},
           {QKeySequence(Qt::CTRL | Qt::Key_F), "cmdFitSweep"},
           {QKeySequence(Qt::CTRL | Qt::Key_Plus), "cmdZoomIn"},
           {QKeySequence(Qt::CTRL | Qt::Key_Equal), "cmdZoomIn"},  // the same key without Shift on many keyboards
@@ -174,6 +174,11 @@ void PageView::AddShortcuts() {
     connect(shortcut, &QShortcut::activated, this, [this, name = key.control] { PressNamed(name); });
     shortcuts_.push_back(shortcut);
   }
+  // Of every page, whether it has a button for it or not.
+  auto* help = new QShortcut(QKeySequence(Qt::Key_F1), this);
+  connect(help, &QShortcut::activated, this, [this] {
+    if (page_ != nullptr) Perform([id = page_->Id()](Session& session) { OpenHelp(session, id); });
+  });
   // A box takes these keys for itself while it has something of its own to take back.
   auto* undo = new QShortcut(UndoKeys(), this);
   connect(undo, &QShortcut::activated, this, [this] { Press(Undo); });
@@ -188,7 +193,7 @@ void PageView::AddShortcuts() {
     if (PressNamed("cmdSaveTable")) return;
     if (PictureView* picture = PictureToCopy()) emit picture->SaveRequested(0);
   });
-  shortcuts_.insert(shortcuts_.end(), {undo, redo, copy, save});
+  shortcuts_.insert(shortcuts_.end(), {help, undo, redo, copy, save});
 }
 
 bool PageView::HasTool() const { return side_ != nullptr && side_->Panel() != nullptr; }

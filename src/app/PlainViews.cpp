@@ -2,6 +2,7 @@
 
 #include <QAccessible>
 #include <QFontDatabase>
+#include <QScrollArea>
 
 #include "app/Palettes.h"
 #include "app/QtText.h"
@@ -65,6 +66,8 @@ void LabelView::ShowValues() {
     const bool wraps = HasLongLine(text);
     if (wraps) widget_->setMinimumWidth(wrappedWidth);
     widget_->setWordWrap(wraps);
+    // A window that is open already grows for a longer text by its least height alone.
+    widget_->setMinimumHeight(wraps ? widget_->heightForWidth(wrappedWidth) : 0);
   }
   if (label_.foreColor == colorShown_ && label_.backColor == groundShown_) return;
   colorShown_ = label_.foreColor;
@@ -74,6 +77,28 @@ void LabelView::ShowValues() {
   colors.setColor(QPalette::WindowText,
                   ReadableOn(colors.color(QPalette::Window), colors.color(QPalette::WindowText), label_.foreColor));
   widget_->setPalette(colors);
+}
+
+ReadingView::ReadingView(Label& label, QWidget* parent) : ControlView(label), label_(label), text_(nullptr) {
+  constexpr QSize least{560, 400};
+  auto* area = new QScrollArea(parent);
+  text_ = new QLabel(area);
+  text_->setTextFormat(Qt::PlainText);
+  text_->setWordWrap(true);
+  text_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+  text_->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  const int margin = text_->fontMetrics().averageCharWidth();
+  text_->setContentsMargins(margin, margin, margin, margin);
+  area->setWidget(text_);
+  area->setWidgetResizable(true);
+  area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  area->setMinimumSize(least);
+  SetWidget(area);
+}
+
+void ReadingView::ShowValues() {
+  const QString text = ToQt(label_.caption);
+  if (text_->text() != text) text_->setText(text);
 }
 
 FrameView::FrameView(Frame& frame, QWidget* parent) : ControlView(frame), frame_(frame), widget_(new GroupBox(parent)) {

@@ -27,6 +27,20 @@ class LabelView : public ControlView {
   Color groundShown_ = colorWhite;
 };
 
+// A label that comes with a long text: it is there to be read, and scrolled where it has no room.
+inline constexpr std::size_t longestLabel = 1000;  // characters
+class ReadingView : public ControlView {
+ public:
+  ReadingView(Label& label, QWidget* parent);
+
+ protected:
+  void ShowValues() override;
+
+ private:
+  Label& label_;
+  QLabel* text_;
+};
+
 // A group's heading with what stands under it.
 class FrameView : public ControlView {
  public:

@@ -1,8 +1,8 @@
 #include "desk/NavigationRow.h"
 
-#include "desk/HelpPages.h"
 #include "desk/modCheckEntries.h"
 #include "schematic/Icons.h"
+#include "shell/HelpPages.h"
 #include "shell/History.h"
 #include "shell/Session.h"
 
@@ -34,7 +34,7 @@ NavigationRow::NavigationRow(Page& page, Session& session, Gate gate)
   });
   cmdSpice_ = &AddAction(Sign::Write, 'W', "cmdSpice", "Write", "Write file", [this] { GoTo(PageId::WriteFiles); });
   cmdPrint_ = &AddAction(Sign::Print, 'r', "cmdPrint", "Print", "Print the responses", [this] { onPrint(); });
-  AddAction(Sign::Help, 'H', "cmdHelp", "Help", "Help :-)", [this] { OpenHelp(session_, helpFile); });
+  AddAction(Sign::Help, 'H', "cmdHelp", "Help", "Help :-)", [this] { OpenHelp(session_, page_.Id()); });
   AddAction(Sign::About, 'b', "cmdAbout", "About", "Details", [this] { session_.pages.ShowModal(PageId::About); });
   AddAction(Sign::Exit, 'x', "cmdExit", "Exit", "Exit / quit the program",
             [this] { session_.pages.ShowModal(PageId::Exit); });

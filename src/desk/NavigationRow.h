@@ -38,7 +38,6 @@ class NavigationRow {
   std::function<void()> onPrint;
   std::function<void()> onSave;
   std::function<void()> onGet;
-  std::string helpFile;  // "design.htm"
 
  private:
   struct Segment {

@@ -22,7 +22,9 @@
 #include "pages/edit/frmManualEntryOptions.h"
 #include "pages/export/frmGetSnPoptions.h"
 #include "pages/export/frmWriteFiles.h"
+#include "pages/guidance/frmEntryAssistance.h"
 #include "pages/guidance/frmHelp.h"
+#include "pages/guidance/frmHelpFamily.h"
 #include "pages/plot/frmBlank.h"
 #include "pages/plot/frmEditLimits.h"
 #include "pages/plot/frmLimits.h"
@@ -92,6 +94,8 @@ PageDirectory AllPages() {
       {PageId::AddInfo, Make<frmAddInfo>},
       {PageId::About, Make<frmAbout>},
       {PageId::Help, Make<frmHelp>},
+      {PageId::HelpFamily, Make<frmHelpFamily>},
+      {PageId::EntryAssistance, Make<frmEntryAssistance>},
       {PageId::Bailout, Make<frmBailout>},
       {PageId::Mderived, Make<frmMderived>},
       {PageId::Nearest5, Make<frmNearest5>},

@@ -4,6 +4,7 @@
 #include "core/modGeneral.h"
 #include "script/Commands.h"
 #include "shell/Acts.h"
+#include "shell/HelpPages.h"
 #include "shell/Page.h"
 
 namespace quilm {
@@ -122,6 +123,12 @@ void RedoStep(ScriptRun& run, const std::string& arguments) {
   StepInHistory(run, Redo);
 }
 
+// F1.
+void Help(ScriptRun& run, const std::string& arguments) {
+  Arguments(arguments, 0, 0, "help");
+  OpenHelp(run.session, run.Top().Id());
+}
+
 void RunAtYield(ScriptRun& run, const std::string& arguments) {
   const FirstWord split = SplitFirst(arguments);
   const auto command = ParseLine(split.rest, run.Present().line);
@@ -132,9 +139,10 @@ void RunAtYield(ScriptRun& run, const std::string& arguments) {
 }  // namespace
 
 const CommandTable& ActCommands() {
-  static const CommandTable table{{"press", Press},       {"type", TypeText},        {"spin", SpinButtons},
-                                  {"choose", ChooseLine}, {"mouse", MouseOnPicture}, {"close", ClosePage},
-                                  {"undo", UndoStep},     {"redo", RedoStep},        {"at-yield", RunAtYield}};
+  static const CommandTable table{{"press", Press},        {"type", TypeText},        {"spin", SpinButtons},
+                                  {"choose", ChooseLine},  {"mouse", MouseOnPicture}, {"close", ClosePage},
+                                  {"undo", UndoStep},      {"redo", RedoStep},        {"help", Help},
+                                  {"at-yield", RunAtYield}};
   return table;
 }
 

@@ -63,7 +63,6 @@ TEST_F(MainWindowTest, TheTitleIsTheNameOfTheDesignElseOfThePage) {
 TEST_F(MainWindowTest, StandardKeysPressWhatThePageHas) {
   QTest::keyClick(&desktop.window, Qt::Key_O, Qt::ControlModifier);
   QTest::keyClick(&desktop.window, Qt::Key_S, Qt::ControlModifier);  // no such control
-  QTest::keyClick(&desktop.window, Qt::Key_F1);                      // disabled
   EXPECT_THAT(Demo().log, ElementsAre("get"));
   QTest::keyClick(&desktop.window, Qt::Key_5, Qt::ControlModifier);
   EXPECT_EQ(desktop.session.pages.Top()->Id(), PageId::Plotted);

@@ -1,6 +1,8 @@
 // Modal pages in nested event loops, and the end of the program from inside them.
 #include <QAbstractButton>
+#include <QDesktopServices>
 #include <QElapsedTimer>
+#include <QTextBrowser>
 #include <QTimer>
 
 #include "DemoPages.h"
@@ -31,6 +33,30 @@ TEST_F(ModalPage, TheCallerGoesOnWhenThePageHasClosed) {
   EXPECT_THAT(Demo().log, Contains("asked"));
   EXPECT_EQ(desktop.session.note, "ok 25");
   EXPECT_EQ(Form(), nullptr);
+}
+
+// Stands for the desktop's browser.
+class Browser {
+ public:
+  Browser() { QDesktopServices::setUrlHandler(QStringLiteral("file"), &view_, "setSource"); }
+  ~Browser() { QDesktopServices::unsetUrlHandler(QStringLiteral("file")); }
+  Browser(const Browser&) = delete;
+  Browser& operator=(const Browser&) = delete;
+  QString Shows() const { return view_.source().fileName(); }
+
+ private:
+  QTextBrowser view_;
+};
+
+TEST_F(ModalPage, TheHelpKeyShowsThePageOnTop) {
+  const Browser browser;
+  QTest::keyClick(&desktop.window, Qt::Key_F1);
+  EXPECT_EQ(browser.Shows(), QStringLiteral("design.htm"));
+  WithForm([&] {
+    QTest::keyClick(Widget("txtValue"), Qt::Key_F1);
+    EXPECT_EQ(browser.Shows(), QStringLiteral("missing-entries.htm"));
+    ClickOn("cmdOk");
+  });
 }
 
 TEST_F(ModalPage, ItsFirstBoxHasTheFocus) {

@@ -249,11 +249,5 @@ TEST_F(AnalysisPage, WithoutPartsThereIsNothingToStudy) {
   }
 }
 
-TEST_F(AnalysisPage, ToolsOfLaterPagesAreDisabled) {
-  for (const char* name : {"cmdAssistance"}) {
-    EXPECT_FALSE(Get<Button>(name).Active()) << name;
-  }
-}
-
 }  // namespace
 }  // namespace quilm

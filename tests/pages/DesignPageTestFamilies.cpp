@@ -1,7 +1,7 @@
 // Families, topologies and order on the Design page: what is shown, what is offered, what moves.
 
+#include "desk/FamilyRules.h"
 #include "pages/DesignPageBench.h"
-#include "pages/design/FamilyRules.h"
 #include "schematic/LadderPicture.h"
 
 namespace quilm {

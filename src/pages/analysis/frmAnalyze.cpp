@@ -35,7 +35,6 @@ frmAnalyze::frmAnalyze(Session& session)
       navigation_(*this, session, [this](PageId target) { return MayGoTo(target); }),
       preview_(*this, session, DesignPreview::Of::Network, [this] { navigation_.GoTo(PageId::Plotted); }) {
   lblSweepFault_.emphasised = true;
-  navigation_.helpFile = "analysis.htm";
   navigation_.onGet = [&session] { GetDesignFor(session, PageId::Analyze); };
   navigation_.onSave = [&session] { SaveDesign(session, "Save Quilm File"); };
   BindEntries();

@@ -8,8 +8,8 @@
 #include "core/EntryLimits.h"
 #include "core/Topology.h"
 #include "core/modGeneral.h"
+#include "desk/FamilyRules.h"
 #include "network/DesignStanding.h"
-#include "pages/design/FamilyRules.h"
 #include "shell/Page.h"
 
 namespace quilm {

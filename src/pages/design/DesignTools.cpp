@@ -1,6 +1,6 @@
 #include "pages/design/DesignTools.h"
 
-#include "pages/design/FamilyRules.h"
+#include "desk/FamilyRules.h"
 #include "schematic/Icons.h"
 
 namespace quilm {

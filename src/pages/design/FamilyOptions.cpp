@@ -1,7 +1,7 @@
 #include "pages/design/FamilyOptions.h"
 
 #include "core/Identity.h"
-#include "pages/design/FamilyRules.h"
+#include "desk/FamilyRules.h"
 #include "synthesis/DesignSummary.h"
 
 namespace quilm {

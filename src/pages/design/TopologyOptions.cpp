@@ -1,7 +1,7 @@
 #include "pages/design/TopologyOptions.h"
 
 #include "core/Identity.h"
-#include "pages/design/FamilyRules.h"
+#include "desk/FamilyRules.h"
 #include "schematic/LadderPicture.h"
 #include "synthesis/DesignSummary.h"
 

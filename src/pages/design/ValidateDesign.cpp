@@ -5,9 +5,9 @@
 #include "core/DesignRecord.h"
 #include "core/EntryLimits.h"
 #include "core/Topology.h"
+#include "desk/FamilyRules.h"
 #include "network/DesignStanding.h"
 #include "pages/design/DesignControls.h"
-#include "pages/design/FamilyRules.h"
 #include "shell/Session.h"
 #include "synthesis/EntryRules.h"
 

@@ -4,6 +4,7 @@
 
 #include "core/DesignRecord.h"
 #include "core/EntryLimits.h"
+#include "desk/FamilyRules.h"
 #include "desk/Leaving.h"
 #include "desk/ResponseChange.h"
 #include "desk/modCheckEntries.h"
@@ -12,7 +13,6 @@
 #include "files/modWriteQuilmFile.h"
 #include "network/DesignStanding.h"
 #include "network/NetworkEdits.h"
-#include "pages/design/FamilyRules.h"
 #include "pages/design/ValidateDesign.h"
 #include "schematic/Icons.h"
 #include "shell/History.h"
@@ -27,7 +27,6 @@ frmDesign::frmDesign(Session& session)
       navigation_(*this, session, [this](PageId) { return MakeNetwork(); }),
       controls_(*this, session.record, [this] { MarkChanged(); }),
       preview_(*this, session, DesignPreview::Of::Entries, [this] { navigation_.GoTo(PageId::Plotted); }) {
-  navigation_.helpFile = "design.htm";
   navigation_.onGet = [&session] { GetDesignFor(session, PageId::Design); };
   // What is saved is a network, so that one is made first.
   navigation_.onSave = [this, &session] {
@@ -69,14 +68,16 @@ void frmDesign::ConnectButtons() {
   cmdManual_.onClick = [this] { EnterByHand(); };
   cmdTitle_.onClick = [this] { session_.pages.ShowModal(PageId::ChangeTitle); };
   cmdInfo_.onClick = [this] { session_.pages.ShowModal(PageId::AddInfo); };
+  cmdHelpFamily_.onClick = [this] { session_.pages.ShowModal(PageId::HelpFamily); };
   cmdAssistance_.onClick = [this] { session_.pages.ShowModal(PageId::EntryAssistance); };
-  for (Button* button : {&cmdSeeNorms_, &cmdManual_, &cmdTitle_, &cmdInfo_, &cmdAssistance_}) {
+  for (Button* button : {&cmdSeeNorms_, &cmdManual_, &cmdTitle_, &cmdInfo_, &cmdHelpFamily_, &cmdAssistance_}) {
     button->role = ButtonRole::Tool;
   }
   cmdSeeNorms_.picture = SignPicture(Sign::Normalized);
   cmdManual_.picture = SignPicture(Sign::Manual);
   cmdTitle_.picture = SignPicture(Sign::Title);
   cmdInfo_.picture = SignPicture(Sign::Info);
+  cmdHelpFamily_.picture = SignPicture(Sign::Plot);
   cmdAssistance_.picture = SignPicture(Sign::Help);
 }
 
@@ -115,6 +116,7 @@ void frmDesign::Reload() {
   cmdManual_.enabled = pages.Has(PageId::ManualEntry);
   cmdTitle_.enabled = pages.Has(PageId::ChangeTitle);
   cmdInfo_.enabled = pages.Has(PageId::AddInfo);
+  cmdHelpFamily_.enabled = pages.Has(PageId::HelpFamily);
   cmdAssistance_.enabled = pages.Has(PageId::EntryAssistance);
   CatchUp();
 }

@@ -69,7 +69,8 @@ class frmDesign : public Page {
   Button cmdManual_{*this, "cmdManual", "Restart: Manual", "Enter a network by hand"};
   Button cmdTitle_{*this, "cmdTitle", "Title", "Edit the title of the circuit"};
   Button cmdInfo_{*this, "cmdInfo", "Added info", "Edit the line of information that a design file carries"};
-  Button cmdAssistance_{*this, "cmdAssistance", "Entry assistance"};
+  Button cmdHelpFamily_{*this, "cmdHelpFamily", "Compare families", "See what each family is good for"};
+  Button cmdAssistance_{*this, "cmdAssistance", "Entry assistance", "How numbers may be entered"};
 };
 
 }  // namespace quilm

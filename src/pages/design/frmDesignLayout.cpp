@@ -13,7 +13,7 @@ Layout frmDesign::FamilyColumn() {
   DesignControls& c = controls_;
   std::vector<Layout> families;
   for (const auto& option : c.families.Options()) families.push_back(Put(*option));
-  return Column({Group("Family", Column(std::move(families))),
+  return Column({Group("Family", Column({Column(std::move(families)), Put(cmdHelpFamily_)})),
                  Group("Dimensions", Column({Put(optEnglish_), Put(optMetric_)})),
                  Form({{Put(lblLineWidth_), Number(lblLineWidthInput_, UpDown2_)}}),
                  KeepPlace(Group(c.fraCauerType, Column({Put(c.optCauerTermBest), Put(c.optCauerTermsEqual)}))),

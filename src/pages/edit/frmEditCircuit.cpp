@@ -60,7 +60,6 @@ frmEditCircuit::frmEditCircuit(Session& session)
     : Page(session, PageId::Edit, "Edit"),
       navigation_(*this, session, [this](PageId target) { return MayGoTo(target); }),
       boxes_(*this, captions, [this] { cmdAccept_.enabled = true; }) {
-  navigation_.helpFile = "editing.htm";
   navigation_.onGet = [&session] { GetDesignFor(session, PageId::Edit, PageId::Schematic); };
   navigation_.onPrint = [&session] { PrintPartsList(session); };
   navigation_.onSave = [&session] { SaveDesign(session, "Save Quilm File"); };

@@ -37,7 +37,6 @@ frmPlotted::frmPlotted(Session& session)
       runs_(session, *this, {cmdOptimize, cmdMonteCarlo, cmdEnd, cmdExtremes, picPlot},
             [this](bool shown) { ShowTools(shown); }) {
   ClearSheet(session.plot);  // nothing of the design before shows when this one cannot be drawn
-  navigation.helpFile = "plots.htm";
   navigation.onSave = [&session] { SaveDesign(session, "Save Quilm File"); };
   navigation.onGet = [&session] { GetDesignFor(session, PageId::Plotted); };
   navigation.onPrint = [&session] { PrintPlot(session); };

@@ -27,7 +27,6 @@ frmSchematic::frmSchematic(Session& session)
     : Page(session, PageId::Schematic, "Schematic"),
       view_(session.schematicView),
       navigation_(*this, session, NavigationRow::WithSoundEntries(session)) {
-  navigation_.helpFile = "schematic.htm";
   navigation_.onGet = [&session] { GetDesignFor(session, PageId::Schematic); };
   navigation_.onSave = [&session] { SaveDesign(session, "Write Quilm File"); };
   navigation_.onPrint = [&session] { PrintSchematic(session); };

@@ -3,10 +3,10 @@
 #include <filesystem>
 
 #include "core/Identity.h"
-#include "desk/HelpPages.h"
 #include "files/modReadQuilmFiles.h"
 #include "files/modWriteQuilmFile.h"
 #include "schematic/LadderPicture.h"
+#include "shell/HelpPages.h"
 #include "shell/Session.h"
 #include "shell/Version.h"
 #include "shell/modWriteConfig.h"

@@ -22,7 +22,6 @@ namespace quilm {
 frmTabulated::frmTabulated(Session& session)
     : Page(session, PageId::Tabulated, "Tabulate"),
       navigation_(*this, session, NavigationRow::WithSoundEntries(session)) {
-  navigation_.helpFile = "tabulate.htm";
   navigation_.onGet = [&session] { GetDesignFor(session, PageId::Tabulated); };
   navigation_.onSave = [&session] { SaveDesign(session, "Save Quilm File"); };
   navigation_.onPrint = [this] { PrintResponses(); };

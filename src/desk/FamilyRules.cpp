@@ -1,4 +1,4 @@
-#include "pages/design/FamilyRules.h"
+#include "desk/FamilyRules.h"
 
 #include <algorithm>
 #include <cmath>
