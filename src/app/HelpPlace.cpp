@@ -14,7 +14,7 @@ bool HoldsHelp(const QString& folder) { return QFileInfo::exists(folder + QStrin
 
 QString FindHelp(const QString& program, const QStringList& elsewhere) {
   QStringList places;
-  for (const char* place : {"../share/quilm/help", "help", "../help", "../../help", "../../../help"}) {
+  for (const char* place : {"../share/quilm/help", "help", "../help"}) {
     places << QDir::cleanPath(QDir(program).filePath(QString::fromLatin1(place)));
   }
   places << elsewhere;
@@ -25,7 +25,7 @@ QString FindHelp(const QString& program, const QStringList& elsewhere) {
 }
 
 QStringList OtherHelpPlaces() {
-  return {QStringLiteral(QUILM_DATA_DIR "/help"), QStringLiteral(QUILM_SOURCE_DIR "/help")};
+  return {QStringLiteral(QUILM_DATA_DIR "/help"), QStringLiteral(QUILM_BUILD_DIR "/help")};
 }
 
 }  // namespace quilm

@@ -7,6 +7,7 @@
 #include "core/modGeneral.h"
 #include "script/Commands.h"
 #include "script/Json.h"
+#include "script/PageSketch.h"
 #include "shell/Page.h"
 #include "shell/PdfCanvas.h"
 #include "shell/SvgCanvas.h"
@@ -70,6 +71,13 @@ void WritePicture(ScriptRun& run, const std::string& arguments) {
   WriteFile(words[0], IsPdf(words[0]) ? PdfText(picture) : SvgText(picture));
 }
 
+// The page on top as its layout has it, for manuals.
+void WriteSketch(ScriptRun& run, const std::string& arguments) {
+  const std::string path = WholeArgument(arguments, "sketch FILE.svg");
+  const Picture picture = SketchOf(run.Top());
+  WriteFile(path, IsPdf(path) ? PdfText(picture) : SvgText(picture));
+}
+
 // The whole document as a PDF, or sheet by sheet: one sheet is FILE itself; of several, sheet 2 of "plot.svg" is
 // "plot-2.svg".
 void WritePrinted(ScriptRun& run, const std::string& arguments) {
@@ -119,7 +127,7 @@ void PrintFormatted(ScriptRun& run, const std::string& arguments) {
 const CommandTable& PrintCommands() {
   static const CommandTable table{{"record", PrintRecord}, {"responses", PrintResponses}, {"page", PrintPage},
                                   {"canvas", PrintCanvas}, {"picture", WritePicture},     {"printed", WritePrinted},
-                                  {"parse", PrintParsed},  {"format", PrintFormatted}};
+                                  {"parse", PrintParsed},  {"format", PrintFormatted},    {"sketch", WriteSketch}};
   return table;
 }
 

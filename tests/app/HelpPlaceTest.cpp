@@ -26,15 +26,15 @@ TEST_F(HelpPlace, AnInstalledProgramHasItBesideIt) {
   EXPECT_EQ(FindHelp(Place("usr/bin"), {Place("elsewhere")}), Place("usr/share/quilm/help"));
 }
 
-TEST_F(HelpPlace, AProgramInItsBuildFolderHasItInTheSourceTree) {
-  Make("source/help");
+TEST_F(HelpPlace, AProgramInItsBuildFolderHasItInThatFolder) {
+  Make("source/build/dev/help");
   Make("installed");
-  EXPECT_EQ(FindHelp(Place("source/build/dev/bin"), {Place("installed")}), Place("source/help"));
+  EXPECT_EQ(FindHelp(Place("source/build/dev/bin"), {Place("installed")}), Place("source/build/dev/help"));
 }
 
-TEST_F(HelpPlace, AProgramBuiltElsewhereFindsTheTreeItWasBuiltFrom) {
-  Make("source/help");
-  EXPECT_EQ(FindHelp(Place("build/bin"), {Place("installed"), Place("source/help")}), Place("source/help"));
+TEST_F(HelpPlace, AProgramThatWasMovedFindsTheFolderItWasBuiltIn) {
+  Make("build-folder/help");
+  EXPECT_EQ(FindHelp(Place("build/bin"), {Place("installed"), Place("build-folder/help")}), Place("build-folder/help"));
 }
 
 TEST_F(HelpPlace, AFolderThatHoldsSomethingElseIsPassedOver) {
@@ -44,7 +44,7 @@ TEST_F(HelpPlace, AFolderThatHoldsSomethingElseIsPassedOver) {
 }
 
 TEST_F(HelpPlace, WithoutAnyItIsWhereItShouldBe) {
-  EXPECT_EQ(FindHelp(Place("usr/bin"), {Place("installed"), Place("source/help")}), Place("installed"));
+  EXPECT_EQ(FindHelp(Place("usr/bin"), {Place("installed"), Place("build-folder/help")}), Place("installed"));
 }
 
 }  // namespace
