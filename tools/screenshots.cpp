@@ -169,6 +169,7 @@ class Walk {
     Press("optButterworth");  // an M-derived design would ask for its zeros again
     Press("optCapInLowpass");
     Coils();
+    Diplexers();
     Tubular();
   }
 
@@ -198,6 +199,20 @@ class Walk {
       Save("toroid-none");
       Press("cmdExit");
     }
+  }
+
+  void Diplexers() {
+    if (!Press("Command5")) return;
+    Type("txtOrder", "5");
+    Press("cmdAccept");
+    Save("diplexer");
+    Modal("cmdResonate", "diplexer-resonate");
+    Press("cmdTopology");
+    Type("txtFlower", "9.5M");
+    Type("txtFupper", "10.5M");
+    Press("cmdAccept");
+    Save("diplexer-bands");
+    Press("cmdExit");
   }
 
   void Tubular() {

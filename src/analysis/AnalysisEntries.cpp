@@ -80,6 +80,13 @@ void HoldAnalysisEntries(DesignRecord& record, const Configuration& configuratio
   }
 }
 
+DesignRecord WithAnalysisEntries(const DesignRecord& record, const Configuration& configuration) {
+  DesignRecord settings = record;
+  FillMissingEntries(settings, configuration);
+  HoldAnalysisEntries(settings, configuration);
+  return settings;
+}
+
 std::string SpanText(const DesignRecord& record) {
   return "Span: " + WithUnit(FormatFrequency(record.Fstop - record.Fstart), "Hz");
 }

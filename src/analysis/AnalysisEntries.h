@@ -21,6 +21,9 @@ void FillMissingEntries(DesignRecord& record, const Configuration& configuration
 // figure, 1 ms, to be changed, while here nobody is asked and 1.2 ms makes six round intervals.
 void HoldAnalysisEntries(DesignRecord& record, const Configuration& configuration);
 
+// The record as the page would hand it to a plot, for what shows no design and leaves it alone.
+DesignRecord WithAnalysisEntries(const DesignRecord& record, const Configuration& configuration);
+
 // What one interval of a scale is worth, as the labels under the boxes say it.
 std::string SpanText(const DesignRecord& record);
 std::string FrequencyPerIntervalText(const DesignRecord& record);

@@ -23,6 +23,7 @@ struct ExportChoices {
   std::string SpiceSubFileName;
   std::string SpiceSchematicFileName;
   std::string SpiceSymbolFileName;
+  std::string DiplexerSchematicFileName;
   std::string VerifiedNetlistFileName;
 
   std::string folder;  // of the file that was chosen last of all; empty before the first

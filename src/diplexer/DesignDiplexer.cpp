@@ -62,6 +62,11 @@ f64 Chebyshev3dBFrequency(i16 order, bool odd, f32 ripple) {
   return CosH(ArcCosh(std::sqrt(fallen)) / order);
 }
 
+f32 ResonatingCapacitor(f32 L, f32 frequency) {
+  const f64 w = 2 * Pi * f64{frequency};
+  return static_cast<f32>(1 / (w * w * f64{L}));
+}
+
 void DesignDiplexer(Diplexer& diplexer) {
   if (diplexer.DipFrozen == 1) return;
   DesignPrototype(diplexer);

@@ -21,4 +21,7 @@ void DesignDiplexer(Diplexer& diplexer);
 // its value at 0, over the edge of its ripple band. Odd orders are at a crest at 0, even ones in a trough.
 f64 Chebyshev3dBFrequency(i16 order, bool odd, f32 ripple);
 
+// The capacitor (F) that resonates with L (H) at the frequency (Hz), all above 0.
+f32 ResonatingCapacitor(f32 L, f32 frequency);
+
 }  // namespace quilm

@@ -59,12 +59,12 @@ DiplexerEntered EntriesOf(const Diplexer& diplexer) {
           .exact3dB = diplexer.exact3dB};
 }
 
-void StartDiplexer(Diplexer& diplexer, const DesignRecord& record) {
+bool StartDiplexer(Diplexer& diplexer, const DesignRecord& record) {
   if (diplexer.DipOrder == 0) diplexer.DipOrder = HeldOrder(record.Order, record.OrderMax);
   if (diplexer.DipRipple == 0) diplexer.DipRipple = limitsOf::DipRipple.Held(record.Apass);
   TakeImpedance(diplexer, diplexer.DipZ == 0 ? record.Rsource[1] : diplexer.DipZ);
   if (diplexer.DipMode != 1 && diplexer.DipMode != 2) FollowDesign(diplexer, record);
-  HoldDiplexerEdges(diplexer);
+  return HoldDiplexerEdges(diplexer) && diplexer.DipMode == 2;
 }
 
 bool AcceptDiplexer(Diplexer& diplexer, const DiplexerEntered& entered, const DesignRecord& record) {

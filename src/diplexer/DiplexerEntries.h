@@ -24,7 +24,8 @@ DiplexerEntered EntriesOf(const Diplexer& diplexer);
 
 // The entries as they stand; those that nobody has set up yet come from the design, which may be no more than its
 // defaults. A diplexer of no mode yet becomes one at the cutoff or about the band of the design. The parts stay.
-void StartDiplexer(Diplexer& diplexer, const DesignRecord& record);
+// True when a band on display had its upper edge give way to the lower one.
+bool StartDiplexer(Diplexer& diplexer, const DesignRecord& record);
 
 // Takes the entries as their limits hold them; of crossover and edges those of the mode. A crossover that is not
 // positive becomes the bandwidth of the design, if there is one. True when the upper edge had to give way to the lower

@@ -15,6 +15,8 @@
 #include "pages/design/frmSeeNormalized.h"
 #include "pages/design/frmSinglyTermCheby.h"
 #include "pages/diplexer/frmDipMarkers.h"
+#include "pages/diplexer/frmDipResonate.h"
+#include "pages/diplexer/frmDiplexer.h"
 #include "pages/diplexer/frmPlotDiplexer.h"
 #include "pages/diplexer/frmTuneDipPart.h"
 #include "pages/edit/frmEditCircuit.h"
@@ -120,6 +122,8 @@ PageDirectory AllPages() {
       {PageId::PlotDiplexer, Make<frmPlotDiplexer>},
       {PageId::TuneDipPart, Make<frmTuneDipPart>},
       {PageId::DipMarkers, Make<frmDipMarkers>},
+      {PageId::Diplexer, Make<frmDiplexer>},
+      {PageId::DipResonate, Make<frmDipResonate>},
       {PageId::EnterWidth, Make<frmEnterWidth>},
       {PageId::EnterCenterFreq, Make<frmEnterCenterFreq>},
       {PageId::EnterInput, Make<frmEnterInput>},

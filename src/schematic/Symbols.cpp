@@ -53,19 +53,19 @@ StageWidths WidthsOf(i16 elementType) {
 class StageDrawing {
  public:
   StageDrawing(Canvas& canvas, const StageBox& box, Color color, RailForm form)
-      : canvas_(canvas), box_(box), color_(color), balanced_(form == RailForm::Balanced) {}
+      : canvas_(canvas), box_(box), color_(color), form_(form) {}
 
   // Parts one behind the other in the line.
   void InLine(Parts parts) const {
     DrawChain(Rail(0), parts, 0, box_.width);
-    balanced_ ? DrawChain(Rail(box_.gap), parts, 0, box_.width) : LowerRail();
+    Balanced() ? DrawChain(Rail(box_.gap), parts, 0, box_.width) : LowerRail();
   }
 
   // Branches side by side in the line, the first on the rail and the others between the rails.
   void InLineParallel(const std::vector<Parts>& branches) const {
     constexpr f32 mostSpread = 1.25F;
     constexpr f32 sharedSpread = 0.95F;  // both rails' branches share the room between them
-    if (balanced_) {
+    if (Balanced()) {
       HangBranches(branches, 0, sharedSpread);
       HangBranches(branches, box_.gap, -sharedSpread);
     } else {
@@ -77,7 +77,7 @@ class StageDrawing {
   // Parts one below the other from the line to common.
   void ToCommon(Parts parts) const {
     UpperRail();
-    LowerRail();
+    Foot();
     DrawChain(Down(Middle()), parts, 0, box_.gap);
   }
 
@@ -87,7 +87,7 @@ class StageDrawing {
     const f32 top = box_.gap * 0.13F;
     const f32 bottom = box_.gap - top;
     UpperRail();
-    LowerRail();
+    Foot();
     const Run branch = Down(Middle());
     branch.Lead(0, top);
     branch.Lead(bottom, box_.gap);
@@ -98,13 +98,13 @@ class StageDrawing {
 
   void LineInLine() const {
     LineOn(0);
-    balanced_ ? LineOn(box_.gap) : LowerRail();
+    Balanced() ? LineOn(box_.gap) : LowerRail();
   }
 
   void StubInLine(bool shorted) const {
     constexpr f32 aloneAt = 0.45F;  // of the gap away from the rail
     constexpr f32 sharedAt = 0.28F;
-    if (balanced_) {
+    if (Balanced()) {
       StubOn(0, box_.gap * sharedAt, shorted);
       StubOn(box_.gap, -box_.gap * sharedAt, shorted);
     } else {
@@ -146,12 +146,21 @@ class StageDrawing {
     f32 y;
   };
 
+  bool Balanced() const { return form_ == RailForm::Balanced; }
   f32 Middle() const { return box_.x + box_.width / 2; }
   Run Rail(f32 below) const { return {canvas_, {box_.x, box_.y + below}, Run::Way::Right, color_}; }
   Run Down(f32 at) const { return {canvas_, {at, box_.y}, Run::Way::Down, color_}; }
   void Stroke(f32 x1, f32 y1, f32 x2, f32 y2) const { canvas_.Line(x1, y1, x2, y2, color_); }
   void UpperRail() const { Rail(0).Lead(0, box_.width); }
-  void LowerRail() const { Rail(box_.gap).Lead(0, box_.width); }
+  void LowerRail() const {
+    if (form_ != RailForm::Grounded) Rail(box_.gap).Lead(0, box_.width);
+  }
+
+  // Where a branch from the upper rail ends.
+  void Foot() const {
+    LowerRail();
+    if (form_ == RailForm::Grounded) DrawGround(canvas_, Middle(), box_.y + box_.gap, 1, color_);
+  }
 
   // Below the rail for a positive spread, above it for a negative one.
   void HangBranches(const std::vector<Parts>& branches, f32 rail, f32 spread) const {
@@ -227,7 +236,7 @@ class StageDrawing {
   Canvas& canvas_;
   StageBox box_;
   Color color_;
-  bool balanced_;
+  RailForm form_;
 };
 
 }  // namespace

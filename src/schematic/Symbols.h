@@ -28,11 +28,12 @@ f32 StageWidth(i16 elementType);
 // The width that the bare symbol needs, for artwork; 0 for codes that draw nothing.
 f32 SymbolWidth(i16 elementType);
 
-// Series elements stand on the upper rail, or in a balanced network on both.
-enum class RailForm { Unbalanced, Balanced };
+// Series elements stand on the upper rail, or in a balanced network on both. A grounded network has no lower rail: what
+// goes to common ends on a ground.
+enum class RailForm { Unbalanced, Balanced, Grounded };
 
 // Draws a stage of this type in the middle of `box`, which is at least SymbolWidth wide. Codes that are no element draw
-// nothing. What stands between the rails is the same in both forms.
+// nothing. What stands between the rails is the same in all forms.
 void DrawStage(Canvas& canvas, i16 elementType, const StageBox& box, Color color, RailForm form = RailForm::Unbalanced);
 
 // The same as wide as in the schematic: from x to x + StageWidth.

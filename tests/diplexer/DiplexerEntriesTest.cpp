@@ -76,6 +76,16 @@ TEST(StartDiplexer, ABandThatReachesBelowZeroIsHeldToTheLowestEdge) {
   EXPECT_EQ(d.DipFupper, 2.5e6F);
 }
 
+TEST(StartDiplexer, ABandThatIsTooNarrowIsToldOf) {
+  DesignRecord record = Lowpass();
+  record.Width = 1e4F;
+  record.Fcenter = 10e6F;
+  Diplexer d;
+  EXPECT_TRUE(StartDiplexer(d, record));
+  EXPECT_EQ(d.DipFupper, 1.01F * d.DipFlower);
+  EXPECT_FALSE(StartDiplexer(d, record)) << "the next time it stands";
+}
+
 TEST(StartDiplexer, LimitsHoldForWhatTheDesignHas) {
   DesignRecord record = Lowpass();
   record.Order = 11;

@@ -123,6 +123,33 @@ std::string ShownBy(const json& page, const std::string& name) {
   return "no " + name;
 }
 
+TEST_F(Program, TwoPortsAreSplit) {
+  const Ended ended = Run("'" QUILM_EXAMPLES "/diplexer.qsc'");
+  ASSERT_EQ(ended.status, 0) << ended.err;
+  std::vector<json> pages;
+  for (const json& event : ended.Events()) {
+    if (event["event"] == "page") pages.push_back(event);
+  }
+  ASSERT_EQ(pages.size(), 3U);
+  EXPECT_EQ(ShownBy(pages[0], "txtCrossover"), "1M");
+  // 12.042 uH resonates with 2.1034 nF at 1 MHz.
+  EXPECT_THAT(ShownBy(pages[1], "lblResonance"), testing::StartsWith("2103.4"));
+  EXPECT_EQ(ShownBy(pages[2], "txtFlower"), "950k");
+
+  const auto out = [this](const std::string& name) { return ContentOf(folder / "out" / name); };
+  EXPECT_THAT(out("diplexer-split.svg"), testing::HasSubstr("12.042"));
+  // Of order 3 with 0.1 dB the factor of the order is 1.388995 and that of even parts 1.396436: 4.829 nF become 4.8033
+  // nF.
+  EXPECT_THAT(out("diplexer-exact.svg"), testing::HasSubstr("4803.3"));
+  EXPECT_THAT(out("diplexer-bands.svg"), testing::HasSubstr("973.947nH"));
+  EXPECT_THAT(out("diplexer-split-report.svg"), testing::HasSubstr("Crossover:  1M"));
+  for (const char* plot : {"diplexer-split-plot.svg", "diplexer-bands-plot.svg"}) {
+    EXPECT_THAT(out(plot), testing::HasSubstr("Return")) << plot;
+  }
+  EXPECT_THAT(out("diplexer-split.ASC"), testing::HasSubstr("SYMATTR InstName RH"));
+  EXPECT_THAT(out("diplexer-bands.ASC"), testing::HasSubstr("SYMATTR InstName Rbs"));
+}
+
 // By hand: tees by the star-delta rule, sections of sqrt(50 x 200 - 50^2) ohms in the line and 200 x 50 / that to
 // common at 10.7 MHz, Wheeler's formula for the coils, and lines of arcsin(2 Pi f L / Z) and arcsin(2 Pi f C Z).
 TEST_F(Program, TheFiltersAreMadeBuildable) {

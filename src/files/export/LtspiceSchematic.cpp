@@ -30,24 +30,11 @@ void WriteDirective(LtspiceSheet& sheet, const DesignRecord& record) {
 }
 
 void DrawSource(LtspiceSheet& sheet, const DesignRecord& record) {
-  sheet.Symbol("SYMBOL voltage ", {0, 64}, "R0");
-  sheet.Line("WINDOW 123 24 132 Left 0");
-  sheet.Line("SYMATTR InstName Vgen");
-  sheet.Line("SYMATTR Value AC " + SpiceFix(SpiceResistance(Amplitude(record))));
-  sheet.Wires({{{0, 0}, {48, 0}}, {{0, 80}, {0, 0}}, {{0, 160}, {0, 256}}});
-  sheet.Ground({0, 256});
+  DrawLtspiceGenerator(sheet, SpiceFix(SpiceResistance(Amplitude(record))));
   WriteDirective(sheet, record);
   sheet.Line("TEXT 0 576 Left 0  ;Schematic drawn by Quilm");
   sheet.Advance(48);
-  DrawLtspiceResistor(sheet, "SYMBOL res", {144, -16}, Stance::Along, "RS", record.Rsource[1]);
-  sheet.Wires({{{0, 0}, {48, 0}}, {{128, 0}, {176, 0}}});
-  sheet.Advance(176);
-}
-
-void DrawLoad(LtspiceSheet& sheet, const DesignRecord& record) {
-  DrawLtspiceResistor(sheet, "SYMBOL res ", {48, 64}, Stance::Upright, "RL", record.Rload[1]);
-  sheet.Wires({{{0, 0}, {64, 0}}, {{64, 0}, {64, 80}}, {{64, 256}, {64, 160}}});
-  sheet.Ground({64, 256});
+  DrawLtspiceSourceResistor(sheet, "RS", record.Rsource[1]);
 }
 
 std::string Schematic(const DesignRecord& record) {
@@ -57,7 +44,7 @@ std::string Schematic(const DesignRecord& record) {
   sheet.Line("SHEET 1 " + NumText(SheetWidthFor(record)) + " 600");
   DrawSource(sheet, record);
   for (i16 s = 1; s <= record.Stages; ++s) DrawLtspiceStage(sheet, record, s, Fq);
-  DrawLoad(sheet, record);
+  DrawLtspiceLoad(sheet, "RL", record.Rload[1]);
   return sheet.Take();
 }
 

@@ -6,16 +6,13 @@ namespace quilm {
 
 namespace {
 
-constexpr i16 mainWire = 80;
-
-std::string X(int x) { return NumText(static_cast<i16>(x)); }
-std::string Y(int y) { return NumText(static_cast<i16>(mainWire + y)); }
+std::string Printed(int x) { return NumText(static_cast<i16>(x)); }
 
 }  // namespace
 
 void LtspiceSheet::Line(std::string_view text) { text_.append(text).append("\r\n"); }
 
-std::string LtspiceSheet::At(GridPoint place) const { return X(x_ + place.x) + Y(place.y); }
+std::string LtspiceSheet::At(GridPoint place) const { return Printed(x_ + place.x) + Printed(y_ + place.y); }
 
 void LtspiceSheet::Symbol(std::string_view symbol, GridPoint place, std::string_view turn) {
   Line(std::string(symbol) + At(place) + std::string(turn));
@@ -29,6 +26,6 @@ void LtspiceSheet::Ground(GridPoint place) { Line("FLAG " + At(place) + "0"); }
 
 void LtspiceSheet::Text(GridPoint place, std::string_view rest) { Line("TEXT " + At(place) + std::string(rest)); }
 
-void LtspiceSheet::Label(i16 x, i16 number) { Line("TEXT " + X(x_ + x) + "512 Center 0 ;" + NumText(number)); }
+void LtspiceSheet::Label(i16 x, i16 number) { Line("TEXT " + Printed(x_ + x) + "512 Center 0 ;" + NumText(number)); }
 
 }  // namespace quilm

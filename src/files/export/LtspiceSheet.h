@@ -20,7 +20,7 @@ struct GridWire {
   GridPoint to;
 };
 
-// A schematic that is written line by line, and the pen that goes along its main wire.
+// A schematic that is written line by line, and the pen that goes along its main wire, at first along that at y 80.
 //
 // A number has a blank on either side, beside the blanks of the form, so that there are more than LTspice needs. The
 // lines are kept that way: files of the same design stay comparable byte by byte.
@@ -39,6 +39,11 @@ class LtspiceSheet {
   // The number of a stage in the row below the drawing, its middle at x.
   void Label(i16 x, i16 number);
 
+  // Puts the pen on a main wire at y.
+  void Begin(i16 x, i16 y) {
+    x_ = x;
+    y_ = y;
+  }
   void Advance(i16 dx) { x_ = static_cast<i16>(x_ + dx); }
   std::string Take() { return std::move(text_); }
 
@@ -47,6 +52,7 @@ class LtspiceSheet {
 
   std::string text_;
   i16 x_ = 0;
+  i16 y_ = 80;
 };
 
 }  // namespace quilm

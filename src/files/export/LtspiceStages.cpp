@@ -48,8 +48,9 @@ struct Drawing {
   const Stage& stage;
   i16 number;
   f32 Fq;
+  LtspiceWriting writing;
 
-  std::string Numbered(char letter) const { return letter + std::to_string(number); }
+  std::string Numbered(char letter) const { return letter + std::to_string(number) + std::string(writing.suffix); }
 
   void SeriesLoss() const {
     sheet.Line("SYMATTR SpiceLine Rser=" + SpiceFix(SpiceQResistor(SpiceSeriesLoss(record, Fq, stage.Lval.value))));
@@ -61,14 +62,14 @@ struct Drawing {
   void Inductor(GridPoint place, Stance stance) const {
     Place(sheet, "SYMBOL ind ", inductorForm, place, stance);
     Name(sheet, Numbered('L'));
-    Value(sheet, SpiceInductance(stage.Lval.value));
+    Value(sheet, writing.fine ? SpiceFineInductance(stage.Lval.value) : SpiceInductance(stage.Lval.value));
     SeriesLoss();
   }
 
   void Capacitor(GridPoint place, Stance stance) const {
     Place(sheet, "SYMBOL cap ", capacitorForm, place, stance);
     Name(sheet, Numbered('C'));
-    Value(sheet, SpiceCapacitance(stage.Cval.value));
+    Value(sheet, writing.fine ? SpiceFineCapacitance(stage.Cval.value) : SpiceCapacitance(stage.Cval.value));
     ParallelLoss();
   }
 
@@ -340,13 +341,40 @@ void DrawLtspiceResistor(LtspiceSheet& sheet, std::string_view symbol, GridPoint
   Value(sheet, SpiceQResistor(ohms));
 }
 
-void DrawLtspiceStage(LtspiceSheet& sheet, const DesignRecord& record, i16 s, f32 Fq) {
+void DrawLtspiceGenerator(LtspiceSheet& sheet, const std::string& amplitude) {
+  sheet.Symbol("SYMBOL voltage ", {0, 64}, "R0");
+  sheet.Line("WINDOW 123 24 132 Left 0");
+  sheet.Line("SYMATTR InstName Vgen");
+  sheet.Line("SYMATTR Value AC " + amplitude);
+  sheet.Wires({{{0, 0}, {48, 0}}, {{0, 80}, {0, 0}}, {{0, 160}, {0, 256}}});
+  sheet.Ground({0, 256});
+}
+
+void DrawLtspiceSourceResistor(LtspiceSheet& sheet, std::string_view name, f32 ohms) {
+  DrawLtspiceResistor(sheet, "SYMBOL res", {144, -16}, Along, name, ohms);
+  sheet.Wires({{{0, 0}, {48, 0}}, {{128, 0}, {176, 0}}});
+  sheet.Advance(176);
+}
+
+void DrawLtspiceLoad(LtspiceSheet& sheet, std::string_view name, f32 ohms) {
+  DrawLtspiceResistor(sheet, "SYMBOL res ", {48, 64}, Upright, name, ohms);
+  sheet.Wires({{{0, 0}, {64, 0}}, {{64, 0}, {64, 80}}, {{64, 256}, {64, 160}}});
+  sheet.Ground({64, 256});
+}
+
+void DrawLtspiceParts(LtspiceSheet& sheet, const DesignRecord& record, i16 s, f32 Fq, const LtspiceWriting& writing) {
   const Stage& stage = record.stage[s];
   const StageForm& form = FormOf(stage.ElementType);
   if (form.draw == nullptr) return;
-  form.draw({sheet, record, stage, s, Fq});
-  sheet.Label(form.label, s);
+  form.draw({sheet, record, stage, s, Fq, writing});
   sheet.Advance(form.advance);
+}
+
+void DrawLtspiceStage(LtspiceSheet& sheet, const DesignRecord& record, i16 s, f32 Fq) {
+  const StageForm& form = FormOf(record.stage[s].ElementType);
+  if (form.draw == nullptr) return;
+  DrawLtspiceParts(sheet, record, s, Fq, {});
+  sheet.Label(static_cast<i16>(form.label - form.advance), s);
 }
 
 i16 LtspiceStageWidth(i16 elementType) { return FormOf(elementType).width; }

@@ -21,6 +21,10 @@ constexpr ScaleRow capacitanceRows[] = {{1e9F, 1e9, "GF"},   {1e6F, 1e6, "Meg"},
                                         {1e-9F, 1e-9, "nF"}, {0, 1e-12, "pF"}};
 constexpr f32 smallestCapacitance = 1e-12F;
 
+constexpr ScaleRow fineCapacitanceRows[] = {{1000, 1000, "K"},   {1, 1, ""},          {0.001F, 0.001, "mF"},
+                                            {1e-6F, 1e-6, "uF"}, {1e-9F, 1e-9, "nF"}, {0, 1e-12, "pF"}};
+constexpr DecimalMask fineMask = {{8, 8, 8, 8, 8}};
+
 constexpr ScaleRow resistanceRows[] = {{1e9F, 1e9, "G"},     {1e6F, 1e6, "Meg"}, {1000, 1000, "K"},  {1, 1, "  "},
                                        {0.001F, 0.001, "m"}, {1e-6F, 1e-6, "u"}, {1e-9F, 1e-9, "n"}, {0, 1e-12, "p"}};
 constexpr DecimalMask resistanceMask = {{0, 1, 2, 3, 4}};
@@ -45,6 +49,10 @@ std::string SpiceCapacitance(f32 farads) {
   if (magnitude < smallestCapacitance) return "0  ";
   return TextByMagnitude(magnitude, capacitanceRows, partMask);
 }
+
+std::string SpiceFineInductance(f32 henries) { return TextByMagnitude(henries, inductanceRows, fineMask); }
+
+std::string SpiceFineCapacitance(f32 farads) { return TextByMagnitude(farads, fineCapacitanceRows, fineMask); }
 
 std::string SpiceResistance(f32 ohms) {
   return ohms == 0 ? "0  " : TextByMagnitude(std::fabs(ohms), resistanceRows, resistanceMask);

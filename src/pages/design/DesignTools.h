@@ -15,6 +15,7 @@ inline constexpr int nearest5Tool = 1;
 inline constexpr int specifyInductorTool = 2;
 inline constexpr int reversalTool = 3;
 inline constexpr int singlyTerminatedTool = 4;
+inline constexpr int diplexerTool = 5;
 inline constexpr int tubularTool = 6;
 inline constexpr int matchTool = 7;
 inline constexpr int windTool = 8;

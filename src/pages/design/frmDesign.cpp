@@ -88,6 +88,7 @@ void frmDesign::ConnectTools() {
   offer(nearest5Tool, PageId::Nearest5, &frmDesign::OpenOnNetwork);
   offer(specifyInductorTool, PageId::SpecifyInductor, &frmDesign::OpenOnNetwork);
   offer(singlyTerminatedTool, PageId::SinglyTermCheby, &frmDesign::OpenAnyway);
+  offer(diplexerTool, PageId::Diplexer, &frmDesign::OpenAnyway);
   offer(tubularTool, PageId::LumpedToTubular, &frmDesign::OpenOnNetwork);
   offer(windTool, PageId::WindInductor, &frmDesign::OpenAnyway);
   offer(findTool, PageId::FindInductance, &frmDesign::OpenAnyway);

@@ -22,14 +22,6 @@ namespace quilm {
 
 namespace {
 
-// The settings that the Analysis page would plot with. What it fills in and holds is the design's affair, which stays.
-DesignRecord SettingsFor(const Session& session) {
-  DesignRecord settings = session.record;
-  FillMissingEntries(settings, session.configuration);
-  HoldAnalysisEntries(settings, session.configuration);
-  return settings;
-}
-
 // What keeps the sweep from showing where the arms part.
 std::string SweepNote(const Diplexer& diplexer, const SweepSettings& sweep) {
   if (std::string fault = SweepFault(sweep); !fault.empty()) return fault;
@@ -136,7 +128,7 @@ void frmPlotDiplexer::TellOfNone(const std::string& why) {
 
 void frmPlotDiplexer::Draw() {
   const Diplexer& diplexer = session_.diplexer;
-  const DesignRecord settings = SettingsFor(session_);
+  const DesignRecord settings = WithAnalysisEntries(session_.record, session_.configuration);
   SweepDiplexer(diplexer, settings, *responses_);
   drawn_ = DiplexerSetupOf(diplexer, settings);
   drawn_->summary = DiplexerSummary(diplexer);

@@ -92,12 +92,18 @@ class Joints {
   std::vector<std::size_t> group_;
 };
 
-int OnGrid(const std::string& word) {
-  constexpr int grid = 16;
+int Whole(const std::string& word) {
   char* end = nullptr;
   const long value = std::strtol(word.c_str(), &end, 10);
-  if (word.empty() || *end != 0 || value % grid != 0) throw Fault("no place on the grid: " + word);
+  if (word.empty() || *end != 0) throw Fault("no whole number: " + word);
   return static_cast<int>(value);
+}
+
+int OnGrid(const std::string& word) {
+  constexpr int grid = 16;
+  const int value = Whole(word);
+  if (value % grid != 0) throw Fault("no place on the grid: " + word);
+  return value;
 }
 
 // The words of a line; what is left of it where the number of words is limited.
@@ -180,7 +186,7 @@ class Reader {
     attribute = words.Rest();
   }
   void TakeText(Words& words) {
-    words.NextPlace();
+    for (int i = 0; i < 2; ++i) Whole(words.Next());  // joins nothing, and may stand off the grid
     words.Next();
     words.Next();
     const std::string content = words.Rest();

@@ -25,7 +25,7 @@ struct AscSheet {
   std::map<std::string, int> pinsAt;    // by node
 };
 
-// Throws Fault for a line, a symbol, a turn or a coordinate off the grid that such a schematic does not have.
+// Throws Fault for a line, a symbol or a turn that such a schematic does not have, and for a part or wire off the grid.
 AscSheet ReadAsc(const std::string& text);
 
 // The part of a name; throws Fault when there is none.
