@@ -57,7 +57,7 @@ TEST_F(DiplexerWalk, ArrowsKeysWheelAndDigitsStepTheEntries) {
   ClickArrow("UpDown2", +1);
   EXPECT_EQ(Dip().DipCrossover, 1.01e6F);
   moved("arrow of the crossover");
-  ClickArrow("UpDown3", -1);
+  ClickArrow("UpDown3", +1);
   moved("arrow of the ripple");
 }
 

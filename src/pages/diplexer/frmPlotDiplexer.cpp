@@ -160,10 +160,10 @@ void frmPlotDiplexer::ShowReadout(f32 x, f32 y) {
   if (!drawn_ || !InReadoutFrame(x, y)) return;
   picPlot.mark.SetScale(picPlot.picture.CurrentScale());
   picPlot.mark.Clear();
-  const auto last = responses_->Frequencies().size() - 1;
-  const f64 part = (static_cast<f64>(x) - static_cast<f64>(plotFrame.left)) / static_cast<f64>(plotFrame.width);
-  DrawDiplexerReadout(*drawn_, *responses_, static_cast<std::size_t>(part * static_cast<f64>(last) + 0.5),
-                      picPlot.mark);
+  SweepSettings swept;
+  swept.NrIntervals = static_cast<f32>(responses_->Frequencies().size() - 1);
+  const auto index = static_cast<std::size_t>(CursorIndex(swept, x));
+  DrawDiplexerReadout(*drawn_, *responses_, index, picPlot.mark);
 }
 
 Layout frmPlotDiplexer::MakeLayout() {
