@@ -169,5 +169,21 @@ TEST(LadderPicture, HoldsItsStagesSideBySide) {
   }
 }
 
+// Each branch to common has a ground of its own, and there is no rail along it.
+TEST(Symbols, AGroundedStageHasNoLowerRail) {
+  for (const i16 type : {SeriesL, ShuntC, SeriesC, ShuntL, SeriesSLC, ShuntPLC, SeriesPLC, ShuntSLC}) {
+    constexpr f32 width = 960;
+    Picture picture;
+    DrawStage(picture, type, StageBox{x0, y0, width, railGap}, colorBlack, RailForm::Grounded);
+    EXPECT_TRUE(Has(picture, {x0, y0}) && Has(picture, {x0 + width, y0})) << type;
+    EXPECT_FALSE(Has(picture, {x0, y0 + railGap})) << type;
+    const bool shunt = type == ShuntL || type == ShuntC || type == ShuntPLC || type == ShuntSLC;
+    EXPECT_EQ(ReachesCommon(picture), shunt) << type;
+    const auto points = PointsOf(picture);
+    const bool below = std::any_of(points.begin(), points.end(), [](Point p) { return p.y > y0 + railGap + 50; });
+    EXPECT_EQ(below, shunt) << type;
+  }
+}
+
 }  // namespace
 }  // namespace quilm

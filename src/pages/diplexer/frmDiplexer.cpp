@@ -27,8 +27,8 @@ bool HasParts(const Diplexer& diplexer) {
 
 frmDiplexer::frmDiplexer(Session& session) : Page(session, PageId::Diplexer, "Diplexer") {
   BindEntries();
-  fraEntries_.Hold({&lblMode_, &cmdTopology_, &lblCrossover_, &txtCrossover_, &lblFlower_, &txtFlower_, &lblFupper_,
-                    &txtFupper_, &lblOrder_, &txtOrder_, &lblRipple_, &txtRipple_, &lblTermination_, &txtTermination_});
+  fraEntries_.Hold({&lblMode_, &lblCrossover_, &txtCrossover_, &lblFlower_, &txtFlower_, &lblFupper_, &txtFupper_,
+                    &lblOrder_, &txtOrder_, &lblRipple_, &txtRipple_, &lblTermination_, &txtTermination_});
   fraCorrection_.Hold({&optPartFactor_, &optExact3dB_});
   optPartFactor_.onClick = [this] { ChooseCorrection(false); };
   optExact3dB_.onClick = [this] { ChooseCorrection(true); };
@@ -61,7 +61,7 @@ void frmDiplexer::Load() {
   if (!HasParts(session_.diplexer)) DesignDiplexer(session_.diplexer);
   ShowEntries();
   Draw(reset ? upperEdgeReset : "");
-  SetFocus(session_.diplexer.DipMode == 2 ? txtFlower_ : txtCrossover_);
+  SetFocus(txtOrder_);
 }
 
 void frmDiplexer::Accept() {
@@ -104,16 +104,17 @@ void frmDiplexer::Return() {
   session_.pages.UnloadPage(Id());
 }
 
+// Crossover or lower edge, of which one shows, and the upper edge, whose place is kept: nothing below them moves.
 Layout frmDiplexer::MakeLayout() {
-  const Layout form = Form({{Put(lblCrossover_), KeepPlace(Put(txtCrossover_))},
-                            {Put(lblFlower_), KeepPlace(Put(txtFlower_))},
-                            {Put(lblFupper_), KeepPlace(Put(txtFupper_))},
-                            {Put(lblOrder_), Put(txtOrder_)},
+  const Layout form = Form({{Put(lblOrder_), Put(txtOrder_)},
                             {Put(lblRipple_), Put(txtRipple_)},
-                            {Put(lblTermination_), Put(txtTermination_)}});
-  const Layout entering =
-      Column({Group(fraEntries_, Column({Row({Put(lblMode_), Space(), Put(cmdTopology_)}), form})),
-              Group(fraCorrection_, Row({Put(optPartFactor_), Put(optExact3dB_)})), Put(cmdAccept_), Space()});
+                            {Put(lblTermination_), Put(txtTermination_)},
+                            {Put(lblCrossover_), Put(txtCrossover_)},
+                            {Put(lblFlower_), Put(txtFlower_)},
+                            {KeepPlace(Put(lblFupper_)), KeepPlace(Put(txtFupper_))}});
+  const Layout entering = Column({Group(fraEntries_, Column({Put(lblMode_), form})),
+                                  Group(fraCorrection_, Row({Put(optPartFactor_), Put(optExact3dB_)})),
+                                  Grid(2, {Put(cmdTopology_), Put(cmdAccept_)}), Space()});
   return Column(
       {Fill(Row({entering, Fill(Put(picDiplexer_))})), Row({Put(cmdPlot_), Put(cmdPrint_), Put(cmdSpiceSchematic_),
                                                             KeepPlace(Put(cmdResonate_)), Space(), Put(cmdExit_)})});
