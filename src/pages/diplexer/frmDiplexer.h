@@ -10,7 +10,6 @@ class frmDiplexer : public Page {
  public:
   explicit frmDiplexer(Session& session);
   void Load() override;
-  void Reload() override { ShowEntries(); }
   void CloseBox() override { Return(); }
   PageId Home() const override { return PageId::Design; }
   Layout MakeLayout() override;
