@@ -33,7 +33,7 @@ struct Plane {
 };
 
 void DrawFrameAndScales(const Plane& plane, Canvas& canvas) {
-  DrawHorizontalGrid(intervalsUpward, canvas);
+  DrawLevelLines(intervalsUpward, canvas);
   DrawScale(plane.scale, intervalsUpward, ScaleSide::Left, canvas);
   PrintScaleTitle("Degrees:", colorBlack, ScaleSide::Left, canvas);
   DrawVerticalGrid(plane.axis, plane.plot.NrXints, canvas);

@@ -31,7 +31,7 @@ void DrawModulation(const ModulationPlot& plot, Canvas& canvas) {
   const HorizontalAxis axis(AxisSettings{ModSweepMode != 1, plot.entries.ModFstart, plot.entries.ModFstop});
   const ValueScale scale{0, plot.entries.ModBottom};
   BeginPlot(plotScale, canvas);
-  DrawHorizontalGrid(ModYints, canvas);
+  DrawLevelLines(ModYints, canvas);
   DrawScale(scale, ModYints, ScaleSide::Left, canvas);
   PrintScaleTitle("Response, dB", curveColor, ScaleSide::Left, canvas);
   PrintScaleTitle("Carrier " + Trimmed(FormatFrequency(plot.ModCarrier)) + "Hz", colorBlack, ScaleSide::Right, canvas);

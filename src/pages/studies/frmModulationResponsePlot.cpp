@@ -11,6 +11,7 @@ namespace quilm {
 
 frmModulationResponsePlot::frmModulationResponsePlot(Session& session)
     : StudyPage(session, PageId::ModulationPlot, "Modulation Response") {
+  lblHeading_.emphasised = true;
   ModulationEntries& entered = session.studies.modulation;
   const auto empty = [this] { Empty(); };
   entries.Bind({.box = txtCarrierFreq_,
@@ -70,13 +71,12 @@ void frmModulationResponsePlot::Draw() {
 
 Layout frmModulationResponsePlot::MakeLayout() {
   const Layout frequencies =
-      Group("Signal",
-            Column({Form({{Put(lblCarrierFreq_), Put(txtCarrierFreq_), Word("Hz", txtCarrierFreq_)}}), Put(lblSweep_),
-                    Form({{Put(lblMFstart_), Put(txtMFstart_), Word("Hz", txtMFstart_)},
-                          {Put(lblMFstop_), Put(txtMFstop_), Word("Hz", txtMFstop_)}})}));
-  const Layout scale = Group("Scale", Form({{Put(lblMdBbottom_), Put(txtMdBbottom_), Word("dB", txtMdBbottom_)}}));
-  return Row({Fill(Put(picPlot_)), Column({frequencies, scale, Group(fraResponse_, Row({Put(Option1_), Put(Option2_)})),
-                                           Grid(1, {Put(cmdPlot_), Put(cmdExitModulation_)}), Space()})});
+      Group("Signal", Column({Form({{Put(lblCarrierFreq_), Put(txtCarrierFreq_)}}), Put(lblSweep_),
+                              Form({{Put(lblMFstart_), Put(txtMFstart_)}, {Put(lblMFstop_), Put(txtMFstop_)}})}));
+  const Layout scale = Group("Scale", Form({{Put(lblMdBbottom_), Put(txtMdBbottom_)}}));
+  return Row({Fill(Put(picPlot_)),
+              Column({Put(lblHeading_), frequencies, scale, Group(fraResponse_, Row({Put(Option1_), Put(Option2_)})),
+                      Grid(1, {Put(cmdPlot_), Put(cmdExitModulation_)}), Space()})});
 }
 
 }  // namespace quilm

@@ -18,6 +18,7 @@ class frmModulationResponsePlot : public StudyPage {
 
   f32 ModCarrier_ = 0;  // Hz, from the design at each load
 
+  Label lblHeading_{*this, "lblHeading", "Modulation Response"};
   Label lblCarrierFreq_{*this, "lblCarrierFreq", "Carrier, Hz:"};
   TextBox txtCarrierFreq_{*this, "txtCarrierFreq", "Carrier, Hz"};
   // The blanks are part of the caption.

@@ -98,12 +98,10 @@ void frmNoise::MarkEarlyEnd(bool early) {
 }
 
 Layout frmNoise::MakeLayout() {
-  const Layout sweep =
-      Group("Sweep",
-            Column({Form({{Put(lblStartingFrequency_), Put(txtStartingFrequency_), Word("Hz", txtStartingFrequency_)},
-                          {Put(lblStoppingFrequency_), Put(txtStoppingFrequency_), Word("Hz", txtStoppingFrequency_)},
-                          {Put(lblNrIntervals_), Put(txtNrIntervals_)}}),
-                    KeepPlace(Put(lblBandpass_)), Put(cmdCompute_)}));
+  const Layout sweep = Group("Sweep", Column({Form({{Put(lblStartingFrequency_), Put(txtStartingFrequency_)},
+                                                    {Put(lblStoppingFrequency_), Put(txtStoppingFrequency_)},
+                                                    {Put(lblNrIntervals_), Put(txtNrIntervals_)}}),
+                                              KeepPlace(Put(lblBandpass_)), Put(cmdCompute_)}));
   const Layout results = Group(
       "Results", Column({Row({Put(lblNoiseBandwidth_), Word("Hz", lblNoiseBandwidth_), Space()}),
                          Form({{Put(lblLow01_), KeepPlace(Put(lblNoiseLow01_)), Word("Hz", lblNoiseLow01_)},
@@ -113,7 +111,7 @@ Layout frmNoise::MakeLayout() {
                                {Put(lblHigh01_), KeepPlace(Put(lblNoiseHigh01_)), Word("Hz", lblNoiseHigh01_)}})}));
   const Layout advice = Column({KeepPlace(Put(lblAdvice1_)), KeepPlace(Put(lblAdvice2_)), KeepPlace(Put(lblAdvice3_)),
                                 KeepPlace(Put(lblAdvice4_))});
-  return Row({Column({Put(lblHeading_), sweep, results, advice, Space(), Row({Put(cmdExit_), Space()})}), Space()});
+  return Column({Put(lblHeading_), Row({sweep, results, Space()}), advice, Space(), Row({Space(), Put(cmdExit_)})});
 }
 
 }  // namespace quilm

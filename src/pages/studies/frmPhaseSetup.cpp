@@ -52,8 +52,8 @@ void frmPhaseSetup::Show(i16 PhasePlotType) {
 }
 
 Layout frmPhaseSetup::MakeLayout() {
-  const Layout sweep = Group("Sweep", Form({{Put(lblPhaseFstart_), Put(txtPhaseFstart_), Word("Hz", txtPhaseFstart_)},
-                                            {Put(lblPhaseFstop_), Put(txtPhaseFstop_), Word("Hz", txtPhaseFstop_)},
+  const Layout sweep = Group("Sweep", Form({{Put(lblPhaseFstart_), Put(txtPhaseFstart_)},
+                                            {Put(lblPhaseFstop_), Put(txtPhaseFstop_)},
                                             {Put(lblPhaseNrInts_), Put(txtPhaseNrInts_)}}));
   return Row(
       {Column({Put(lblHeading_), sweep, Grid(1, {Put(cmdLinearity_), Put(cmdDeviation_), Put(cmdExit_)}), Space()}),
