@@ -21,7 +21,7 @@ constexpr i16 intervalsAlong = 11;
 constexpr f32 intervalsUp = 10;
 constexpr f32 zeroLine = 4000;
 constexpr f32 headingInset = 940;  // to the left edge of the frame
-constexpr f32 headingGap = 500;
+constexpr f32 headingGap = 900;
 constexpr f32 namesEnd = 11840;
 constexpr Color normalColor = colorBlue;
 constexpr Color equalizedColor = colorRed;
@@ -69,7 +69,7 @@ LineStyle StyleOfEqualized(const WaveEntries& signal) {
   return ShowsNormal(signal) ? LineStyle::DashOnPaper : LineStyle::Solid;
 }
 
-// The names of two waves, each behind a piece of its line.
+// The names of two waves, on paper each behind a piece of its line.
 void PrintNames(const WaveEntries& signal, Canvas& canvas) {
   constexpr f32 sample = 290;
   constexpr f32 gap = 80;
@@ -80,7 +80,9 @@ void PrintNames(const WaveEntries& signal, Canvas& canvas) {
     PrintScaleTitle(name, color, ScaleSide::Right, canvas, inset);
     inset += WidthOfTitle(name, canvas) + gap;
     canvas.DrawStyle = style;
+    canvas.ShowOn = Medium::Paper;
     canvas.Line(namesEnd - inset - sample, row, namesEnd - inset, row, color);
+    canvas.ShowOn = Medium::Everywhere;
     inset += sample + 3 * gap;
   };
   print("Equalized", equalizedColor, StyleOfEqualized(signal));
