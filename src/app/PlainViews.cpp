@@ -80,7 +80,7 @@ void LabelView::ShowValues() {
 }
 
 ReadingView::ReadingView(Label& label, QWidget* parent) : ControlView(label), label_(label), text_(nullptr) {
-  constexpr QSize least{560, 400};
+  constexpr QSize least{640, 540};
   auto* area = new QScrollArea(parent);
   text_ = new QLabel(area);
   text_->setTextFormat(Qt::PlainText);

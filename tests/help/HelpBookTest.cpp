@@ -82,11 +82,11 @@ bool HasInRow(const std::string& text, const std::string& words) {
   return false;
 }
 
-// A caption without its colon, a number in square brackets and the part that is in hand ("Tune C1"); a spoken name
-// without its unit.
+// A caption without its colon and the number behind it, a number in square brackets and the part that is in hand ("Tune
+// C1"); a spoken name without its unit.
 std::string Bare(const std::string& caption) {
   std::string bare = std::regex_replace(caption, std::regex("\\[\\d.*\\]"), "");
-  bare = std::regex_replace(bare, std::regex(":\\s*$"), "");
+  bare = std::regex_replace(bare, std::regex(":\\s*\\d*\\s*$"), "");
   bare = std::regex_replace(bare, std::regex(" [LCR]\\d+$"), "");
   bare = Plain(std::regex_replace(bare, std::regex("<"), "&lt;"));
   while (!bare.empty() && (bare.back() == ' ' || bare.back() == ':')) bare.pop_back();
