@@ -11,7 +11,7 @@ struct UserFolders {
   QString preferences;  // QuilmConfiguration.CFG
   QString state;        // the window's place
 
-  // The folders of the XDG base directory specification, version 0.8, each with the program's name in it. A variable
+  // The XDG base directories as freedesktop.org lays them down, each with the program's name in it. A variable
   // that is empty or holds a relative path counts as not set.
   static UserFolders OfDesktop();
 
