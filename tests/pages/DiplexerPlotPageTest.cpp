@@ -205,6 +205,7 @@ TEST_F(DiplexerPlotPage, TheDesignIsNeverTouched) {
   const DesignRecord record = session.record;
   const auto responses = std::make_unique<Responses>(session.responses);
   Open();
+  EXPECT_FALSE(Curve(colorBlue).empty());
   Spins("UpDown1", +1);
   Spins("UpDown2", +1);
   Press("cmd5Caps");
@@ -272,6 +273,33 @@ TEST_F(DiplexerPlotPage, TheMouseReadsTheCurves) {
   Mouse(session, plot, MouseAct::Down, 6500, 4000, MouseButton::Right);
   EXPECT_TRUE(plot.mark.Empty());
   for (const f32 x : {2001.0F, 10999.0F}) Mouse(session, plot, MouseAct::Down, x, 4000, MouseButton::Left);
+}
+
+// The entries there are those that the plot has stepped.
+TEST_F(DiplexerPlotPage, DesignLeadsBackToTheEntries) {
+  Spins("UpDown1", +1);
+  Spins("UpDown2", +1);
+  Press("cmdExit");
+  EXPECT_EQ(Top().Id(), PageId::Diplexer);
+  EXPECT_EQ(session.pages.Find(PageId::PlotDiplexer), nullptr);
+  EXPECT_EQ(Get<TextBox>("txtOrder").text, "4");
+  EXPECT_EQ(Trimmed(Get<TextBox>("txtCrossover").text), "1.01M");
+  Press("cmdPlot");
+  EXPECT_EQ(Top().Id(), PageId::PlotDiplexer);
+  PressCloseBox(session, Top());
+  EXPECT_EQ(Top().Id(), PageId::Diplexer);
+}
+
+// Tuned parts survive the way there and back, and an accept designs anew.
+TEST_F(DiplexerPlotPage, TunedPartsStayOnTheWayOverTheEntries) {
+  const f32 designed = Dip().DipLowElem[1];
+  WithPart([&] { Spins("UpDown1", +1); });
+  Press("cmdExit");
+  Press("cmdPlot");
+  EXPECT_FLOAT_EQ(Dip().DipLowElem[1], designed * 1.01F);
+  Press("cmdExit");
+  Press("cmdAccept");
+  EXPECT_FLOAT_EQ(Dip().DipLowElem[1], designed);
 }
 
 TEST_F(DiplexerPlotPage, ReturnLeadsToTheDesignPage) {
