@@ -6,6 +6,7 @@
 #include "core/DesignRecord.h"
 #include "core/modGeneral.h"
 #include "diplexer/DiplexerArms.h"
+#include "display/DiplexerDrawing.h"
 #include "display/Markers.h"
 #include "display/PlotCurve.h"
 #include "display/PlotFrame.h"
@@ -34,8 +35,8 @@ std::vector<CurveFace> FacesOf(const DiplexerSetup& setup) {
   constexpr Color returnColor = 0x008000;
   const auto [one, other] = ArmsOf(setup.DipMode);
   std::vector<CurveFace> faces = {
-      {colorBlue, LineStyle::Solid, ArmName(one), &DiplexerResponses::DipArm1Trans, &DiplexerFigures::arm1Trans},
-      {colorRed, LineStyle::DashOnPaper, ArmName(other), &DiplexerResponses::DipArm2Trans,
+      {firstArmColor, LineStyle::Solid, ArmName(one), &DiplexerResponses::DipArm1Trans, &DiplexerFigures::arm1Trans},
+      {secondArmColor, LineStyle::DashOnPaper, ArmName(other), &DiplexerResponses::DipArm2Trans,
        &DiplexerFigures::arm2Trans}};
   if (setup.showsReturn) {
     faces.push_back(
