@@ -242,7 +242,7 @@ Size Sketch::Measure(const Layout& node) const {
     }
     case Kind::Within:
       if (node.control->kind == ControlKind::Option) return {cardWidth, cardHeight};
-      return {std::max(Measure(node.items.front()).width, boxWidth / 2) + spinWidth, controlHeight};
+      return {std::max(Measure(node.items.front()).width, boxWidth / 2) + spinWidth + 2 * margin, controlHeight};
     case Kind::Word:
       return TextSize(node.title);
     case Kind::SidePlace:
