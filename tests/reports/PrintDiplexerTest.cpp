@@ -79,9 +79,10 @@ TEST(PrintDiplexer, TheArmsAreShownDownToSixtyDecibels) {
   ASSERT_EQ(traces.size(), 2U);
   EXPECT_EQ(traces[0].pen.color, colorBlue);
   EXPECT_EQ(traces[1].pen.color, colorRed);
-  const f32 top = traces[0].points.front().y;       // the lowpass passes at the start
-  const f32 atCrossover = traces[0].points[100].y;  // the middle of the sweep
-  EXPECT_NEAR(traces[1].points[100].y, atCrossover, 1);
+  const f32 top = traces[0].points.front().y;  // the lowpass passes at the start
+  // The middle of the sweep; a trace begins twice at its first point.
+  const f32 atCrossover = traces[0].points[101].y;
+  EXPECT_NEAR(traces[1].points[101].y, atCrossover, 1);
   // 0.1526 times 4 times 13.9 cubed is 64 dB at a tenth of the crossover: on the lower edge of the frame.
   const f32 bottom = traces[1].points.front().y;
   EXPECT_EQ(bottom, traces[0].points.back().y);

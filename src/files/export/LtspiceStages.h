@@ -28,7 +28,7 @@ void DrawLtspiceLoad(LtspiceSheet& sheet, std::string_view name, f32 ohms);
 // How the parts of a stage are written.
 struct LtspiceWriting {
   std::string_view suffix;  // behind the letter and number of their names
-  bool fine = false;        // values of seven digits
+  bool fine = false;        // values of nine digits
 };
 
 // The parts of stage s as DrawLtspiceStage draws them, without its number below.

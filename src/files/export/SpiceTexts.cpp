@@ -1,7 +1,10 @@
 #include "files/export/SpiceTexts.h"
 
 #include <algorithm>
+#include <array>
+#include <charconv>
 #include <cmath>
+#include <span>
 
 #include "analysis/Ladder.h"
 #include "core/DesignRecord.h"
@@ -23,7 +26,6 @@ constexpr f32 smallestCapacitance = 1e-12F;
 
 constexpr ScaleRow fineCapacitanceRows[] = {{1000, 1000, "K"},   {1, 1, ""},          {0.001F, 0.001, "mF"},
                                             {1e-6F, 1e-6, "uF"}, {1e-9F, 1e-9, "nF"}, {0, 1e-12, "pF"}};
-constexpr DecimalMask fineMask = {{8, 8, 8, 8, 8}};
 
 constexpr ScaleRow resistanceRows[] = {{1e9F, 1e9, "G"},     {1e6F, 1e6, "Meg"}, {1000, 1000, "K"},  {1, 1, "  "},
                                        {0.001F, 0.001, "m"}, {1e-6F, 1e-6, "u"}, {1e-9F, 1e-9, "n"}, {0, 1e-12, "p"}};
@@ -36,6 +38,17 @@ constexpr DecimalMask lossMask = {{2, 2, 3, 4, 5}};
 constexpr ScaleRow frequencyRows[] = {
     {1e9F, 1e9, "G "}, {1e6F, 1e6, "M "}, {1000, 1000, "K "}, {1, 1, "Hz"}, {0, 0.001, "mH"}};
 constexpr DecimalMask frequencyMask = {{2, 2, 3, 4, 5}};
+
+// As many as tell every value of 32 bits apart.
+std::string NineDigits(f32 value, std::span<const ScaleRow> rows) {
+  constexpr int digits = 9;
+  const ScaleRow& row = RowOf(value, rows);
+  std::array<char, 32> text;
+  const f64 scaled = static_cast<f64>(value) / row.divisor;
+  const auto end =
+      std::to_chars(text.data(), text.data() + text.size(), scaled, std::chars_format::general, digits).ptr;
+  return std::string(text.data(), end) + row.unit;
+}
 
 }  // namespace
 
@@ -50,9 +63,9 @@ std::string SpiceCapacitance(f32 farads) {
   return TextByMagnitude(magnitude, capacitanceRows, partMask);
 }
 
-std::string SpiceFineInductance(f32 henries) { return TextByMagnitude(henries, inductanceRows, fineMask); }
+std::string SpiceFineInductance(f32 henries) { return NineDigits(henries, inductanceRows); }
 
-std::string SpiceFineCapacitance(f32 farads) { return TextByMagnitude(farads, fineCapacitanceRows, fineMask); }
+std::string SpiceFineCapacitance(f32 farads) { return NineDigits(farads, fineCapacitanceRows); }
 
 std::string SpiceResistance(f32 ohms) {
   return ohms == 0 ? "0  " : TextByMagnitude(std::fabs(ohms), resistanceRows, resistanceMask);

@@ -15,8 +15,8 @@ namespace quilm {
 std::string SpiceInductance(f32 henries);
 // Farads: "47pF"; empty for 0, and "0  " below 1 pF. From 1 F up the unit is "F", which simulators take for femto.
 std::string SpiceCapacitance(f32 farads);
-// The same in seven digits and for any value above 0, for resonators of narrow bands: their response tells values apart
-// that agree in six digits.
+// The same in nine digits and for any value above 0, for resonators of narrow bands: on the flank of a notch values
+// tell that agree in six digits.
 std::string SpiceFineInductance(f32 henries);
 std::string SpiceFineCapacitance(f32 farads);
 // Ohms, and plain numbers: "50  ", "1.2Meg"; "0  " for 0.
