@@ -184,8 +184,8 @@ TEST_F(DiplexerPages, PartsThatWereTunedAreDrawnAsTheyStand) {
 TEST_F(DiplexerPages, TheBandPairFirstHasNoCrossoverYet) {
   MakeLowpass();
   Press("cmdDesign");
-  session.record.Fcenter = 10e6F;
-  session.record.Topology = "C";
+  Press("optShuntInGeoSymm");
+  Enter("txtCenterFrequency", "10M");
   Press("Command5");
   EXPECT_EQ(Dip().DipMode, 2);
   EXPECT_EQ(Dip().DipCrossover, 0);
