@@ -725,6 +725,9 @@ BUGS = [
         "signal_.AnalysisType = Option4_.Value() ? 'N' : 'E';",
         "signal_.AnalysisType = 'N';",
         "the envelope forgets that the delay was equalized",
+        ("test-pages",),
+    ),
+    Bug(
         "src/diplexer/DiplexerSweep.cpp",
         "const std::complex<f64> sum = (z1 + z2)",
         "const std::complex<f64> sum = (z1 - z2)",
