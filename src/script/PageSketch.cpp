@@ -51,6 +51,12 @@ struct Box {
   f32 height = 0;
 };
 
+// Of a grid; the last one may not be full.
+std::size_t RowsOf(const Layout& grid) {
+  const auto columns = static_cast<std::size_t>(grid.columns);
+  return (grid.items.size() + columns - 1) / columns;
+}
+
 class Sketch {
  public:
   explicit Sketch(Picture& canvas) : canvas_(canvas) {
@@ -196,8 +202,7 @@ Size Sketch::MeasureGrid(const Layout& node) const {
     cell = {std::max(cell.width, one.width), std::max(cell.height, one.height)};
   }
   const auto columns = static_cast<f32>(node.columns);
-  const auto rows = static_cast<f32>((node.items.size() + static_cast<std::size_t>(node.columns) - 1) /
-                                     static_cast<std::size_t>(node.columns));
+  const auto rows = static_cast<f32>(RowsOf(node));
   return {columns * (cell.width + gap) - gap, rows * (cell.height + gap) - gap};
 }
 
@@ -276,12 +281,13 @@ void Sketch::DrawAlong(const Layout& node, const Box& box, bool across) {
 void Sketch::DrawGrid(const Layout& node, const Box& box) {
   const Size all = MeasureGrid(node);
   const auto columns = static_cast<std::size_t>(node.columns);
-  const std::size_t rows = (node.items.size() + columns - 1) / columns;
+  const std::size_t rows = RowsOf(node);
   const f32 width = (std::max(box.width, all.width) + gap) / static_cast<f32>(columns);
   const f32 height = (all.height + gap) / static_cast<f32>(rows);
   for (std::size_t i = 0; i < node.items.size(); ++i) {
-    const Box cell{box.x + width * static_cast<f32>(i % columns), box.y + height * static_cast<f32>(i / columns),
-                   width - gap, height - gap};
+    const std::size_t row = i / columns;
+    const Box cell{box.x + width * static_cast<f32>(i % columns), box.y + height * static_cast<f32>(row), width - gap,
+                   height - gap};
     Draw(node.items[i], cell);
   }
 }

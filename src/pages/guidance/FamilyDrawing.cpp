@@ -48,7 +48,8 @@ void PrintNames(const Comparison& all, Canvas& canvas) {
     if (!all.families[i].responses) continue;
     canvas.ForeColor = familyColors[i];
     const f32 x = plotFrame.left + plotFrame.width * static_cast<f32>(place % namesInRow) / namesInRow;
-    canvas.PrintAt(x, namesRow + namesStep * static_cast<f32>(place / namesInRow), NameOf(all.families[i], all.design));
+    const int row = place / namesInRow;
+    canvas.PrintAt(x, namesRow + namesStep * static_cast<f32>(row), NameOf(all.families[i], all.design));
     ++place;
   }
 }

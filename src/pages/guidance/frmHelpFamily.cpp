@@ -29,7 +29,12 @@ std::string NotDrawn(const Comparison& all) {
     }
   }
   std::string text;
-  for (const auto& [reason, names] : namesOf) text += (text.empty() ? " Not drawn: " : "; ") + names + ": " + reason;
+  for (const auto& [reason, names] : namesOf) {
+    text += text.empty() ? " Not drawn: " : "; ";
+    text += names;
+    text += ": ";
+    text += reason;
+  }
   return text.empty() ? text : text + ".";
 }
 
