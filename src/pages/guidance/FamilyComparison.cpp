@@ -16,6 +16,7 @@
 #include "network/DesignStanding.h"
 #include "synthesis/DesignSummary.h"
 #include "synthesis/TryDesign.h"
+#include "synthesis/modCauer.h"
 #include "synthesis/modMderived.h"
 
 namespace quilm {
@@ -32,6 +33,25 @@ constexpr f32 usualDepth = 50;        // dB
 constexpr f32 usualZero = 1.25F;      // over the cutoff: half sections with m = 0.6
 constexpr f32 pointsAcross = 900;     // more than the plot has pixels
 constexpr f32 gridIntervals = 6;      // suits the steps of the delay scale
+
+// The edge of the stopband over that of the passband with which a Cauer design of odd order comes to no more than the
+// ripple that is wanted, dB: such a design has its ripple as a result.
+f32 StopbandForRipple(DesignRecord design, f32 ripple) {
+  constexpr f32 nearest = 0.002F;
+  constexpr f32 growth = 1.1F;
+  constexpr f32 farthest = 20;
+  design.Order = std::max(design.Order, limitsOf::CauerOrder.lowest);
+  for (f32 beyond = nearest; beyond < farthest; beyond *= growth) {
+    DesignRecord tried = design;
+    tried.Fstopband = StopbandEdge(tried.Topology, tried.Width, 1 + beyond);
+    try {
+      if (TryCauer(tried) && tried.Apass <= ripple) return 1 + beyond;
+    } catch (const Fault&) {
+      // This one has no figures; a wider one may.
+    }
+  }
+  return usualStopband;
+}
 
 // Fills in what is missing and keeps an account of it.
 class Completion {
@@ -74,13 +94,15 @@ class Completion {
     const bool even = IsEvenOrder(design_);
     design_.CauerType = !even ? "A" : design_.CauerType == "C" ? "C" : "B";
     if (!even) design_.CauerTop = 0;
-    const f32 normal = StopbandEdge(design_.Topology, design_.Width, usualStopband);
-    const bool beyond = IsHighpass(design_.Topology) ? design_.Fstopband > 0 && design_.Fstopband < design_.Width
-                                                     : design_.Fstopband > design_.Width;
-    if (!even && !beyond) Choose(design_.Fstopband, normal, "stopband " + Hertz(normal));
     if (!(std::fabs(design_.Astop) >= limitsOf::Astop.lowest)) {
       Choose(design_.Astop, usualDepth, "depth " + Decibels(usualDepth));
     }
+    const bool beyond = IsHighpass(design_.Topology) ? design_.Fstopband > 0 && design_.Fstopband < design_.Width
+                                                     : design_.Fstopband > design_.Width;
+    if (even || beyond) return;
+    const f32 edge =
+        StopbandEdge(design_.Topology, design_.Width, RoundedTo(StopbandForRipple(design_, design_.Apass), 3));
+    Choose(design_.Fstopband, edge, "stopband " + Hertz(edge));
   }
 
   // Those of an M-derived design that has none yet, or had them for another band.
@@ -177,6 +199,8 @@ Comparison ExampleOf(i16 place, const Configuration& configuration) {
   constexpr f32 lossless = limitsOf::Q.highest;
   Comparison example;
   DesignRecord& design = example.design;
+  design.Width = usualWidth;
+  design.Fstopband = usualStopband * usualWidth;
   Completion(design).Fill();
   design.Qind[1] = design.Qcap[1] = lossless;
   SetSweep(design, configuration);

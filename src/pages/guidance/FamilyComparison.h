@@ -30,7 +30,8 @@ struct Comparison {
 Comparison ExampleOf(i16 place, const Configuration& configuration);
 
 // All families with the entries of a design: its topology, order, band, terminations, ripple, stopband and Q, as far as
-// they are there. The sweep fits the band, logarithmic for a lowpass or highpass. The top of the delay scale holds all
+// they are there; where a Cauer design of odd order has no stopband yet, one with which it comes to the ripple of the
+// others. The sweep fits the band, logarithmic for a lowpass or highpass. The top of the delay scale holds all
 // delays in the passbands. Neither the design nor its responses change, and nothing is a fault.
 Comparison CompareFamilies(const DesignRecord& present, const Configuration& configuration);
 
