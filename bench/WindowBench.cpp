@@ -162,11 +162,12 @@ void RepaintUnchanged(benchmark::State& state) {
   for (auto _ : state) plot.view.repaint();
 }
 
-// Both waves of a signal of the type given, from the entries to the pixels.
+// A signal of the type given from the entries to the pixels: both waves of a squarewave, the one of a burst.
 void TransientPainted(benchmark::State& state) {
   Plot plot(state);
   const DesignRecord lowpass = WideLowpass();
-  const WaveEntries signal{static_cast<i16>(state.range(3)), 'B', squareFreq, carrierFreq};
+  const auto waveform = static_cast<i16>(state.range(3));
+  const WaveEntries signal{waveform, waveform == squareWave ? 'B' : 'N', squareFreq, carrierFreq};
   for (auto _ : state) {
     PlotWaves(ComputeWaves(lowpass, signal), 1, {}, plot.picture);
     plot.Show();

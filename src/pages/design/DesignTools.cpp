@@ -35,8 +35,7 @@ constexpr ToolRow tools[] = {
 DesignTools::DesignTools(Page& page) {
   int number = 0;
   for (const ToolRow& row : tools) {
-    auto button = std::make_unique<Button>(page, "Command" + std::to_string(++number), row.caption,
-                                           std::string(row.purpose) + " (not in this version yet)");
+    auto button = std::make_unique<Button>(page, "Command" + std::to_string(++number), row.caption, row.purpose);
     button->role = ButtonRole::Tool;
     button->picture = SignPicture(row.sign);
     button->enabled = false;
@@ -47,7 +46,6 @@ DesignTools::DesignTools(Page& page) {
 void DesignTools::Offer(int number, std::function<void()> onClick) {
   Button& button = Tool(number);
   button.enabled = true;
-  button.toolTip = tools[number - 1].purpose;
   button.onClick = std::move(onClick);
 }
 

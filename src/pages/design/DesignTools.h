@@ -30,7 +30,7 @@ class DesignTools {
  public:
   explicit DesignTools(Page& page);
 
-  // Makes tool `number` (1..14) usable; the others say that they are not in this version yet.
+  // Makes tool `number` (1..14) usable. The others stay off: their pages are not in the directory.
   void Offer(int number, std::function<void()> onClick);
 
   // Shows the tools that some topologies offer only. They stand last, so that their place is no hole.
