@@ -266,7 +266,16 @@ void PageView::FocusFirst() {
   }
 }
 
-QWidget* PageView::Find(const QString& name) const { return findChild<QWidget*>(name); }
+QWidget* PageView::Find(const QString& name) const {
+  const auto viewAround = [](const QWidget* widget) {
+    while (widget != nullptr && dynamic_cast<const PageView*>(widget) == nullptr) widget = widget->parentWidget();
+    return widget;
+  };
+  for (QWidget* widget : findChildren<QWidget*>(name)) {
+    if (viewAround(widget) == this) return widget;
+  }
+  return nullptr;
+}
 
 void PageView::Perform(const std::function<void(Session&)>& act) {
   if (page_ != nullptr) host_.Perform(act);

@@ -47,7 +47,8 @@ class PageView : public QWidget, public ActSink {
   // The focus for a page that asks for none.
   void FocusFirst();
 
-  // The widget of a control by its name, for tests and screenshots; nullptr when there is none.
+  // The widget of a control by its name, for tests and screenshots; nullptr when there is none. A tool that stands
+  // beside the page has controls of its own, which may bear the same names.
   QWidget* Find(const QString& name) const;
 
   // Presses a control by its name if the page has it and the user could. False when not.

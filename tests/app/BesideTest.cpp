@@ -45,6 +45,18 @@ TEST_F(Beside, TheToolStandsInTheWindowBesideThePicture) {
   EXPECT_EQ(desktop.window.size(), before);
 }
 
+TEST_F(Beside, ControlsOfOneNameAreToldApart) {
+  WithTool([&] {
+    for (const char* name : {"cmdHere", "cmdGet", "cmdAsk"}) {
+      Panel()->findChild<QWidget*>("cmdEnd")->setObjectName(name);
+      EXPECT_FALSE(Panel()->isAncestorOf(OfPage(name))) << name;
+      EXPECT_TRUE(Panel()->isAncestorOf(Widget(name))) << name;
+      Widget(name)->setObjectName("cmdEnd");
+    }
+    ClickOn("cmdOk");
+  });
+}
+
 TEST_F(Beside, ThePageIsInertButForItsPicture) {
   WithTool([&] {
     for (const char* name : {"cmdGet", "cmdAsk", "txtWidth", "lstLines", "optOne"}) {
