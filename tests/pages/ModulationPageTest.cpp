@@ -50,7 +50,7 @@ TEST_F(ModulationPage, PlotsTheMeanOfBothSidebands) {
   EXPECT_TRUE(platform.messages.empty());
   const std::vector<Point> points = Points(colorBlue);
   ASSERT_EQ(points.size(), 2002U);  // a line of no length at the first one
-  for (const std::size_t i : {0, 1000, 1900, 2000}) {
+  for (const std::size_t i : {0U, 1000U, 1900U, 2000U}) {
     const f64 f = 1e4 * std::pow(90.0, static_cast<f64>(i) / 2000);
     const f64 decibels = 20 * std::log10((Ratio(1e6 - f) + Ratio(1e6 + f)) / 2);
     const Point at = points[i + 1];
