@@ -281,7 +281,7 @@ BUGS = [
         "src/shell/Entry.cpp",
         "  if (shown == Echo()) return binding_.field;\n",
         "",
-        "a box that is read twice rounds its field to the digits that it shows",
+        "a box puts back a field that has changed by less than it shows",
         ("test-shell",),
     ),
     Bug(

@@ -77,6 +77,18 @@ TEST_F(Entries, ABoxThatShowsItsFieldLeavesItAlone) {
   EXPECT_EQ(field, 1234580.0F);
 }
 
+// A tool has moved the field by less than six digits tell since the box was filled.
+TEST_F(Entries, AFieldThatChangedBelowWhatItsBoxShowsIsNotPutBack) {
+  Entry& entry = Bind({.box = page.txtValue, .field = field, .format = FormatFrequency});
+  field = 1234567.0F;
+  entry.Fill();
+  field = 1234568.0F;
+  ASSERT_EQ(Text(), "1.23457M");
+  EXPECT_TRUE(entry.Agrees());
+  entry.Take();
+  EXPECT_EQ(field, 1234568.0F);
+}
+
 // The same text is the same value, however it came into the box.
 TEST_F(Entries, WhatThePageFilledInMeansTheSameWhenItIsTypedAgain) {
   Entry& entry = Bind({.box = page.txtValue, .field = field, .format = FormatFrequency});
