@@ -162,6 +162,8 @@ class Walk {
     Press("optConstantK");
     Press("optCapInLowpass");
     Modal("cmdSeeNorms", "normalized");
+    Modal("cmdHelpFamily", "family-guide");
+    Modal("cmdAssistance", "entry-assistance");
     Tool("Command1", "nearest-5", "cmdExit");
     Tool("Command4", "singly-terminated", "cmdIgnore");
     Tool("Command11", "end-sections", "cmdIgnore");
@@ -212,6 +214,25 @@ class Walk {
     Type("txtFupper", "10.5M");
     Press("cmdAccept");
     Save("diplexer-bands");
+    DiplexerPlot();
+    Press("cmdExit");
+  }
+
+  void DiplexerPlot() {
+    Press("cmdPlot");
+    Save("diplexer-plot");
+    Beside("cmdTunePart", [this] {
+      StepUp("UpDown2", 3);
+      Save("diplexer-tune");
+      Press("cmdExit");
+    });
+    Beside("cmdMarkers", [this] {
+      Type("Text0", "9.6M");
+      Type("Text1", "10M");
+      Save("diplexer-markers");
+      Press("cmdShow");
+    });
+    Save("diplexer-marked");
     Press("cmdExit");
   }
 
