@@ -8,9 +8,7 @@
 #include <set>
 
 #include "core/EntryLimits.h"
-#include "desk/StartUp.h"
-#include "pages/PageBench.h"
-#include "pages/PageDirectory.h"
+#include "pages/PageOverLowpass.h"
 #include "shell/HelpPages.h"
 
 namespace quilm {
@@ -209,12 +207,6 @@ INSTANTIATE_TEST_SUITE_P(
                     LimitRow{"tune-band.htm", "Stepsize", limitsOf::TuneStep},
                     LimitRow{"tune-ripple.htm", "Stepsize", limitsOf::TuneStep}));
 
-std::vector<PageId> AllIds() {
-  std::vector<PageId> ids;
-  for (const auto& entry : AllPages()) ids.push_back(entry.first);
-  return ids;
-}
-
 // The labels that stand before boxes.
 void AddFormLabels(const Layout& layout, std::vector<const Control*>& labels) {
   if (layout.kind == Layout::Kind::Form) {
@@ -246,33 +238,13 @@ std::string NameOf(const Control& control) {
   }
 }
 
-std::string TestName(const testing::TestParamInfo<PageId>& info) { return std::string(FormName(info.param)); }
-
-// Over a lowpass as the tests of the structure have it.
-class HelpOfPage : public PageBench, public testing::WithParamInterface<PageId> {
+class HelpOfPage : public PageOverLowpass {
  protected:
-  HelpOfPage() : PageBench(AllPages()) {
-    StartProgram(session);
-    DesignRecord& record = session.record;
-    record.Family = familyButterworth;
-    record.Topology.assign(1, 'A');
-    record.Order = 3;
-    record.Width = 1e6F;
-    record.Rsource[1] = record.Rload[1] = 50;
-    record.Rratio = 1;
-    record.Stages = 3;
-    record.stage[1].ElementType = record.stage[3].ElementType = ShuntC;
-    record.stage[1].Cval.value = record.stage[3].Cval.value = 3.1831e-9F;
-    record.stage[2].ElementType = SeriesL;
-    record.stage[2].Lval.value = 1.5915e-5F;
-    session.pages.ShowPage(GetParam());
-    page = session.pages.Find(GetParam());
-    if (page == nullptr) throw Fault("the page did not stay open");
+  HelpOfPage() {
     html = WithoutContents(Read(folder / HelpFile(GetParam())));
     text = Plain(html);
   }
 
-  Page* page = nullptr;
   std::string html;
   std::string text;
 };
@@ -306,7 +278,7 @@ TEST_P(HelpOfPage, OpensByItsKey) {
   EXPECT_EQ(fs::path(platform.opened.back()).filename(), HelpFile(GetParam()));
 }
 
-INSTANTIATE_TEST_SUITE_P(AllPages, HelpOfPage, testing::ValuesIn(AllIds()), TestName);
+INSTANTIATE_TEST_SUITE_P(AllPages, HelpOfPage, testing::ValuesIn(AllIds()), NameOfPage);
 
 // A name must stand there as it is: words within words are none.
 TEST(NamesInTheHelp, AreWordsOfTheirOwn) {

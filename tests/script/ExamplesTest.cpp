@@ -138,8 +138,7 @@ TEST_F(Program, TwoPortsAreSplit) {
 
   const auto out = [this](const std::string& name) { return ContentOf(folder / "out" / name); };
   EXPECT_THAT(out("diplexer-split.svg"), testing::HasSubstr("12.042"));
-  // Of order 3 with 0.1 dB the factor of the order is 1.388995 and that of even parts 1.396436: 4.829 nF become 4.8033
-  // nF.
+  // At order 3 and 0.1 dB the shunt capacitor of 4.829 nF is stretched by 1.388995 in place of 1.396436: 4.8033 nF.
   EXPECT_THAT(out("diplexer-exact.svg"), testing::HasSubstr("4803.3"));
   EXPECT_THAT(out("diplexer-bands.svg"), testing::HasSubstr("973.947nH"));
   EXPECT_THAT(out("diplexer-split-report.svg"), testing::HasSubstr("Crossover:  1M"));
