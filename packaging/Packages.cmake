@@ -50,8 +50,8 @@ set(CPACK_COMPONENTS_ALL "")
 debian_package(quilm-script electronics script)
 if(QUILM_APP)
   debian_package(quilm electronics window)
-  # The help opens in the user's browser.
-  set(CPACK_DEBIAN_QUILM_PACKAGE_RECOMMENDS xdg-utils)
+  # The help opens in the user's browser; drawings are laid out for the widths of these fonts.
+  set(CPACK_DEBIAN_QUILM_PACKAGE_RECOMMENDS "fonts-liberation, xdg-utils")
   set(CPACK_DEBIAN_QUILM_PACKAGE_SUGGESTS quilm-script)
 endif()
 include(CPack)
