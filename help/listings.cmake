@@ -16,7 +16,7 @@ function(command_table result)
   string(REGEX REPLACE "\n  +" "  " text "${text}")
   string(REGEX REPLACE "\n([^ \n]+( [^ \n]+)*)  +([^\n]*)" "\n<tr><th><code>\\1</code><td>\\3" text "${text}")
   string(REGEX REPLACE "  +" " " text "${text}")
-  set(${result} "<table>${text}\n</table>" PARENT_SCOPE)
+  set(${result} "<table class=\"commands\">${text}\n</table>" PARENT_SCOPE)
 endfunction()
 
 # A list of the pages, and a table of each one's controls.

@@ -156,6 +156,51 @@ TEST_F(Program, FailsAsTheHelpSays) {
   EXPECT_EQ(ended.err, PartOfScripting("<pre class=\"json\">\n{\"event\":\"error\""));
 }
 
+// One of each event. A table of more than a sheet beeps and asks.
+constexpr const char* eventful = R"(
+press cmdDesignNew
+type txtBandwidth 1M
+press cmdPlot
+help
+press cmdTabulate
+answer yes
+printer ok
+press cmdPrint
+file cancel
+press cmdGet
+press cmdPlot
+page
+canvas
+record Order stages
+responses 0
+parse 1k
+format value 2
+press cmdExit
+press cmdExit
+)";
+
+TEST_F(Program, PrintsTheEventsOfTheHelpWithTheirKeys) {
+  const std::string section = Between(Read(helpFolder / "scripting.htm"), "<h2>What it prints", "</table>");
+  std::map<std::string, std::string> rows;
+  for (const std::string& row : AllOf(section, "<tr>([^]*?)(?=\n<tr>|\n</table>|$)")) {
+    for (const std::string& name : AllOf(row.substr(0, row.find("<td>")), "<code>([^<]*)<")) rows[name] = row;
+  }
+  const Ended ended = Run("", eventful);
+  EXPECT_EQ(ended.status, 0) << ended.err;
+  Texts seen;
+  for (const json& event : ended.Events()) {
+    seen.insert(event["event"]);
+    for (const auto& [key, value] : event.items()) {
+      if (key == "event") continue;
+      EXPECT_NE(rows[event["event"]].find("<code>" + key + "</code>"), std::string::npos)
+          << event["event"] << ": " << key;
+    }
+  }
+  Texts told;
+  for (const auto& [name, row] : rows) told.insert(name);
+  EXPECT_EQ(told, seen);
+}
+
 TEST(Reference, TheHelpNamesTheAreasOfPictures) {
   const Texts named =
       SetOf(AllOf(Between(Read(helpFolder / "scripting.htm"), "id=\"areas\"", "<h2"), "<code>([^<]*)<"));
