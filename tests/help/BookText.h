@@ -33,13 +33,17 @@ inline std::string WithoutContents(const std::string& page) {
   return from == std::string::npos ? std::string() : page.substr(from);
 }
 
-// What a reader sees, in small letters, with one blank between words.
-inline std::string Plain(const std::string& html) {
+// A blank for each tag.
+inline std::string WithoutTags(const std::string& html) {
   std::string text = std::regex_replace(html, std::regex("<[^>]*>"), " ");
   text = std::regex_replace(text, std::regex("&lt;"), "<");
   text = std::regex_replace(text, std::regex("&gt;"), ">");
-  text = std::regex_replace(text, std::regex("&amp;"), "&");
-  text = std::regex_replace(text, std::regex("\\s+"), " ");
+  return std::regex_replace(text, std::regex("&amp;"), "&");
+}
+
+// What a reader sees, in small letters, with one blank between words.
+inline std::string Plain(const std::string& html) {
+  std::string text = std::regex_replace(WithoutTags(html), std::regex("\\s+"), " ");
   std::ranges::transform(text, text.begin(), [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
   return text;
 }
