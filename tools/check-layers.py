@@ -3,7 +3,8 @@
 A folder includes what stands before it in ORDER; folders of one set are neighbours that do not know each other
 (docs/architecture.md). Pages never include a page of another area, nor another page of their own: the page directory
 alone knows them all. Only src/app includes Qt, and nothing includes the front ends. What is a page, or belongs to pages,
-stands in src/pages and nowhere else.
+stands in src/pages and nowhere else. Nothing uses what is private to Qt, which the next release may change: neither its
+headers nor its libraries.
 """
 
 import pathlib
@@ -26,8 +27,11 @@ ORDER = [
     {"pages"},
     {"app", "script"},
 ]
+FOLDERS = ["src", "tests", "tools", "bench", "fuzz", "cmake", "packaging", "help"]
+SOURCES = (".h", ".cpp")
 RANK = {folder: rank for rank, folders in enumerate(ORDER) for folder in folders}
 INCLUDE = re.compile(r'^\s*#\s*include\s+([<"])([^>"]+)[>"]', re.MULTILINE)
+PRIVATE_LIBRARY = re.compile(r"\bQt6::\w+Private\b")
 PAGE_DIRECTORY = "src/pages/PageDirectory.cpp"
 
 
@@ -69,6 +73,16 @@ def fault(path, included):
     return None
 
 
+def is_private(included):
+    return "private" in pathlib.PurePath(included).parts[:-1] or included.endswith("_p.h")
+
+
+def private_faults_of(path, text):
+    """What a source outside src/, or a build file, takes of Qt's own."""
+    taken = [included for _, included in INCLUDE.findall(text) if is_private(included)]
+    return [f"{path}: {name} is private to Qt" for name in taken + PRIVATE_LIBRARY.findall(text)]
+
+
 def faults_of(path, text):
     """All faults of one file, whose text is given."""
     folder = path.parts[1]
@@ -78,7 +92,9 @@ def faults_of(path, text):
     if is_page(path.stem) and folder != "pages":
         faults.append(f"{path}: a page outside src/pages")
     for bracket, included in INCLUDE.findall(text):
-        if bracket == "<":
+        if is_private(included):
+            faults.append(f"{path}: includes {included}: private to Qt")
+        elif bracket == "<":
             if included.startswith("Q") and folder != "app":
                 faults.append(f"{path}: includes <{included}>: only src/app includes Qt")
         elif why := fault(path, included):
@@ -86,11 +102,19 @@ def faults_of(path, text):
     return faults
 
 
+def checked():
+    """The sources and build files of all folders that have any."""
+    for folder in FOLDERS:
+        for path in sorted(pathlib.Path(folder).rglob("*")):
+            if path.suffix in SOURCES or path.suffix == ".cmake" or path.name == "CMakeLists.txt":
+                yield path
+
+
 def main():
     faults = []
-    for path in sorted(pathlib.Path("src").rglob("*")):
-        if path.suffix in (".h", ".cpp"):
-            faults += faults_of(path, path.read_text(encoding="utf-8"))
+    for path in checked():
+        layered = path.parts[0] == "src" and path.suffix in SOURCES
+        faults += (faults_of if layered else private_faults_of)(path, path.read_text(encoding="utf-8"))
     for line in faults:
         print(line, file=sys.stderr)
     return 1 if faults else 0

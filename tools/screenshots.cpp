@@ -578,12 +578,12 @@ int RunAllDensities(const QString& program, const QString& folder) {
 }  // namespace
 
 int main(int argc, char** argv) {
+  if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+  const QApplication app(argc, argv);  // takes the toolkit's options out
   if (argc != 2) {
     std::fputs("usage: quilm-screenshots DIR\n", stderr);
     return 2;
   }
-  if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-  const QApplication app(argc, argv);
   const QString folder = QString::fromLocal8Bit(argv[1]);
   const QString percent = qEnvironmentVariable("QUILM_SCREENSHOT_PERCENT");
   if (percent.isEmpty()) return RunAllDensities(QApplication::applicationFilePath(), folder);

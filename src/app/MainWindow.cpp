@@ -27,7 +27,8 @@ namespace quilm {
 namespace {
 
 constexpr QSize usualSize(1280, 860);
-constexpr QSize smallestSize(800, 560);  // below the size that pages are made for they scroll
+// Below the size that pages are made for they scroll. A screen of 1366 x 768 pixels at 150 % has room for this.
+constexpr QSize smallestSize(640, 440);
 constexpr int margin = 8;
 
 // The one file of this machine that is dragged; empty for anything else.

@@ -171,6 +171,7 @@ QPalette MarkedGround(Color ground, QPalette::ColorRole behind, QPalette::ColorR
 }
 
 void SetAppearance(const QString& palette) {
+  QGuiApplication::setLayoutDirection(Qt::LeftToRight);
   QApplication::setStyle(new InstrumentStyle);
   if (palette == QLatin1String("dark")) {
     QApplication::setPalette(DarkPalette());

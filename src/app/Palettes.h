@@ -27,6 +27,8 @@ double Contrast(const QColor& one, const QColor& other);
 QPalette MarkedGround(Color ground, QPalette::ColorRole behind, QPalette::ColorRole letters);
 
 // Sets the style of the program, and the palette that is asked for: "light", "dark", or anything else for the system's.
+// The window runs from left to right whatever the desktop's language: its texts are English, units stand behind their
+// numbers, and stages and buttons go the way of the ladder that is drawn.
 void SetAppearance(const QString& palette);
 
 }  // namespace quilm

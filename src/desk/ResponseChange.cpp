@@ -2,8 +2,8 @@
 
 #include <algorithm>
 #include <array>
+#include <charconv>
 #include <cmath>
-#include <cstdio>
 #include <memory>
 
 #include "analysis/AnalysisEntries.h"
@@ -33,9 +33,9 @@ bool Sweep(const Session& session, const Network& network, Responses& responses)
 }
 
 std::string Decibels(f64 value, int decimals) {
-  std::array<char, 40> text{};
-  std::snprintf(text.data(), text.size(), "%.*f", decimals, value);
-  return std::string(text.data()) + " dB";
+  std::array<char, 400> text{};  // the largest number has 309 digits before its point
+  const auto end = std::to_chars(text.begin(), text.end(), value, std::chars_format::fixed, decimals).ptr;
+  return std::string(text.begin(), end) + " dB";
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 #include "app/MainWindow.h"
 
 #include "DemoPages.h"
+#include "app/FirstPlace.h"
 
 namespace quilm {
 namespace {
@@ -81,6 +82,12 @@ TEST_F(MainWindowTest, ItShrinksToSmallScreens) {
   desktop.window.resize(1024, 700);
   QTest::qWait(5);
   EXPECT_EQ(desktop.window.size(), QSize(1024, 700));
+}
+
+// What it has at its foot must not hang below the screen: 1366 x 768 pixels at 150 %, as the toolkit counts them.
+TEST_F(MainWindowTest, ItsSmallestSizeHasRoomOnASmallScreenOfHighDensity) {
+  const QSize room = RoomOn(QRect(0, 0, 911, 512)).size();
+  EXPECT_EQ(desktop.window.minimumSize().boundedTo(room), desktop.window.minimumSize());
 }
 
 }  // namespace

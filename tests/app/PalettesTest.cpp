@@ -1,9 +1,11 @@
-// Whether everything of the window can be seen, in the program's palettes and in the system's.
+// Whether everything of the window can be seen, in the program's palettes and in the system's, and is read the right
+// way.
 #include "app/Palettes.h"
 
 #include <QRadioButton>
 #include <QStyle>
 #include <QStyleOptionButton>
+#include <QTranslator>
 
 namespace quilm {
 namespace {
@@ -80,6 +82,37 @@ TEST(RingOfAnOption, IsDrawnInItsColor) {
     best = std::max(best, Contrast(image.pixelColor(x, mark.center().y()), window));
   }
   EXPECT_GE(best, 3 * 0.95);  // smoothed by a twentieth at most
+  QApplication::setStyle(style);
+  QApplication::setPalette(before);
+}
+
+// As a desktop that speaks Arabic gives the toolkit its texts.
+class TextsFromTheRight : public QTranslator {
+ public:
+  QString translate(const char* /*context*/, const char* source, const char* /*hint*/, int /*n*/) const override {
+    return QLatin1String(source) == QLatin1String("QT_LAYOUT_DIRECTION") ? QStringLiteral("RTL") : QString();
+  }
+  bool isEmpty() const override { return false; }
+};
+
+// The toolkit would turn units before their numbers, and the digits of a table's numbers about their points.
+TEST(Appearance, TheWindowRunsFromLeftToRightOnADesktopThatDoesNot) {
+  const QPalette before = QApplication::palette();
+  const QString style = QApplication::style()->name();
+  QApplication::setLayoutDirection(Qt::LayoutDirectionAuto);
+  TextsFromTheRight texts;
+  QCoreApplication::installTranslator(&texts);
+  QApplication::processEvents();
+  ASSERT_EQ(QApplication::layoutDirection(), Qt::RightToLeft);
+  SetAppearance(QStringLiteral("light"));
+  EXPECT_EQ(QApplication::layoutDirection(), Qt::LeftToRight);
+  EXPECT_EQ(QWidget().layoutDirection(), Qt::LeftToRight);
+  // Also when the texts come late, or anew.
+  QCoreApplication::removeTranslator(&texts);
+  QCoreApplication::installTranslator(&texts);
+  QApplication::processEvents();
+  EXPECT_EQ(QApplication::layoutDirection(), Qt::LeftToRight);
+  QCoreApplication::removeTranslator(&texts);
   QApplication::setStyle(style);
   QApplication::setPalette(before);
 }

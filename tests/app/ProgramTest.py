@@ -78,6 +78,7 @@ class ProgramTest(unittest.TestCase):
         self.preferences = self.folder / "config" / "quilm"
         self.state = self.folder / "state" / "quilm"
         self.programs = []
+        self.locale = {}
 
     def tearDown(self):
         for program in self.programs:
@@ -95,6 +96,7 @@ class ProgramTest(unittest.TestCase):
         for name, folder in (("DATA", self.data), ("CONFIG", self.preferences), ("STATE", self.state)):
             kept[f"XDG_{name}_HOME"] = str(folder.parent)
         kept["XDG_RUNTIME_DIR"] = str(self.folder)
+        kept.update(self.locale)
         if display is not None:
             kept["DISPLAY"] = display
         return kept
@@ -251,6 +253,29 @@ class FoldersOfTheProgram(ProgramTest):
         self.assertEqual({path.name for path in bench.iterdir()}, kept)
         for folder in (self.data, self.preferences, self.state):
             self.assertFalse(folder.exists())
+
+
+class DesktopsOfOtherCountries(ProgramTest):
+    """The toolkit makes the desktop's locale that of the whole program: a comma in Turkish, digits of its own in Arabic."""
+
+    def files_of(self, locale):
+        self.locale = {"LC_ALL": locale, "LOCPATH": str(BIN.parent / "locales")}
+        for folder in (self.data, self.preferences, self.state):
+            shutil.rmtree(folder, ignore_errors=True)
+        design = self.design("lowpass.QLM", "1.25M")
+        display = self.display()
+        program = self.open_design(display, design)
+        display.key(display.windows(PAGE)[0], "ctrl+5")  # to the plot, for which it is swept
+        program.terminate()
+        self.ends(program)
+        files = [design, self.data / "LASTSESSION.QLM", self.preferences / "QuilmConfiguration.CFG"]
+        return [re.sub(rb"\d{4}-\d\d-\d\d( \d\d:\d\d:\d\d)?", b"then", path.read_bytes()) for path in files]
+
+    def test_files_are_the_same_byte_for_byte(self):
+        expected = self.files_of("C")
+        for locale in ("tr_TR.UTF-8", "ar_EG.UTF-8", "fa_IR.UTF-8"):
+            with self.subTest(locale):
+                self.assertEqual(self.files_of(locale), expected)
 
 
 class EndOfTheProgram(ProgramTest):

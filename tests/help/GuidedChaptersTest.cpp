@@ -68,7 +68,13 @@ TEST_F(Chapter, OfTheSolderingIronQuotesTheFiguresOfTheory) {
   // Wheeler's formula, radius and length in inches.
   const f64 radius = 0.5 / 2.54;
   const f64 length = 1.5 / 2.54;
-  EXPECT_TRUE(Has(page, Fixed(std::sqrt(11 * (9 * radius + 10 * length)) / radius, 3) + " turns"));
+  const auto wound = [](f64 microhenriesOf, f64 r, f64 l) { return std::sqrt(microhenriesOf * (9 * r + 10 * l)) / r; };
+  EXPECT_TRUE(Has(page, Fixed(wound(11, radius, length), 3) + " turns"));
+  // A mesh of 200 ohms and 1 MHz, and the section from 200 to 50 ohms at 10.7 MHz.
+  const f64 section = 1e6 * std::sqrt(50.0 * 150) / (2 * Pi * 10.7e6);
+  EXPECT_TRUE(Has(page, Fixed(wound(200 / (2 * Pi), 0.25, 1), 3) + " turns for 31.8 uh"));
+  EXPECT_TRUE(Has(page, Fixed(wound(section, 0.25, 1), 2) + " for the sections"));
+  EXPECT_TRUE(Has(page, Fixed(section, 3) + " uh in the line"));
   const f64 turns = std::round(100 * std::sqrt(11 / 57.0));
   EXPECT_TRUE(Has(page, Fixed(turns, 0) + " turns give " + Fixed(57 * turns * turns * 1e-4, 2) + " uh"));
 }

@@ -120,6 +120,79 @@ TEST_F(Chapter, OfTheTopologiesQuotesTheLossesOfTheory) {
   EXPECT_GT(depth(10), 70);
 }
 
+// By the formulas of the analysis: a nodal bandpass of one hundredth.
+TEST_F(Chapter, OfTheTopologiesQuotesWhatANarrowBandLoses) {
+  const std::string page = Plain(PageNamed("topologies"));
+  const std::vector<f64> g = ChebyshevValues(3, 0.1);
+  const f64 node = 100 * g[0] / (w0 * R);
+  const f64 coupling = g[0] / (w0 * R * std::sqrt(g[0] * g[1]));
+  DesignRecord record;
+  record.Rsource[1] = record.Rload[1] = record.Rstandard = R;
+  record.Qind[1] = 200;
+  record.Qcap[1] = 2000;
+  for (const f64 taken : {1, 0, 2, 0, 1}) {
+    Stage& stage = record.stage[++record.Stages];
+    stage.ElementType = taken > 0 ? ShuntPLC : SeriesC;
+    stage.Lval.value = taken > 0 ? static_cast<f32>(1 / (w0 * w0 * node)) : 0;
+    stage.Cval.value = static_cast<f32>(taken > 0 ? node - taken * coupling : coupling);
+  }
+  plain::Point center;
+  plain::AnalyzePoint(record, 1e7F, 1e7F, 0, 1e7F, center);
+  EXPECT_TRUE(Has(page, "would lose " + Fixed(-center.TransDB, 1) + " db")) << center.TransDB;
+  const f64 formula = 20 / std::log(10.0) / 2 * 100 * (1 / 200.0 + 1 / 2000.0) * (g[0] + g[1] + g[2]);
+  EXPECT_TRUE(Has(page, "says " + Fixed(formula, 1))) << formula;
+}
+
+// The spread of a shunt-input bandpass, and the width from which the middle node of a nodal one is negative.
+TEST_F(Chapter, OfTheTopologiesQuotesTheLimitsOfTheForms) {
+  const std::vector<f64> g = ChebyshevValues(3, 0.1);
+  const std::string page = Plain(PageNamed("topologies"));
+  EXPECT_TRUE(Has(page, "here " + Fixed(g[0] * g[1] * 100, 0) + " to 1"));
+  EXPECT_NEAR(std::sqrt(g[0] * g[1]) / 2, 0.5, 0.05) << "wider than about half its center";
+}
+
+// By how much the response at an edge lies below the peak, dB.
+f64 DownAtEdge(const json& responses, f64 edge) {
+  f64 peak = -1000;
+  f64 nearest = 1e12;
+  f64 there = 0;
+  for (const json& point : responses["points"]) {
+    const f64 trans = point["RespTrans"];
+    const f64 distance = std::fabs(point["RespFreq"].get<f64>() - edge);
+    peak = std::max(peak, trans);
+    if (distance < nearest) there = trans;
+    nearest = std::min(nearest, distance);
+  }
+  return peak - there;
+}
+
+// The book says where Gaussian to 12 keeps its 3 dB at the edge, and warns of all other topologies.
+TEST_F(Chapter, OfTheTopologiesWarnsOfGaussianTo12WhereItFails) {
+  const std::vector<std::pair<std::string, bool>> options = {
+      {"optCapInLowpass", true},      {"optIndInLowpass", false},   {"optCapInHighpass", false},
+      {"optIndInHighpass", false},    {"optNodCapBandpass", false}, {"optNodIndBandpass", false},
+      {"optShuntInGeoSymm", true},    {"optSeriesInGeoSymm", true}, {"optMeshCapBandpass", true},
+      {"optSeriesInBandstop", false}, {"optShuntInBandstop", false}};
+  std::string script =
+      "press cmdDesignNew\npress optGaussian12\npress optCapInLowpass\nspin UpDown1 up 2\ntype txtBandwidth 1M\n"
+      "type txtInputTerm 50\npress cmdAnalysis\ntype txtQinductor 10M\ntype txtQcapacitor 10M\npress cmdDesign\n";
+  for (const auto& [option, holds] : options) {
+    script += "press " + option + "\n";
+    if (option == "optNodCapBandpass") script += "type txtCenterFrequency 100M\n";
+    script += "press cmdPlot\npress cmdFitSweep\nresponses\npress cmdDesign\n";
+  }
+  const Ended ended = Run("-", script);
+  ASSERT_EQ(ended.status, 0) << ended.err;
+  const std::vector<json> responses = OfKind(ended.Events(), "responses");
+  ASSERT_EQ(responses.size(), options.size());
+  for (std::size_t i = 0; i < options.size(); ++i) {
+    const f64 edge = i < 4 ? 1e6 : 100.50125e6;
+    EXPECT_EQ(std::fabs(DownAtEdge(responses[i], edge) - 3.01) < 0.1, options[i].second) << options[i].first;
+  }
+  const std::string trap = Plain(SectionOf(PageNamed("families"), "gaussian-to-12"));
+  EXPECT_TRUE(Has(trap, "capacitor-input lowpass, shunt-input, series-input or mesh capacitor-coupled bandpass"));
+}
+
 // In 50 ohms the coupled forms of a family with unlike ends: the last value over the first.
 TEST_F(Chapter, OfTheTopologiesQuotesTheLoadsOfUnlikeEnds) {
   const std::string page = Plain(PageNamed("topologies"));

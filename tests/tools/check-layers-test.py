@@ -47,6 +47,13 @@ class Layers(unittest.TestCase):
         self.assert_fault("only src/app includes Qt", "src/core/A.h", "#include <QtCore/QString>")
         self.assert_sound("src/app/A.cpp", "#include <QString>")
 
+    def test_nothing_uses_what_is_private_to_the_toolkit(self):
+        for private in ("<private/qwidget_p.h>", "<QtGui/private/qguiapplication_p.h>", '"qwidget_p.h"'):
+            self.assert_fault("private to Qt", "src/app/A.cpp", f"#include {private}")
+            self.assertEqual(len(check_layers.private_faults_of("tests/app/A.cpp", f"#include {private}\n")), 1)
+        for link, count in (("Qt6::Gui Qt6::WidgetsPrivate)", 1), ("Qt6::Gui Qt6::Widgets)", 0)):
+            self.assertEqual(len(check_layers.private_faults_of("src/app/CMakeLists.txt", link)), count)
+
     def test_nothing_includes_the_front_ends(self):
         self.assert_fault("nothing includes the front ends", "src/pages/PageDirectory.cpp", '#include "app/A.h"')
         self.assert_fault("nothing includes the front ends", "src/app/main.cpp", '#include "script/A.h"')
