@@ -1,9 +1,10 @@
-# Makes the help of its pages: cmake -DSOURCE=help -DFOLDER=build/help -P book.cmake
+# Makes the help of its pages: cmake -DSOURCE=help -DLISTINGS=build/help-build -DFOLDER=build/help -P book.cmake
 #
 # A page is written as what stands below its title. Title, the picture at its head, its neighbours and the list of
 # contents beside it come from contents.txt, where a dash is no
 # picture; the index shows that list alone.
 cmake_minimum_required(VERSION 3.25)
+include("${CMAKE_CURRENT_LIST_DIR}/listings.cmake")
 
 file(STRINGS "${SOURCE}/contents.txt" lines)
 file(READ "${SOURCE}/page.htm.in" template)
@@ -37,9 +38,10 @@ list(LENGTH files count)
 set(place 0)
 foreach(file IN LISTS files)
   file(READ "${SOURCE}/pages/${file}.htm" body)
+  fill_in_listings(body)
   set(contents "${list}")
   if(file STREQUAL "index")
-    string(APPEND body "${list}")
+    string(APPEND body "<div class=\"chapters\">\n${list}\n</div>")
     set(contents "")
   else()
     if(NOT picture_${file} STREQUAL "-")

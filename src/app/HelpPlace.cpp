@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QStringList>
 
 namespace quilm {
 
@@ -12,20 +13,15 @@ bool HoldsHelp(const QString& folder) { return QFileInfo::exists(folder + QStrin
 
 }  // namespace
 
-QString FindHelp(const QString& program, const QStringList& elsewhere) {
+QString FindHelp(const QString& program) {
   QStringList places;
-  for (const char* place : {"../share/quilm/help", "help", "../help"}) {
+  for (const char* place : {QUILM_DATA_FROM_PROGRAM "/help", "help", "../help"}) {
     places << QDir::cleanPath(QDir(program).filePath(QString::fromLatin1(place)));
   }
-  places << elsewhere;
   for (const QString& place : places) {
     if (HoldsHelp(place)) return place;
   }
-  return elsewhere.value(0);
-}
-
-QStringList OtherHelpPlaces() {
-  return {QStringLiteral(QUILM_DATA_DIR "/help"), QStringLiteral(QUILM_BUILD_DIR "/help")};
+  return places.front();
 }
 
 }  // namespace quilm

@@ -2,16 +2,13 @@
 #pragma once
 
 #include <QString>
-#include <QStringList>
 
 namespace quilm {
 
-// The folder with the help pages that belong to a program in the folder `program`: beside it as an installation lays
-// them out, else in the build folder that it was built in, else the first of `elsewhere` that has them. Without any the
-// first of those: where they should be.
-QString FindHelp(const QString& program, const QStringList& elsewhere);
-
-// Where this build is to be installed, and the folder that it was built in.
-QStringList OtherHelpPlaces();
+// The folder with the help pages that belong to a program in the folder `program`: the data folder as the installation
+// lays it out, else one beside the program or its folder, as a build folder has it. Without any the first: where they
+// should be. The program holds no absolute path, so that an installation can be moved and its bytes do not tell where
+// they were built.
+QString FindHelp(const QString& program);
 
 }  // namespace quilm

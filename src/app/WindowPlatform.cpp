@@ -129,7 +129,7 @@ void WindowPlatform::Pause(f64 seconds) {
 }
 
 std::string WindowPlatform::HelpFolder() {
-  return FindHelp(QCoreApplication::applicationDirPath(), OtherHelpPlaces()).toStdString();
+  return FindHelp(QCoreApplication::applicationDirPath()).toStdString();
 }
 
 DateTime WindowPlatform::Now() {

@@ -19,7 +19,7 @@ void GoTo(ScriptRun& run, const std::string& name) {
 }
 
 void Press(ScriptRun& run, const std::string& arguments) {
-  const std::string name = Arguments(arguments, 1, 1, "press NAME").front();
+  const std::string name = Arguments(arguments, 1, 1).front();
   GoTo(run, name);
   PictureBox* picture = LookUpControl(run, name) == nullptr ? LookUpArea(run, name) : nullptr;
   if (picture != nullptr) {
@@ -56,7 +56,7 @@ void TypeKeys(ScriptRun& run, TextBox& box, std::string_view keys) {
 
 void TypeText(ScriptRun& run, const std::string& arguments) {
   const FirstWord split = SplitFirst(arguments);
-  if (split.word.empty()) throw CommandFailure{"the form is: type NAME TEXT"};
+  if (split.word.empty()) throw WrongForm{};
   GoTo(run, split.word);
   TextBox& box = FindKind<TextBox>(run, split.word, "text box");
   if (box.Usable()) run.focus.Give(run.Top(), box);
@@ -68,9 +68,8 @@ void TypeText(ScriptRun& run, const std::string& arguments) {
 }
 
 void SpinButtons(ScriptRun& run, const std::string& arguments) {
-  constexpr std::string_view form = "spin NAME up|down [COUNT]";
-  const auto words = Arguments(arguments, 2, 3, form);
-  if (words[1] != "up" && words[1] != "down") throw CommandFailure{"the form is: " + std::string(form)};
+  const auto words = Arguments(arguments, 2, 3);
+  if (words[1] != "up" && words[1] != "down") throw WrongForm{};
   const int count = words.size() == 3 ? CountArgument(words[2], 1, std::numeric_limits<int>::max()) : 1;
   GoTo(run, words[0]);
   const Page& page = run.Top();
@@ -81,26 +80,25 @@ void SpinButtons(ScriptRun& run, const std::string& arguments) {
 }
 
 void ChooseLine(ScriptRun& run, const std::string& arguments) {
-  const auto words = Arguments(arguments, 2, 2, "choose NAME N");
+  const auto words = Arguments(arguments, 2, 2);
   const int line = CountArgument(words[1], 1, std::numeric_limits<int>::max());
   GoTo(run, words[0]);
   Choose(run.session, FindKind<ListBox>(run, words[0], "list"), line);
 }
 
 void MouseOnPicture(ScriptRun& run, const std::string& arguments) {
-  constexpr std::string_view form = "mouse down|move|up X Y [left|right]";
   const std::map<std::string_view, MouseAct> acts{
       {"down", MouseAct::Down}, {"move", MouseAct::Move}, {"up", MouseAct::Up}};
   const std::map<std::string_view, MouseButton> buttons{{"left", MouseButton::Left}, {"right", MouseButton::Right}};
-  const auto words = Arguments(arguments, 3, 4, form);
+  const auto words = Arguments(arguments, 3, 4);
   const auto act = acts.find(words[0]);
   const auto button = buttons.find(words.size() == 4 ? std::string_view(words[3]) : "left");
-  if (act == acts.end() || button == buttons.end()) throw CommandFailure{"the form is: " + std::string(form)};
+  if (act == acts.end() || button == buttons.end()) throw WrongForm{};
   Mouse(run.session, PagePicture(run), act->second, NumberArgument(words[1]), NumberArgument(words[2]), button->second);
 }
 
 void ClosePage(ScriptRun& run, const std::string& arguments) {
-  Arguments(arguments, 0, 0, "close");
+  Arguments(arguments, 0, 0);
   Page& page = run.Top();
   run.focus.MoveTo(page, {});
   if (run.session.pages.Top() != &page) throw CommandFailure{"the page was left before it could be closed"};
@@ -114,36 +112,45 @@ void StepInHistory(ScriptRun& run, void (*step)(Session&)) {
 }
 
 void UndoStep(ScriptRun& run, const std::string& arguments) {
-  Arguments(arguments, 0, 0, "undo");
+  Arguments(arguments, 0, 0);
   StepInHistory(run, Undo);
 }
 
 void RedoStep(ScriptRun& run, const std::string& arguments) {
-  Arguments(arguments, 0, 0, "redo");
+  Arguments(arguments, 0, 0);
   StepInHistory(run, Redo);
 }
 
 // F1.
 void Help(ScriptRun& run, const std::string& arguments) {
-  Arguments(arguments, 0, 0, "help");
+  Arguments(arguments, 0, 0);
   OpenHelp(run.session, run.Top().Id());
 }
 
 void RunAtYield(ScriptRun& run, const std::string& arguments) {
   const FirstWord split = SplitFirst(arguments);
   const auto command = ParseLine(split.rest, run.Present().line);
-  if (split.word.empty() || !command) throw CommandFailure{"the form is: at-yield N COMMAND"};
+  if (split.word.empty() || !command) throw WrongForm{};
   run.AtYield(CountArgument(split.word, 1, std::numeric_limits<int>::max()), *command);
 }
 
 }  // namespace
 
-const CommandTable& ActCommands() {
-  static const CommandTable table{{"press", Press},        {"type", TypeText},        {"spin", SpinButtons},
-                                  {"choose", ChooseLine},  {"mouse", MouseOnPicture}, {"close", ClosePage},
-                                  {"undo", UndoStep},      {"redo", RedoStep},        {"help", Help},
-                                  {"at-yield", RunAtYield}};
-  return table;
+const CommandRows& ActCommands() {
+  static const CommandRows rows{
+      {"press NAME", "click a button or option of the page on top, or a named area of its picture", Press},
+      {"type NAME TEXT", "select all in the box and type TEXT, which runs to the line's end", TypeText},
+      {"spin NAME up|down [COUNT]", "press the upper or lower button of a spin control, once or COUNT times",
+       SpinButtons},
+      {"choose NAME N", "click line N of a list, from 1", ChooseLine},
+      {"mouse down|move|up X Y [left|right]",
+       "press, move or release the mouse on the page's picture, X and Y in the picture's scale", MouseOnPicture},
+      {"close", "press the page's close box", ClosePage},
+      {"undo", "take back the last change of the design", UndoStep},
+      {"redo", "make the change again that was taken back last", RedoStep},
+      {"help", "open the help page of the page on top, as F1 does", Help},
+      {"at-yield N COMMAND", "run COMMAND inside the N-th pause of a long run from now", RunAtYield}};
+  return rows;
 }
 
 }  // namespace quilm

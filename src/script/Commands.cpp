@@ -1,5 +1,6 @@
 #include "script/Commands.h"
 
+#include <algorithm>
 #include <charconv>
 
 #include "shell/Page.h"
@@ -28,26 +29,34 @@ std::vector<PictureBox*> PicturesOf(const Page& page) {
 
 }  // namespace
 
-void RunCommand(ScriptRun& run, const Command& command) {
-  for (const CommandTable* table : {&ActCommands(), &QueueCommands(), &PrintCommands()}) {
-    const auto at = table->find(command.name);
-    if (at == table->end()) continue;
-    at->second(run, command.arguments);
-    return;
+CommandRows AllCommands() {
+  CommandRows all;
+  for (const CommandRows* rows : {&ActCommands(), &QueueCommands(), &PrintCommands()}) {
+    all.insert(all.end(), rows->begin(), rows->end());
   }
-  throw CommandFailure{"unknown command " + command.name};
+  return all;
 }
 
-std::vector<std::string> Arguments(const std::string& arguments, std::size_t least, std::size_t most,
-                                   std::string_view form) {
+void RunCommand(ScriptRun& run, const Command& command) {
+  static const CommandRows all = AllCommands();
+  const auto row = std::ranges::find(all, command.name, &CommandRow::Name);
+  if (row == all.end()) throw CommandFailure{"unknown command " + command.name};
+  try {
+    row->run(run, command.arguments);
+  } catch (const WrongForm&) {
+    throw CommandFailure{"the form is: " + std::string(row->form)};
+  }
+}
+
+std::vector<std::string> Arguments(const std::string& arguments, std::size_t least, std::size_t most) {
   std::vector<std::string> words = Words(arguments);
-  if (words.size() < least || words.size() > most) throw CommandFailure{"the form is: " + std::string(form)};
+  if (words.size() < least || words.size() > most) throw WrongForm{};
   return words;
 }
 
-std::string WholeArgument(const std::string& arguments, std::string_view form) {
+std::string WholeArgument(const std::string& arguments) {
   std::string text = WithoutBlanksAtEnd(arguments);
-  if (text.empty()) throw CommandFailure{"the form is: " + std::string(form)};
+  if (text.empty()) throw WrongForm{};
   return text;
 }
 

@@ -1,8 +1,6 @@
 // The commands of a script by name.
 #pragma once
 
-#include <initializer_list>
-#include <map>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -20,19 +18,33 @@ class PictureBox;
 // Does the command. Throws CommandFailure, or a std::exception of whatever it called, when it cannot be done.
 void RunCommand(ScriptRun& run, const Command& command);
 
-using CommandFunction = void (*)(ScriptRun& run, const std::string& arguments);
-using CommandTable = std::map<std::string_view, CommandFunction>;
+// The arguments are not written as the command's form says. Thrown by a command before it has done anything; whoever
+// runs the command tells its form.
+struct WrongForm {};
 
-const CommandTable& ActCommands();    // what a user does: press, type, spin, choose, mouse, close, undo, at-yield
-const CommandTable& QueueCommands();  // what is prepared: answer, file, printer, seed, date
-const CommandTable& PrintCommands();  // what is printed or written: record, responses, page, canvas, ...
+// What is to be said of a command: how it is written, its name first, and what it does, in one sentence.
+struct CommandRow {
+  std::string_view form;
+  std::string_view effect;
+  void (*run)(ScriptRun& run, const std::string& arguments);
 
-// The words of the arguments, from `least` to `most` of them; `form` is how the command is written.
-std::vector<std::string> Arguments(const std::string& arguments, std::size_t least, std::size_t most,
-                                   std::string_view form);
+  std::string_view Name() const { return form.substr(0, form.find(' ')); }
+};
 
-// One argument that runs to the line's end, which must not be empty.
-std::string WholeArgument(const std::string& arguments, std::string_view form);
+using CommandRows = std::vector<CommandRow>;
+
+const CommandRows& ActCommands();    // what a user does: press, type, spin, choose, mouse, close, undo, at-yield
+const CommandRows& QueueCommands();  // what is prepared: answer, file, printer, seed, date
+const CommandRows& PrintCommands();  // what is printed or written: record, responses, page, canvas, ...
+
+// All of them, in that order.
+CommandRows AllCommands();
+
+// The words of the arguments, from `least` to `most` of them. Throws WrongForm for more and for fewer.
+std::vector<std::string> Arguments(const std::string& arguments, std::size_t least, std::size_t most);
+
+// One argument that runs to the line's end. Throws WrongForm when it is empty.
+std::string WholeArgument(const std::string& arguments);
 
 // A number in plain decimal or exponent form, a whole number.
 f32 NumberArgument(const std::string& word);

@@ -19,16 +19,16 @@ namespace {
 constexpr std::size_t anyNumber = std::numeric_limits<std::size_t>::max();
 
 void PrintRecord(ScriptRun& run, const std::string& arguments) {
-  run.Emit(RecordEvent(run.session.record, Arguments(arguments, 0, anyNumber, "record [FIELD ...]")));
+  run.Emit(RecordEvent(run.session.record, Arguments(arguments, 0, anyNumber)));
 }
 
 void PrintResponses(ScriptRun& run, const std::string& arguments) {
   run.Emit(ResponsesEvent(run.session.identity, run.session.sweep, run.session.responses,
-                          Arguments(arguments, 0, anyNumber, "responses [INDEX ...]")));
+                          Arguments(arguments, 0, anyNumber)));
 }
 
 void PrintPage(ScriptRun& run, const std::string& arguments) {
-  Arguments(arguments, 0, 0, "page");
+  Arguments(arguments, 0, 0);
   for (const Page* page : PagesInSight(run)) run.Emit(PageEvent(*page));
 }
 
@@ -48,7 +48,7 @@ Pictured FindPictured(ScriptRun& run, const std::string& name) {
 }
 
 void PrintCanvas(ScriptRun& run, const std::string& arguments) {
-  const auto words = Arguments(arguments, 0, 1, "canvas [NAME]");
+  const auto words = Arguments(arguments, 0, 1);
   const Pictured found = FindPictured(run, words.empty() ? std::string() : words[0]);
   run.Emit(found.box != nullptr ? CanvasEvent(*found.box) : CanvasEvent(*found.button));
 }
@@ -65,7 +65,7 @@ bool IsPdf(const std::filesystem::path& path) {
 }
 
 void WritePicture(ScriptRun& run, const std::string& arguments) {
-  const auto words = Arguments(arguments, 1, 2, "picture FILE.svg [NAME]");
+  const auto words = Arguments(arguments, 1, 2);
   const Pictured found = FindPictured(run, words.size() == 2 ? words[1] : std::string());
   const Picture picture = found.box != nullptr ? found.box->AsSeen() : found.button->picture;
   WriteFile(words[0], IsPdf(words[0]) ? PdfText(picture) : SvgText(picture));
@@ -73,7 +73,7 @@ void WritePicture(ScriptRun& run, const std::string& arguments) {
 
 // The page on top as its layout has it, for manuals.
 void WriteSketch(ScriptRun& run, const std::string& arguments) {
-  const std::string path = WholeArgument(arguments, "sketch FILE.svg");
+  const std::string path = WholeArgument(arguments);
   const Picture picture = SketchOf(run.Top());
   WriteFile(path, IsPdf(path) ? PdfText(picture) : SvgText(picture));
 }
@@ -81,7 +81,7 @@ void WriteSketch(ScriptRun& run, const std::string& arguments) {
 // The whole document as a PDF, or sheet by sheet: one sheet is FILE itself; of several, sheet 2 of "plot.svg" is
 // "plot-2.svg".
 void WritePrinted(ScriptRun& run, const std::string& arguments) {
-  const std::filesystem::path path = WholeArgument(arguments, "printed FILE");
+  const std::filesystem::path path = WholeArgument(arguments);
   const SheetPrinter& printer = run.platform.Printer();
   if (!printer.Ended()) throw CommandFailure{"nothing was printed"};
   const std::vector<Picture>& sheets = printer.Sheets();
@@ -116,7 +116,7 @@ void PrintFormatted(ScriptRun& run, const std::string& arguments) {
                                                    {"time", FormatTime},
                                                    {"value", FormatValue},
                                                    {"numtext", [](f32 value) { return NumText(value); }}};
-  const auto words = Arguments(arguments, 2, 2, "format KIND X");
+  const auto words = Arguments(arguments, 2, 2);
   const auto format = formats.find(words[0]);
   if (format == formats.end()) throw CommandFailure{"there is no format " + words[0]};
   run.Emit({{"event", "format"}, {"text", format->second(NumberArgument(words[1]))}});
@@ -124,11 +124,24 @@ void PrintFormatted(ScriptRun& run, const std::string& arguments) {
 
 }  // namespace
 
-const CommandTable& PrintCommands() {
-  static const CommandTable table{{"record", PrintRecord}, {"responses", PrintResponses}, {"page", PrintPage},
-                                  {"canvas", PrintCanvas}, {"picture", WritePicture},     {"printed", WritePrinted},
-                                  {"parse", PrintParsed},  {"format", PrintFormatted},    {"sketch", WriteSketch}};
-  return table;
+const CommandRows& PrintCommands() {
+  static const CommandRows rows{
+      {"record [FIELD ...]", "print fields of the design, all of them where none is named", PrintRecord},
+      {"responses [INDEX ...]", "print points of the sweep by index, all of them where none is given", PrintResponses},
+      {"page", "print the controls of the page on top, and of the page that it stands beside", PrintPage},
+      {"canvas [NAME]", "print the operations of a picture, of what lies over it, and its named areas", PrintCanvas},
+      {"picture FILE.svg [NAME]", "write a picture as it is seen, as SVG, or as PDF where FILE ends in .pdf",
+       WritePicture},
+      {"sketch FILE.svg", "draw the page on top from its layout, as SVG, or as PDF where FILE ends in .pdf",
+       WriteSketch},
+      {"printed FILE",
+       "write the last printed document, as SVG with a file for each sheet, or as PDF where FILE ends in .pdf",
+       WritePrinted},
+      {"parse TEXT", "print the number that an entry box understands in TEXT", PrintParsed},
+      {"format KIND X",
+       "print X as it is shown; KIND is frequency, inductance, capacitance, resistance, time, value or numtext",
+       PrintFormatted}};
+  return rows;
 }
 
 }  // namespace quilm

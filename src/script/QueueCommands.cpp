@@ -9,54 +9,51 @@ namespace quilm {
 namespace {
 
 void QueueAnswer(ScriptRun& run, const std::string& arguments) {
-  const std::string word = Arguments(arguments, 1, 1, "answer ok|yes|no").front();
+  const std::string word = Arguments(arguments, 1, 1).front();
   for (const Answer answer : {Answer::Ok, Answer::Yes, Answer::No}) {
     if (word != AnswerWord(answer)) continue;
     run.platform.answers.push_back(answer);
     return;
   }
-  throw CommandFailure{"the form is: answer ok|yes|no"};
+  throw WrongForm{};
 }
 
 // A file that happens to be called "open" is reached as "./open".
 void QueueFile(ScriptRun& run, const std::string& arguments) {
-  constexpr std::string_view form = "file [open|save] PATH, or file cancel";
   const FirstWord split = SplitFirst(arguments);
   const auto kind = split.word == "open"   ? FileAnswer::For::Open
                     : split.word == "save" ? FileAnswer::For::Save
                                            : FileAnswer::For::Any;
-  const std::string path = WholeArgument(kind == FileAnswer::For::Any ? arguments : split.rest, form);
+  const std::string path = WholeArgument(kind == FileAnswer::For::Any ? arguments : split.rest);
   const bool cancel = path == "cancel" && kind == FileAnswer::For::Any;
   run.platform.files.emplace_back(cancel ? std::nullopt : std::optional(path), kind);
 }
 
 void QueuePrinter(ScriptRun& run, const std::string& arguments) {
-  const std::string word = Arguments(arguments, 1, 1, "printer ok|cancel").front();
-  if (word != "ok" && word != "cancel") throw CommandFailure{"the form is: printer ok|cancel"};
+  const std::string word = Arguments(arguments, 1, 1).front();
+  if (word != "ok" && word != "cancel") throw WrongForm{};
   run.platform.printers.push_back(word == "ok");
 }
 
 void Seed(ScriptRun& run, const std::string& arguments) {
-  const std::string word = Arguments(arguments, 1, 1, "seed N").front();
+  const std::string word = Arguments(arguments, 1, 1).front();
   run.session.random.Seed(static_cast<std::uint32_t>(CountArgument(word, 0, std::numeric_limits<int>::max())));
 }
-
-constexpr std::string_view dateForm = "date YYYY-MM-DD HH:MM:SS";
 
 // The number that the digits of `text` from `first` on show.
 int Digits(const std::string& text, std::size_t first, std::size_t count) {
   const std::string digits = text.substr(first, count);
   if (digits.find_first_not_of("0123456789") != std::string::npos) {
-    throw CommandFailure{"the form is: " + std::string(dateForm)};
+    throw WrongForm{};
   }
   return CountArgument(digits, 0, 9999);
 }
 
 void FixClock(ScriptRun& run, const std::string& arguments) {
-  const auto words = Arguments(arguments, 2, 2, dateForm);
+  const auto words = Arguments(arguments, 2, 2);
   const std::string text = words[0] + " " + words[1];
   if (text.size() != 19 || text[4] != '-' || text[7] != '-' || text[13] != ':' || text[16] != ':') {
-    throw CommandFailure{"the form is: " + std::string(dateForm)};
+    throw WrongForm{};
   }
   const int year = Digits(text, 0, 4);
   const int month = Digits(text, 5, 2);
@@ -74,10 +71,16 @@ void FixClock(ScriptRun& run, const std::string& arguments) {
 
 }  // namespace
 
-const CommandTable& QueueCommands() {
-  static const CommandTable table{
-      {"answer", QueueAnswer}, {"file", QueueFile}, {"printer", QueuePrinter}, {"seed", Seed}, {"date", FixClock}};
-  return table;
+const CommandRows& QueueCommands() {
+  static const CommandRows rows{
+      {"answer ok|yes|no", "queue the answer to the next message box", QueueAnswer},
+      {"file [open|save] PATH, or file cancel",
+       "queue the answer to the next file dialog; with open or save, a dialog of the other kind is an error",
+       QueueFile},
+      {"printer ok|cancel", "queue the answer to the next print dialog", QueuePrinter},
+      {"seed N", "start the random numbers anew from N, so that a run can be repeated", Seed},
+      {"date YYYY-MM-DD HH:MM:SS", "set the clock to this time and stop it", FixClock}};
+  return rows;
 }
 
 }  // namespace quilm

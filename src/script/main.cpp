@@ -11,6 +11,7 @@
 #include "core/Fault.h"
 #include "desk/StartUp.h"
 #include "pages/PageDirectory.h"
+#include "script/Listing.h"
 #include "script/ScriptRun.h"
 #include "script/SignalWatch.h"
 #include "script/TemporaryFolder.h"
@@ -76,6 +77,20 @@ int RunInFolder(const std::string& file, const std::string& folder) {
   return RunFile(file, folder);
 }
 
+int PrintListing(const std::string& listing) {
+  if (std::cout << listing << std::flush) return 0;
+  std::cerr << "quilm-script: the output cannot be written\n";
+  return exitFailed;
+}
+
+int PrintControls(const std::string& form) {
+  try {
+    return PrintListing(ControlListing(AllPages(), form));
+  } catch (const CommandFailure& failure) {
+    return UsageError(failure.reason);
+  }
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -84,7 +99,12 @@ int main(int argc, char** argv) {
   std::string file = "-";
   const CLI::Option* given =
       app.add_option("--folder", folder, "the program's folder, with its configuration (default: a temporary one)");
-  app.add_option("FILE", file, "the script, - for standard input")->capture_default_str();
+  const CLI::Option* script = app.add_option("FILE", file, "the script, - for standard input")->capture_default_str();
+  bool listsCommands = false;
+  app.add_flag("--commands", listsCommands, "list the commands of scripts and end");
+  std::string form;
+  CLI::Option* controls = app.add_option("--controls", form, "list the controls of every page, or of one, and end");
+  controls->option_text("[PAGE]")->expected(0, 1);
   app.set_version_flag("--version", "quilm-script " QUILM_VERSION);
   try {
     app.parse(argc, argv);
@@ -93,5 +113,11 @@ int main(int argc, char** argv) {
   }
   // Whoever reads the output may stop before its end: that is output which cannot be written, told like any other.
   std::signal(SIGPIPE, SIG_IGN);
+  if (listsCommands || controls->count() > 0) {
+    if (given->count() + script->count() > 0 || (listsCommands && controls->count() > 0)) {
+      return UsageError("--commands and --controls stand alone");
+    }
+    return listsCommands ? PrintListing(CommandListing()) : PrintControls(form);
+  }
   return given->count() == 0 ? RunInTemporaryFolder(file) : RunInFolder(file, folder);
 }

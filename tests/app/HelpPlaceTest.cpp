@@ -20,31 +20,30 @@ class HelpPlace : public testing::Test {
   QTemporaryDir folder;
 };
 
-TEST_F(HelpPlace, AnInstalledProgramHasItBesideIt) {
+TEST_F(HelpPlace, AnInstalledProgramHasItInTheDataFolder) {
   Make("usr/share/quilm/help");
-  Make("elsewhere");
-  EXPECT_EQ(FindHelp(Place("usr/bin"), {Place("elsewhere")}), Place("usr/share/quilm/help"));
+  Make("usr/help");
+  EXPECT_EQ(FindHelp(Place("usr/bin")), Place("usr/share/quilm/help"));
 }
 
 TEST_F(HelpPlace, AProgramInItsBuildFolderHasItInThatFolder) {
   Make("source/build/dev/help");
-  Make("installed");
-  EXPECT_EQ(FindHelp(Place("source/build/dev/bin"), {Place("installed")}), Place("source/build/dev/help"));
+  EXPECT_EQ(FindHelp(Place("source/build/dev/bin")), Place("source/build/dev/help"));
 }
 
-TEST_F(HelpPlace, AProgramThatWasMovedFindsTheFolderItWasBuiltIn) {
-  Make("build-folder/help");
-  EXPECT_EQ(FindHelp(Place("build/bin"), {Place("installed"), Place("build-folder/help")}), Place("build-folder/help"));
+TEST_F(HelpPlace, APlainFolderHasItBesideTheProgram) {
+  Make("quilm/help");
+  EXPECT_EQ(FindHelp(Place("quilm")), Place("quilm/help"));
 }
 
 TEST_F(HelpPlace, AFolderThatHoldsSomethingElseIsPassedOver) {
-  ASSERT_TRUE(QDir().mkpath(Place("usr/help")));
-  Make("installed");
-  EXPECT_EQ(FindHelp(Place("usr/bin"), {Place("installed")}), Place("installed"));
+  ASSERT_TRUE(QDir().mkpath(Place("usr/share/quilm/help")));
+  Make("usr/help");
+  EXPECT_EQ(FindHelp(Place("usr/bin")), Place("usr/help"));
 }
 
 TEST_F(HelpPlace, WithoutAnyItIsWhereItShouldBe) {
-  EXPECT_EQ(FindHelp(Place("usr/bin"), {Place("installed"), Place("build-folder/help")}), Place("installed"));
+  EXPECT_EQ(FindHelp(Place("usr/bin")), Place("usr/share/quilm/help"));
 }
 
 }  // namespace

@@ -172,6 +172,14 @@ class CommandLineOfTheProgram(ProgramTest):
         self.assertEqual(program.returncode, 0)
         self.assertIn("3.183099E-09", self.last_session())  # 1 / (2 Pi 1e6 50)
 
+    def test_a_desktop_finds_the_menu_entry_of_the_window(self):
+        display = self.display()
+        self.open_design(display, self.design("lowpass.QLM", "1M"))
+        entry = (SOURCE / "packaging" / "linux" / "org.quilm.Quilm.desktop").read_text()
+        name = re.search("^StartupWMClass=(.*)$", entry, re.MULTILINE)[1]
+        of_name = display.tool("search", "--onlyvisible", "--class", f"^{name}$")
+        self.assertEqual(of_name, display.windows(PAGE))
+
     def test_a_design_that_is_not_there_is_told(self):
         display = self.display()
         program = self.start(display, str(self.folder / "none.QLM"))

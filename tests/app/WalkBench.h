@@ -3,6 +3,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QElapsedTimer>
 #include <QLineEdit>
 #include <QTemporaryDir>
 #include <QTest>
@@ -110,7 +111,22 @@ class Walk : public testing::Test {
     EXPECT_EQ(Top().Id(), home);
   }
 
-  // The same with a page of a window of its own.
+  // Up and down by key on a spin control of a tool, from the key to the painted plot. The limit leaves room for a busy
+  // machine and for sanitizers.
+  void ExpectStepsWithoutLag(const char* spin) {
+    constexpr int steps = 100;
+    QElapsedTimer clock;
+    clock.start();
+    for (int i = 0; i < steps; ++i) {
+      QTest::keyClick(Find(spin), i % 2 == 0 ? Qt::Key_Up : Qt::Key_Down);
+      PlotBeside().repaint();
+    }
+    const f64 milliseconds = static_cast<f64>(clock.nsecsElapsed()) / 1e6 / steps;
+    RecordProperty("millisecondsAStep", std::to_string(milliseconds));
+    EXPECT_LT(milliseconds, 60);
+  }
+
+  // As WithTool, with a page of a window of its own.
   void WithModal(const char* button, const std::function<void()>& act) {
     constexpr int untilItStands = 100;  // milliseconds
     QTimer::singleShot(untilItStands, &desktop_.window, act);

@@ -1,29 +1,18 @@
 // The help as it was built: every link and picture leads somewhere, every page of the program has its page, with a
 // picture, and every control is named there.
 #include <algorithm>
-#include <cctype>
-#include <filesystem>
 #include <map>
-#include <regex>
 #include <set>
 
 #include "core/EntryLimits.h"
+#include "help/BookText.h"
 #include "pages/PageOverLowpass.h"
 #include "shell/HelpPages.h"
 
 namespace quilm {
 namespace {
 
-namespace fs = std::filesystem;
-
 const fs::path folder = QUILM_HELP;
-
-std::string Read(const fs::path& path) {
-  std::ifstream in(path, std::ios::binary);
-  std::ostringstream text;
-  text << in.rdbuf();
-  return text.str();
-}
 
 std::vector<std::string> PagesOfTheHelp() {
   std::vector<std::string> files;
@@ -31,42 +20,6 @@ std::vector<std::string> PagesOfTheHelp() {
     if (entry.path().extension() == ".htm") files.push_back(entry.path().filename().string());
   }
   return files;
-}
-
-std::vector<std::string> AllOf(const std::string& text, const std::string& pattern) {
-  const std::regex expression(pattern);
-  std::vector<std::string> found;
-  for (std::sregex_iterator at(text.begin(), text.end(), expression), end; at != end; ++at) found.push_back((*at)[1]);
-  return found;
-}
-
-std::string WithoutContents(const std::string& page) {
-  const std::size_t from = page.find("<main>");
-  return from == std::string::npos ? std::string() : page.substr(from);
-}
-
-// What a reader sees, in small letters, with one blank between words.
-std::string Plain(const std::string& html) {
-  std::string text = std::regex_replace(html, std::regex("<[^>]*>"), " ");
-  text = std::regex_replace(text, std::regex("&lt;"), "<");
-  text = std::regex_replace(text, std::regex("&gt;"), ">");
-  text = std::regex_replace(text, std::regex("&amp;"), "&");
-  text = std::regex_replace(text, std::regex("\\s+"), " ");
-  std::ranges::transform(text, text.begin(), [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
-  return text;
-}
-
-bool IsWordPart(char c) { return std::isalnum(static_cast<unsigned char>(c)) != 0; }
-
-// Whether the words stand in the text as words of their own.
-bool Has(const std::string& text, const std::string& words) {
-  for (std::size_t at = text.find(words); at != std::string::npos; at = text.find(words, at + 1)) {
-    const bool begins = at == 0 || !IsWordPart(text[at - 1]) || !IsWordPart(words.front());
-    const std::size_t end = at + words.size();
-    const bool ends = end >= text.size() || !IsWordPart(text[end]) || !IsWordPart(words.back());
-    if (begins && ends) return true;
-  }
-  return false;
 }
 
 // "Save 4 (empty)" is named by "Save 1 to Save 10", too.
