@@ -35,6 +35,14 @@ if(QUILM_SANITIZE)
   target_link_options(quilm-options INTERFACE "-fsanitize=${QUILM_SANITIZE}")
 endif()
 
+# quilm_reads_arguments(SOURCES...): sources that read a command line by CLI11, whose code is all inline. It runs once, and
+# optimising it takes Clang 10 s a source under sanitizers, so there it is not.
+function(quilm_reads_arguments)
+  if(QUILM_SANITIZE)
+    set_source_files_properties(${ARGN} PROPERTIES COMPILE_OPTIONS -O0 SKIP_PRECOMPILE_HEADERS ON)
+  endif()
+endfunction()
+
 # quilm_library(NAME SOURCES... LINKS...): one static library of the program.
 function(quilm_library name)
   cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LINKS")
