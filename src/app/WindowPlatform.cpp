@@ -128,9 +128,7 @@ void WindowPlatform::Pause(f64 seconds) {
   stage_.Wait(static_cast<int>(std::lround(seconds * millisecondsPerSecond)));
 }
 
-std::string WindowPlatform::HelpFolder() {
-  return FindHelp(QCoreApplication::applicationDirPath()).toStdString();
-}
+std::string WindowPlatform::HelpFolder() { return FindHelp(QCoreApplication::applicationDirPath()).toStdString(); }
 
 DateTime WindowPlatform::Now() {
   const QDateTime now = QDateTime::currentDateTime();
