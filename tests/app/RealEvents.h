@@ -26,7 +26,7 @@ inline void Send(const QStringList& words) {
 
 // Puts the pointer on a place of a widget.
 inline QStringList PointTo(const QWidget& widget, QPoint place) {
-  const QPoint at = widget.mapToGlobal(place);
+  const QPoint at = (QPointF(widget.mapToGlobal(place)) * widget.devicePixelRatio()).toPoint();
   return {QStringLiteral("mousemove"), QString::number(at.x()), QString::number(at.y())};
 }
 
