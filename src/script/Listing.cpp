@@ -50,15 +50,12 @@ std::string Shown(const Control& control) {
   return shown;
 }
 
-// A timer is never seen.
-bool IsListed(const Control* control) { return control->kind != ControlKind::Timer; }
-
 std::string Listed(const Page& page) {
   std::string text = std::string(page.Name()) + ": " + page.title + '\n';
   std::size_t widest = 0;
   for (const Control* control : page.Controls()) widest = std::max(widest, control->name.size());
   for (const Control* control : page.Controls()) {
-    if (!IsListed(control)) continue;
+    if (control->kind == ControlKind::Timer) continue;  // never seen
     std::string line = "  " + Padded(control->name, widest + 2) + Padded(KindName(control->kind), 9) + Shown(*control);
     text += WithoutBlanksAtEnd(line) + '\n';
   }

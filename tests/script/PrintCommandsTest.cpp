@@ -1,8 +1,10 @@
+#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 
+#include "script/Commands.h"
 #include "script/ScriptBench.h"
 #include "script/TemporaryFolder.h"
 #include "support/PdfTools.h"
@@ -158,6 +160,22 @@ TEST(FormatCommand, PrintsEachDisplayFormat) {
   for (const auto& [arguments, text] : cases) {
     EXPECT_EQ(RunText("format " + arguments).One("format"), Json({{"event", "format"}, {"text", text}})) << arguments;
   }
+}
+
+// As the command's effect lists them.
+TEST(FormatCommand, KnowsEveryKindThatItTellsOf) {
+  const CommandRows& rows = PrintCommands();
+  const auto row = std::ranges::find(rows, "format", &CommandRow::Name);
+  ASSERT_NE(row, rows.end());
+  std::string kinds(row->effect.substr(row->effect.find("KIND is ") + 8));
+  std::ranges::replace(kinds, ',', ' ');
+  int known = 0;
+  for (const std::string& kind : Words(kinds)) {
+    if (kind == "or") continue;
+    EXPECT_EQ(RunText("format " + kind + " 1").Reason(), "") << kind;
+    ++known;
+  }
+  EXPECT_EQ(known, 7);
 }
 
 TEST(FormatCommand, KnowsTimesAndPlainValues) {
