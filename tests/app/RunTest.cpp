@@ -11,6 +11,7 @@
 #include "app/Desktop.h"
 #include "app/EndSignal.h"
 #include "app/PictureView.h"
+#include "app/RepeatedLook.h"
 #include "support/DemoRunPage.h"
 
 namespace quilm {
@@ -129,14 +130,7 @@ TEST_F(Run, TheSystemsSignalEndsTheProgramFromInside) {
 TEST_F(Run, TheWindowIsResizedAndPaintedMeanwhile) {
   constexpr QSize smaller(900, 640);
   bool painted = false;
-  int looks = 50;
-  const QObject whileThisRuns;
-  std::function<void()> look;
-  const auto lookSoon = [&] {
-    constexpr int untilPainted = 100;  // milliseconds
-    QTimer::singleShot(untilPainted, &whileThisRuns, look);
-  };
-  look = [&] {
+  const auto seen = [&] {
     EXPECT_EQ(desktop.window.size(), smaller);
     const QWidget* view = Widget("picPlot");
     const QPoint corner = view->mapToGlobal(QPoint(0, 0));
@@ -147,12 +141,12 @@ TEST_F(Run, TheWindowIsResizedAndPaintedMeanwhile) {
     for (int x = 0; x < shot.width() && !painted; ++x) {
       for (int y = 0; y < shot.height() && !painted; ++y) painted = shot.pixelColor(x, y) == QColor(Qt::blue);
     }
-    if (!painted && --looks > 0) return lookSoon();
-    ClickOn("cmdEnd");
+    return painted;
   };
+  RepeatedLook look(seen, [&] { ClickOn("cmdEnd"); });
   StartAnd([&] {
     desktop.window.resize(smaller);
-    lookSoon();
+    look.start();
   });
   EXPECT_TRUE(painted);
   EXPECT_THAT(log.heard, Contains("end"));

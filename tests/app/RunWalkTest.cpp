@@ -5,6 +5,7 @@
 #include <csignal>
 
 #include "app/EndSignal.h"
+#include "app/RepeatedLook.h"
 #include "app/WalkBench.h"
 #include "core/DesignRecord.h"
 #include "core/Responses.h"
@@ -138,26 +139,19 @@ TEST_F(RunWalk, TheWindowIsResizedMovedAndPaintedMeanwhile) {
   bool trials = false;
   int before = 0;
   int after = 0;
-  int looks = 50;
-  const QObject whileThisRuns;
-  std::function<void()> look;
-  const auto lookSoon = [&] {
-    constexpr int untilPainted = 100;  // milliseconds
-    QTimer::singleShot(untilPainted, &whileThisRuns, look);
-  };
-  look = [&] {
+  const auto seen = [&] {
     after = Trials();
     EXPECT_EQ(desktop_.window.size(), smaller);
     EXPECT_EQ(desktop_.window.pos(), place);
     trials = ScreenShows([](QColor c) { return c.red() > 100 && c.green() < 50 && c.blue() < 50; });
-    if (!(trials && after > before) && --looks > 0) return lookSoon();
-    ClickAtOnce("cmdEnd");
+    return trials && after > before;
   };
+  RepeatedLook look(seen, [&] { ClickAtOnce("cmdEnd"); });
   StartAnd("cmdMonteCarlo", [&] {
     before = Trials();
     desktop_.window.resize(smaller);
     desktop_.window.move(place);
-    lookSoon();
+    look.start();
   });
   EXPECT_GT(after, before);
   EXPECT_TRUE(trials);
